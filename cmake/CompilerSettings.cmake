@@ -1,0 +1,29 @@
+# SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+# SPDX-License-Identifier: MIT
+
+# The language level, the warnings and the sanitizers of everything that is built here. Warnings become errors with
+# CMAKE_COMPILE_WARNING_AS_ERROR, which the presets and scripts/test set and a distribution need not.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 11)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+option(PROPERTIESDIALOG_SANITIZE "Build with AddressSanitizer (leaks included) and UndefinedBehaviorSanitizer" OFF)
+if(PROPERTIESDIALOG_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+add_library(ProjectWarnings INTERFACE)
+target_compile_options(ProjectWarnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wcast-qual -Wformat=2 -Wundef
+    $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wzero-as-null-pointer-constant>
+)
+
+# What our own sources may not use: implicit text conversions and the macros that collide with other libraries.
+add_library(StrictQt INTERFACE)
+target_compile_definitions(StrictQt INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING)
