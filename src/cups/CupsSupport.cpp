@@ -1,0 +1,652 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "CupsSupport.h"
+
+#include "CLocale.h"
+#include "OptionsFile.h"
+#include "Rounding.h"
+#include "Scheduler.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <cups/cups.h>
+#include <cups/ppd.h>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <vector>
+
+// The PPD interface is deprecated as a whole; label printers have nothing else yet.
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
+namespace {
+
+// How a line break is stored in an option's value: the two backslashes become one on the way through some readers.
+constexpr char storedLineBreak[] = "\\\\r";
+constexpr char reducedLineBreak[] = "\\r";
+
+bool isOneOf(int value, std::initializer_list<int> allowed)
+{
+    return std::find(allowed.begin(), allowed.end(), value) != allowed.end();
+}
+
+// The first of an array of libcups' records that matches, or null.
+template<typename Record, typename Predicate>
+Record *findRecord(Record *records, int count, Predicate matches)
+{
+    Record *const end = records + count;
+    Record *const found = std::find_if(records, end, matches);
+    return found == end ? nullptr : found;
+}
+
+// The first matching option of a PPD file's top-level groups; subgroups are not searched.
+template<typename Predicate>
+ppd_option_t *findPpdOption(const ppd_file_t *ppd, Predicate matches)
+{
+    for (int i = 0; ppd && i < ppd->num_groups; ++i) {
+        if (ppd_option_t *found = findRecord(ppd->groups[i].options, ppd->groups[i].num_options, matches))
+            return found;
+    }
+    return nullptr;
+}
+
+const ppd_size_t *findPageSize(const ppd_file_t *ppd, const char *name)
+{
+    const auto isNamed = [name](const ppd_size_t &size) { return qstrcmp(size.name, name) == 0; };
+    return ppd ? findRecord(ppd->sizes, ppd->num_sizes, isNamed) : nullptr;
+}
+
+// The options of one job: those of the destination, overridden by the host's. Freed with the object.
+class JobOptions
+{
+public:
+    JobOptions(const cups_dest_t &dest, const QStringList &list)
+    {
+        for (int i = 0; i < dest.num_options; ++i)
+            add(dest.options[i].name, dest.options[i].value);
+        for (int i = 0; i + 1 < list.size(); i += 2)
+            add(list.at(i).toLatin1().constData(), list.at(i + 1).toLatin1().constData());
+    }
+    ~JobOptions() { cupsFreeOptions(count, options); }
+
+    JobOptions(const JobOptions &) = delete;
+    JobOptions &operator=(const JobOptions &) = delete;
+
+    int count = 0;
+    cups_option_t *options = nullptr;
+
+private:
+    void add(const char *name, const char *value) { count = cupsAddOption(name, value, count, &options); }
+};
+
+} // namespace
+
+// ----- destinations and the current printer -----
+
+CupsSupport::CupsSupport()
+{
+    getDefaultPrinter();
+}
+
+CupsSupport::~CupsSupport()
+{
+    closePpdFile();
+    if (dests && destCount > 0)
+        cupsFreeDests(destCount, dests);
+}
+
+int CupsSupport::getDefaultPrinter()
+{
+    cupsFreeDests(destCount, dests);
+    dests = nullptr;
+    destCount = 0;
+    const SchedulerConnection connection;
+    if (connection.isOpen())
+        destCount = cupsGetDests2(connection.get(), &dests);
+    if (!dests || destCount < 1)
+        return currentIndex;
+    // Printers may have gone since the last time; an index past the end would be no printer for good.
+    if (currentIndex >= destCount)
+        currentIndex = 0;
+    for (int i = 0; i < destCount; ++i) {
+        if (dests[i].is_default)
+            currentIndex = i;
+    }
+    return currentIndex;
+}
+
+void CupsSupport::setCurrentPrinter(int index)
+{
+    closePpdFile();
+    currentIndex = index;
+    openPpdFile();
+}
+
+void CupsSupport::openPpdFile() const
+{
+    const cups_dest_t *dest = currentDest();
+    if (!dest)
+        return;
+    const SchedulerConnection connection;
+    const char *path = connection.isOpen() ? cupsGetPPD2(connection.get(), dest->name) : nullptr;
+    if (!path)
+        return;
+    ppd = ppdOpenFile(path);
+    unlink(path); // the copy is ours and nobody else knows it
+    if (!ppd)
+        return;
+    ppdMarkDefaults(ppd);
+    cupsMarkOptions(ppd, dest->num_options, dest->options);
+}
+
+cups_dest_t *CupsSupport::currentDest() const
+{
+    if (!dests || destCount < 1 || currentIndex < 0 || currentIndex >= destCount)
+        return nullptr;
+    return dests + currentIndex;
+}
+
+int CupsSupport::getCurrentIndex() const
+{
+    return currentIndex;
+}
+
+int CupsSupport::getDestCount() const
+{
+    return destCount;
+}
+
+QString CupsSupport::getCurrentQueueName() const
+{
+    const cups_dest_t *dest = currentDest();
+    if (!dest)
+        return QString();
+    const QString name = QString::fromUtf8(dest->name);
+    return dest->instance ? name + QLatin1Char('/') + QString::fromUtf8(dest->instance) : name;
+}
+
+QString CupsSupport::getCurrentPrinterName() const
+{
+    const cups_option_t *option = printerOption(QStringLiteral("printer-info"));
+    return option ? QString::fromUtf8(option->value) : QLatin1String("");
+}
+
+ppd_file_t *CupsSupport::getPpdFile() const
+{
+    if (!ppd)
+        openPpdFile();
+    return ppd;
+}
+
+void CupsSupport::closePpdFile()
+{
+    if (ppd)
+        ppdClose(ppd);
+    ppd = nullptr;
+}
+
+int CupsSupport::setDests()
+{
+    cups_dest_t *dest = currentDest();
+    if (!dest)
+        return -1;
+    // One pass: the option that slides into a freed slot is not examined in it. Settings that the user made equal to the
+    // default are gone already, see setValue(); what this drops is left over from elsewhere, and hosts rely on its extent.
+    for (int i = 0; i < dest->num_options; ++i) {
+        const cups_option_t &option = dest->options[i];
+        const char *defaultValue = getDefaultValue(option.name);
+        if (defaultValue && !std::strcmp(defaultValue, option.value))
+            dest->num_options = cupsRemoveOption(option.name, dest->num_options, &dest->options);
+    }
+    return OptionsFile::save(dests, destCount) ? 0 : -1;
+}
+
+const char *CupsSupport::getCupsError()
+{
+    return cupsLastErrorString();
+}
+
+cups_option_t *CupsSupport::printerOption(const QString &name) const
+{
+    const cups_dest_t *dest = currentDest();
+    if (!dest)
+        return nullptr;
+    return findRecord(dest->options, dest->num_options, [&name](const cups_option_t &option) {
+        return name == QString::fromUtf8(option.name);
+    });
+}
+
+int CupsSupport::printerForSelectOption(const char *keyword, const char *value) const
+{
+    for (int i = 0; i < destCount; ++i) {
+        const char *saved = cupsGetOption(keyword, dests[i].num_options, dests[i].options);
+        if (saved && value && !std::strcmp(saved, value))
+            return i;
+    }
+    return -1;
+}
+
+// ----- options by keyword -----
+
+ppd_option_t *CupsSupport::ppdOption(const char *keyword) const
+{
+    return findPpdOption(getPpdFile(), [keyword](const ppd_option_t &option) {
+        return qstrcmp(option.keyword, keyword) == 0;
+    });
+}
+
+const char *CupsSupport::getDefaultValue(const char *keyword) const
+{
+    const ppd_option_t *option = ppdOption(keyword);
+    return option ? option->defchoice : nullptr;
+}
+
+const char *CupsSupport::getValue(const char *keyword, int index) const
+{
+    const int i = index == -1 ? currentIndex : index;
+    if (dests && i >= 0 && i < destCount) {
+        // Not cupsGetOption(), which does not tell upper from lower case.
+        const auto isNamed = [keyword](const cups_option_t &option) { return qstrcmp(option.name, keyword) == 0; };
+        const cups_option_t *found = findRecord(dests[i].options, dests[i].num_options, isNamed);
+        if (found && found->value)
+            return found->value;
+    }
+    return getDefaultValue(keyword);
+}
+
+int CupsSupport::setValue(const char *keyword, const char *value)
+{
+    cups_dest_t *dest = currentDest();
+    if (!dest)
+        return -1;
+    // The destination carries only what differs from the PPD file.
+    const char *defaultValue = getDefaultValue(keyword);
+    if (defaultValue && !std::strcmp(defaultValue, value))
+        dest->num_options = cupsRemoveOption(keyword, dest->num_options, &dest->options);
+    else
+        dest->num_options = cupsAddOption(keyword, value, dest->num_options, &dest->options);
+    return dest->num_options;
+}
+
+int CupsSupport::setDouble(const char *keyword, double value)
+{
+    char text[64];
+    const CLocale cLocale;
+    return std::snprintf(text, sizeof text, "%1.3lf", value) < 1 ? -1 : setValue(keyword, text);
+}
+
+int CupsSupport::setInt(const char *keyword, int value)
+{
+    char text[32];
+    const CLocale cLocale;
+    return std::snprintf(text, sizeof text, "%d", value) < 1 ? -1 : setValue(keyword, text);
+}
+
+int CupsSupport::setBool(const char *keyword, bool value)
+{
+    return setValue(keyword, value ? "True" : "False");
+}
+
+bool CupsSupport::getDouble(const char *keyword, double *value) const
+{
+    const char *text = getValue(keyword);
+    const CLocale cLocale;
+    return !text || std::sscanf(text, "%lf", value) != 1;
+}
+
+bool CupsSupport::getInt(const char *keyword, int *value) const
+{
+    const char *text = getValue(keyword);
+    const CLocale cLocale;
+    return !text || std::sscanf(text, "%d", value) != 1;
+}
+
+bool CupsSupport::getBool(const char *keyword, bool *value) const
+{
+    const char *text = getValue(keyword);
+    if (!text)
+        return true;
+    *value = text[0] == 'T' || text[0] == 't';
+    return false;
+}
+
+bool CupsSupport::getString(const char *keyword, QString *value) const
+{
+    const char *text = getValue(keyword);
+    if (!text) {
+        *value = QString();
+        return false;
+    }
+    *value = QString::fromLatin1(text);
+    value->replace(QLatin1String(storedLineBreak), QLatin1String("\n"));
+    value->replace(QLatin1String(reducedLineBreak), QLatin1String("\n"));
+    return true;
+}
+
+int CupsSupport::setString(const char *keyword, const QString &value)
+{
+    if (value.isEmpty())
+        return setValue(keyword, "");
+    QByteArray text = value.toLatin1();
+    if (!text.endsWith('\n') && !text.endsWith('\r'))
+        text += '\r';
+    text.replace("\r\n", storedLineBreak);
+    text.replace('\r', storedLineBreak);
+    text.replace('\n', storedLineBreak);
+    return setValue(keyword, text.constData());
+}
+
+// ----- label settings -----
+
+namespace {
+
+double numberOr(double fallback, const CupsSupport &cups, const char *keyword)
+{
+    double value = fallback;
+    return cups.getDouble(keyword, &value) ? fallback : value;
+}
+
+int integerOr(int fallback, const CupsSupport &cups, const char *keyword)
+{
+    int value = fallback;
+    return cups.getInt(keyword, &value) ? fallback : value;
+}
+
+bool flag(const CupsSupport &cups, const char *keyword)
+{
+    bool value = false;
+    return !cups.getBool(keyword, &value) && value;
+}
+
+QString text(const CupsSupport &cups, const char *keyword)
+{
+    QString value;
+    cups.getString(keyword, &value);
+    return value;
+}
+
+// The code itself when CUPS knows it, else landscape.
+CupsSupport::_CupsOrientation knownOrientation(int code)
+{
+    return code >= CupsSupport::Portrait && code <= CupsSupport::ReversePortrait
+        ? static_cast<CupsSupport::_CupsOrientation>(code)
+        : CupsSupport::Landscape;
+}
+
+} // namespace
+
+double CupsSupport::getShift() const { return numberOr(0.0, *this, "Shift"); }
+int CupsSupport::setShift(double millimetres) { return setDouble("Shift", millimetres); }
+double CupsSupport::getStart() const { return numberOr(0.0, *this, "Start"); }
+int CupsSupport::setStart(double millimetres) { return setDouble("Start", millimetres); }
+double CupsSupport::getStop() const { return numberOr(0.0, *this, "Stop"); }
+int CupsSupport::setStop(double millimetres) { return setDouble("Stop", millimetres); }
+double CupsSupport::getMarkOffset() const { return numberOr(0.0, *this, "MarkOffset"); }
+int CupsSupport::setMarkOffset(double millimetres) { return setDouble("MarkOffset", millimetres); }
+double CupsSupport::getMarkSize() const { return numberOr(0.0, *this, "MarkSize"); }
+int CupsSupport::setMarkSize(double millimetres) { return setDouble("MarkSize", millimetres); }
+double CupsSupport::getGapOffset() const { return numberOr(0.0, *this, "GapOffset"); }
+int CupsSupport::setGapOffset(double millimetres) { return setDouble("GapOffset", millimetres); }
+double CupsSupport::getGapSize() const { return numberOr(0.0, *this, "GapSize"); }
+int CupsSupport::setGapSize(double millimetres) { return setDouble("GapSize", millimetres); }
+int CupsSupport::getOffsetV() const { return integerOr(0, *this, "OffsetV"); }
+int CupsSupport::setOffsetV(int dots) { return setInt("OffsetV", dots); }
+int CupsSupport::getOffsetH() const { return integerOr(0, *this, "OffsetH"); }
+int CupsSupport::setOffsetH(int dots) { return setInt("OffsetH", dots); }
+int CupsSupport::setCut(int cut) { return setInt("CutMedia", cut); }
+int CupsSupport::getOverlap() const { return integerOr(0, *this, "Overlap"); }
+int CupsSupport::setOverlap(int dots) { return setInt("Overlap", dots); }
+int CupsSupport::getBack() const { return integerOr(0, *this, "Back"); }
+int CupsSupport::setBack(int dots) { return setInt("Back", dots); }
+int CupsSupport::getFeed() const { return integerOr(0, *this, "Feed"); }
+int CupsSupport::setFeed(int dots) { return setInt("Feed", dots); }
+int CupsSupport::setCategory(_Category category) { return setInt("LabelCategory", category); }
+int CupsSupport::getDarkness() const { return integerOr(7, *this, "Darkness"); }
+int CupsSupport::setDarkness(int darkness) { return setInt("Darkness", darkness); }
+int CupsSupport::getSpeed() const { return integerOr(2, *this, "PrintSpeed"); }
+int CupsSupport::setSpeed(int speed) { return setInt("PrintSpeed", speed); }
+bool CupsSupport::getDirect() const { return flag(*this, "Direct"); }
+int CupsSupport::setDirect(bool direct) { return setBool("Direct", direct); }
+bool CupsSupport::getInverse() const { return flag(*this, "NegativePrint"); }
+int CupsSupport::setInverse(bool inverse) { return setBool("NegativePrint", inverse); }
+bool CupsSupport::getMirror() const { return flag(*this, "MirrorPrint"); }
+int CupsSupport::setMirror(bool mirror) { return setBool("MirrorPrint", mirror); }
+QString CupsSupport::getLabelEnd() const { return text(*this, "LabelEnd"); }
+int CupsSupport::setLabelEnd(const QString &command) { return setString("LabelEnd", command); }
+QString CupsSupport::getLabelStart() const { return text(*this, "LabelStart"); }
+int CupsSupport::setLabelStart(const QString &command) { return setString("LabelStart", command); }
+QString CupsSupport::getJobEnd() const { return text(*this, "JobEnd"); }
+int CupsSupport::setJobEnd(const QString &command) { return setString("JobEnd", command); }
+QString CupsSupport::getJobStart() const { return text(*this, "JobStart"); }
+int CupsSupport::setJobStart(const QString &command) { return setString("JobStart", command); }
+
+int CupsSupport::getCut() const
+{
+    const int cut = integerOr(4, *this, "CutMedia");
+    return isOneOf(cut, {0, 2, 4}) ? cut : 4;
+}
+
+CupsSupport::_Category CupsSupport::getCategory() const
+{
+    return static_cast<_Category>(integerOr(0, *this, "LabelCategory"));
+}
+
+CupsSupport::_CupsOrientation CupsSupport::getOrientation() const
+{
+    return knownOrientation(integerOr(Landscape, *this, "orientation-requested"));
+}
+
+int CupsSupport::setOrientation(_CupsOrientation orientation)
+{
+    return setInt("orientation-requested", knownOrientation(orientation));
+}
+
+// ----- page geometry -----
+
+QSize CupsSupport::getDefaultPageSize() const
+{
+    const ppd_choice_t *size = nullptr;
+    findPpdOption(getPpdFile(), [&size](const ppd_option_t &option) {
+        if (qstrcmp(option.keyword, "PageSize") != 0)
+            return false;
+        size = findRecord(option.choices, option.num_choices, [&option](const ppd_choice_t &choice) {
+            return qstrcmp(choice.choice, option.defchoice) == 0;
+        });
+        return size != nullptr; // else another option of that name may hold its default
+    });
+
+    const char *bracket = size && size->code ? std::strchr(size->code, '[') : nullptr;
+    int width = -1;
+    int height = -1;
+    const CLocale cLocale;
+    if (!bracket || std::sscanf(bracket + 1, "%d %d", &width, &height) != 2)
+        return QSize(-1, -1);
+    return QSize(width, height);
+}
+
+QRect CupsSupport::pageRect(const char *name) const
+{
+    const ppd_size_t *size = findPageSize(getPpdFile(), name);
+    if (!size)
+        return QRect();
+    // The PPD file counts from the bottom left. Each number is rounded on its own.
+    return QRect(roundHalfUp(size->left), roundHalfUp(size->length - size->top),
+                 roundHalfUp(size->right - size->left), roundHalfUp(size->top - size->bottom));
+}
+
+QRect CupsSupport::paperRect(const char *name) const
+{
+    const ppd_size_t *size = findPageSize(getPpdFile(), name);
+    return size ? QRect(0, 0, roundHalfUp(size->width), roundHalfUp(size->length)) : QRect();
+}
+
+QSizeF CupsSupport::getResolution() const
+{
+    const QSizeF unknown(300.0, 304.8);
+    // The PPD default decides, whatever resolution the destination has saved: lengths in dots must not change with it.
+    const char *value = getDefaultValue("Resolution");
+    if (!value)
+        return unknown;
+    double first = 0.0;
+    double second = 0.0;
+    const CLocale cLocale;
+    switch (std::sscanf(value, "%lfx%lf", &first, &second)) {
+    case 2:
+        // Twelve dots to the millimetre are named 305. Only feed lengths are counted in them, so only this side is exact.
+        return QSizeF(first, second == 305.0 ? 304.8 : second);
+    case 1:
+        return QSizeF(first, first);
+    default:
+        return unknown;
+    }
+}
+
+namespace {
+
+// The backfeed in dots that means no extended offset.
+int neutralBack(const CupsSupport &cups)
+{
+    return cups.getResolution().height() == 203.0 ? 12 : 2;
+}
+
+} // namespace
+
+int CupsSupport::getExtendedOffset() const
+{
+    return getBack() - neutralBack(*this);
+}
+
+int CupsSupport::setExtendedOffset(int dots)
+{
+    setBack(dots + neutralBack(*this));
+    return setDests();
+}
+
+// ----- option lists and printing -----
+
+bool CupsSupport::setOptions(const QStringList &list)
+{
+    cups_dest_t *dest = currentDest();
+    if (!dest)
+        return false;
+    bool changed = false;
+    for (int i = 0; i + 1 < list.size(); i += 2) {
+        const QByteArray keyword = list.at(i).toLatin1();
+        const QByteArray value = list.at(i + 1).toLatin1();
+        const char *saved = cupsGetOption(keyword.constData(), dest->num_options, dest->options);
+        if (saved ? value == saved : value.isEmpty())
+            continue;
+        if (saved)
+            dest->num_options = cupsRemoveOption(keyword.constData(), dest->num_options, &dest->options);
+        if (!value.isEmpty())
+            dest->num_options = cupsAddOption(keyword.constData(), value.constData(), dest->num_options,
+                                              &dest->options);
+        changed = true;
+    }
+    return changed;
+}
+
+void CupsSupport::deleteOptions(const QStringList &keywords)
+{
+    cups_dest_t *dest = currentDest();
+    if (!dest)
+        return;
+    for (const QString &keyword : keywords)
+        dest->num_options = cupsRemoveOption(keyword.toLatin1().constData(), dest->num_options, &dest->options);
+}
+
+QStringList CupsSupport::options() const
+{
+    QStringList list;
+    collectMarkedOptions(list, nullptr);
+    return list;
+}
+
+QStringList CupsSupport::cupsOptions() const
+{
+    QStringList list;
+    if (const cups_dest_t *dest = currentDest()) {
+        for (int i = 0; i < dest->num_options; ++i)
+            list << QString::fromLatin1(dest->options[i].name) << QString::fromLatin1(dest->options[i].value);
+    }
+    return list;
+}
+
+QStringList CupsSupport::ppdDefaults() const
+{
+    QStringList list;
+    findPpdOption(getPpdFile(), [&list](const ppd_option_t &option) {
+        list << QString::fromLocal8Bit(option.keyword) << QString::fromLocal8Bit(option.defchoice);
+        return false;
+    });
+    return list;
+}
+
+void CupsSupport::collectMarkedOptions(QStringList &list, const ppd_group_t *group) const
+{
+    if (group) {
+        for (int i = 0; i < group->num_subgroups; ++i)
+            collectMarkedOptionsHelper(list, group->subgroups + i);
+        return;
+    }
+    const ppd_file_t *file = getPpdFile();
+    for (int i = 0; file && i < file->num_groups; ++i) {
+        collectMarkedOptions(list, file->groups + i); // a group's subgroups come before its own options
+        collectMarkedOptionsHelper(list, file->groups + i);
+    }
+}
+
+void CupsSupport::collectMarkedOptionsHelper(QStringList &list, const ppd_group_t *group) const
+{
+    for (int o = 0; o < group->num_options; ++o) {
+        const ppd_option_t &option = group->options[o];
+        for (int c = 0; c < option.num_choices; ++c) {
+            const ppd_choice_t &choice = option.choices[c];
+            if (choice.marked == 1 && qstrcmp(choice.choice, option.defchoice) != 0)
+                list << QString::fromLocal8Bit(option.keyword) << QString::fromLocal8Bit(choice.choice);
+        }
+    }
+}
+
+int CupsSupport::printFile(const QString &fileName, const QString &printerDescription, const QString &title,
+                           const QStringList &list)
+{
+    int index = -1;
+    if (!printerDescription.isEmpty())
+        index = printerForSelectOption("printer-info", printerDescription.toLocal8Bit().constData());
+    const cups_dest_t *dest = index < 0 ? currentDest() : dests + index;
+    if (!dest)
+        return 0;
+    const SchedulerConnection connection;
+    if (!connection.isOpen())
+        return 0;
+    const JobOptions job(*dest, list);
+    const QByteArray jobTitle = (title.isEmpty() ? fileName : title).toLatin1();
+    return cupsPrintFile2(connection.get(), dest->name, fileName.toLocal8Bit().constData(), jobTitle.constData(),
+                          job.count, job.options);
+}
+
+int CupsSupport::printFiles(const QStringList &fileNames, const QString &title, const QStringList &list)
+{
+    const cups_dest_t *dest = currentDest();
+    if (!dest || fileNames.isEmpty())
+        return 0;
+    const SchedulerConnection connection;
+    if (!connection.isOpen())
+        return 0;
+    const JobOptions job(*dest, list);
+    // Names outside Latin-1 are as welcome here as in printFile().
+    std::vector<QByteArray> names;
+    for (const QString &fileName : fileNames)
+        names.push_back(fileName.toLocal8Bit());
+    std::vector<const char *> pointers;
+    for (const QByteArray &name : names)
+        pointers.push_back(name.constData());
+    return cupsPrintFiles2(connection.get(), dest->name, static_cast<int>(pointers.size()), pointers.data(),
+                           title.toLatin1().constData(), job.count, job.options);
+}

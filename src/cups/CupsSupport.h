@@ -1,0 +1,331 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef CUPSSUPPORT_H
+#define CUPSSUPPORT_H
+
+#include "propertiesdialog_export.h"
+
+#include <QRect>
+#include <QSize>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+// The libcups records that this interface passes by pointer; include <cups/cups.h> and <cups/ppd.h> to look inside.
+typedef struct cups_dest_s cups_dest_t;
+typedef struct cups_option_s cups_option_t;
+typedef struct ppd_file_s ppd_file_t;
+typedef struct ppd_group_s ppd_group_t;
+typedef struct ppd_option_s ppd_option_t;
+
+/**
+ * The one object through which everything here touches CUPS: the destinations of the user, which of them is the current
+ * printer, that printer's PPD file, its settings by keyword and by name, and printing.
+ *
+ * The saved options of the current destination are the working copy of its settings. Setters change that copy in
+ * memory; nothing reaches the user's options file until setDests() is called.
+ *
+ * "No printer" below means: there are no destinations, or the current index is negative (or past their end).
+ *
+ * Failures are reported by return values, never by exceptions or messages. Beware of the numeric and flag getters by
+ * keyword (getDouble(), getInt(), getBool()): they return true for FAILURE.
+ *
+ * To be used from the GUI thread only.
+ */
+class PROPERTIESDIALOG_EXPORT CupsSupport
+{
+public:
+    /** The media type, stored under "LabelCategory". Other numbers are passed through as they are. */
+    enum _Category : int {
+        Continuous = 0,
+        LabelsWithGaps = 1,
+        LabelsWithMarks = 2
+    };
+
+    /** The IPP "orientation-requested" codes. */
+    enum _CupsOrientation : int {
+        Portrait = 3,
+        Landscape = 4,
+        ReverseLandscape = 5,
+        ReversePortrait = 6
+    };
+
+    /** Fetches the destinations and makes the default one current. Opens no PPD file yet. */
+    CupsSupport();
+
+    /** Closes the PPD file and frees the destinations; unsaved settings are dropped. */
+    ~CupsSupport();
+
+    CupsSupport(const CupsSupport &) = delete;
+    CupsSupport &operator=(const CupsSupport &) = delete;
+
+    /** @name Destinations and the current printer */
+    /** @{ */
+
+    /**
+     * Fetches all destinations anew and makes the default one current; the last one wins if several are flagged. Without
+     * a default the current index stays as it was (0 after construction). Unsaved settings of every destination are
+     * dropped. An open PPD file stays open, also when it now belongs to another printer: call setCurrentPrinter() or
+     * closePpdFile() to get the right one.
+     *
+     * @return the current index; unchanged when there are no destinations.
+     */
+    int getDefaultPrinter();
+
+    /**
+     * Makes destination @p index current and opens its PPD file, marked with its defaults and the saved options.
+     *
+     * @param index an index obtained from this object, or a negative number for no printer.
+     */
+    void setCurrentPrinter(int index);
+
+    /** The index of the current printer among the destinations; negative for no printer. */
+    int getCurrentIndex() const;
+
+    /** The number of destinations, 0 when there are none or the scheduler could not be reached. */
+    int getDestCount() const;
+
+    /** The queue name of the current destination, with "/instance" where it has one; empty when there is no printer. */
+    QString getCurrentQueueName() const;
+
+    /** The description ("printer-info") of the current printer, not its queue name; "" when it has none. */
+    QString getCurrentPrinterName() const;
+
+    /**
+     * The PPD file of the current printer, opened if it is not open.
+     *
+     * @return the PPD record, or null when there is no printer or it has no PPD file. Owned by this object and valid
+     *         until closePpdFile(), setCurrentPrinter() or destruction.
+     */
+    ppd_file_t *getPpdFile() const;
+
+    /** Closes the PPD file. The next use opens it again and so marks it with the present options. */
+    void closePpdFile();
+
+    /**
+     * Saves the options of all destinations to the user's options file, $HOME/.cups/lpoptions.
+     *
+     * Options of the current printer that equal the default of its PPD file are dropped first, in a single pass: of two
+     * such options in a row only the first one goes.
+     *
+     * The file is replaced as a whole or not at all and reads back as it was in memory.
+     *
+     * @return 0 when saved, -1 when there is no printer or the file could not be written; then the earlier file stands.
+     */
+    int setDests();
+
+    /** What libcups says of the last failure in this thread, as a text for the user. Owned by libcups. */
+    static const char *getCupsError();
+
+    /**
+     * The saved option @p name of the current printer.
+     *
+     * @return the record, owned by this object and valid until the options change; null when there is no such option.
+     */
+    cups_option_t *printerOption(const QString &name) const;
+
+    /** The first destination whose saved option @p keyword has exactly this @p value; -1 when there is none. */
+    int printerForSelectOption(const char *keyword, const char *value) const;
+
+    /** @} */
+    /** @name Options by keyword */
+    /** @{ */
+
+    /**
+     * The default choice that the current printer's PPD file declares for option @p keyword. Options in subgroups are
+     * not searched.
+     *
+     * @return the choice, owned by the PPD file; null when there is no PPD file or no such option.
+     */
+    const char *getDefaultValue(const char *keyword) const;
+
+    /**
+     * The saved option @p keyword of destination @p index (-1: the current printer), else the default of the current
+     * printer's PPD file, also when @p index names another destination.
+     *
+     * @return the value, owned by this object and valid until the options change; null when there is none.
+     */
+    const char *getValue(const char *keyword, int index = -1) const;
+
+    /**
+     * Stores @p value in the working copy. A value that equals the PPD default removes the saved option instead.
+     *
+     * @return the new number of saved options, -1 when there is no printer.
+     */
+    int setValue(const char *keyword, const char *value);
+
+    /** Stores a number with three decimals and a decimal point; see setValue(). */
+    int setDouble(const char *keyword, double value);
+
+    /** Stores a whole number; see setValue(). */
+    int setInt(const char *keyword, int value);
+
+    /** Stores "True" or "False"; see setValue(). */
+    int setBool(const char *keyword, bool value);
+
+    /** Reads a number. @return true on FAILURE (missing, or no number); then @p value is untouched. */
+    bool getDouble(const char *keyword, double *value) const;
+
+    /** Reads a whole number. @return true on FAILURE (missing, or no number); then @p value is untouched. */
+    bool getInt(const char *keyword, int *value) const;
+
+    /** Reads a flag: true when it begins with T or t. @return true on FAILURE (missing); then @p value is untouched. */
+    bool getBool(const char *keyword, bool *value) const;
+
+    /**
+     * Reads a text of several lines, with line feeds as line breaks.
+     *
+     * @return true when found; else false, and @p value is a null string.
+     */
+    bool getString(const char *keyword, QString *value) const;
+
+    /**
+     * Stores a text of several lines as one line of Latin-1; other characters become "?". A text that is not empty always
+     * ends with a line break, which is added if it is missing. See setValue().
+     */
+    int setString(const char *keyword, const QString &value);
+
+    /** The option @p keyword of the current printer's PPD file, owned by that; null when there is none. */
+    ppd_option_t *ppdOption(const char *keyword) const;
+
+    /** @} */
+    /**
+     * @name Label settings
+     *
+     * Getters return the stated fallback when the setting is missing or unreadable. Setters store through the setter by
+     * keyword and return what that returns; but for setOrientation() they do not check their input.
+     */
+    /** @{ */
+
+    double getShift() const; ///< "Shift", vertical offset in millimetres; fallback 0.0.
+    int setShift(double millimetres);
+    double getStart() const; ///< "Start", start position in millimetres; fallback 0.0.
+    int setStart(double millimetres);
+    double getStop() const; ///< "Stop", stop position in millimetres; fallback 0.0.
+    int setStop(double millimetres);
+    double getMarkOffset() const; ///< "MarkOffset", black mark offset in millimetres; fallback 0.0.
+    int setMarkOffset(double millimetres);
+    double getMarkSize() const; ///< "MarkSize", black mark size in millimetres; fallback 0.0.
+    int setMarkSize(double millimetres);
+    double getGapOffset() const; ///< "GapOffset", in millimetres; fallback 0.0.
+    int setGapOffset(double millimetres);
+    double getGapSize() const; ///< "GapSize", in millimetres; fallback 0.0.
+    int setGapSize(double millimetres);
+    int getOffsetV() const; ///< "OffsetV", vertical print offset in dots; fallback 0.
+    int setOffsetV(int dots);
+    int getOffsetH() const; ///< "OffsetH", horizontal print offset in dots; fallback 0.
+    int setOffsetH(int dots);
+    int getCut() const; ///< "CutMedia": 0 no cut, 2 after the job, 4 after each page; fallback and any other value: 4.
+    int setCut(int cut);
+    int getOverlap() const; ///< "Overlap", in dots; fallback 0.
+    int setOverlap(int dots);
+    int getBack() const; ///< "Back", backfeed in dots; fallback 0.
+    int setBack(int dots);
+    int getFeed() const; ///< "Feed", in dots; fallback 0.
+    int setFeed(int dots);
+    _Category getCategory() const; ///< "LabelCategory", the media type; fallback 0.
+    int setCategory(_Category category);
+    int getDarkness() const; ///< "Darkness"; fallback 7.
+    int setDarkness(int darkness);
+    int getSpeed() const; ///< "PrintSpeed", in inches per second; fallback 2.
+    int setSpeed(int speed);
+    _CupsOrientation getOrientation() const; ///< "orientation-requested"; fallback and any value outside 3 to 6: 4.
+    int setOrientation(_CupsOrientation orientation); ///< Stores 4 for any value outside 3 to 6.
+    bool getDirect() const; ///< "Direct"; fallback false.
+    int setDirect(bool direct);
+    bool getInverse() const; ///< "NegativePrint"; fallback false.
+    int setInverse(bool inverse);
+    bool getMirror() const; ///< "MirrorPrint"; fallback false.
+    int setMirror(bool mirror);
+    QString getLabelEnd() const; ///< "LabelEnd", user command at the end of each label; fallback a null string.
+    int setLabelEnd(const QString &command);
+    QString getLabelStart() const; ///< "LabelStart", user command at the start of each label; fallback a null string.
+    int setLabelStart(const QString &command);
+    QString getJobEnd() const; ///< "JobEnd", user command at the end of each job; fallback a null string.
+    int setJobEnd(const QString &command);
+    QString getJobStart() const; ///< "JobStart", user command at the start of each job; fallback a null string.
+    int setJobStart(const QString &command);
+
+    /** @} */
+    /** @name Page geometry, in points (72 to the inch) and dots per inch */
+    /** @{ */
+
+    /** The default page size of the PPD file, in points; -1 by -1 when it is not known. */
+    QSize getDefaultPageSize() const;
+
+    /** The imageable area of page size @p name, in points, origin at the top left; a null rectangle when not known. */
+    QRect pageRect(const char *name) const;
+
+    /** The sheet of page size @p name at (0, 0), in points; a null rectangle when not known. */
+    QRect paperRect(const char *name) const;
+
+    /** Horizontal and vertical resolution of the PPD default, in dots per inch; 300 and 304.8 when not known. */
+    QSizeF getResolution() const;
+
+    /** The extended print offset in dots: the backfeed less the 12 (at 203 dpi) or 2 dots that mean no offset. */
+    int getExtendedOffset() const;
+
+    /** Stores the extended print offset, in dots, and saves at once. @return what setDests() returns. */
+    int setExtendedOffset(int dots);
+
+    /** @} */
+    /**
+     * @name Option lists and printing
+     *
+     * An option list alternates keyword and value. A trailing keyword without value is ignored.
+     */
+    /** @{ */
+
+    /**
+     * Changes the working copy; an empty value removes the option. Unlike setValue() it keeps values that equal the PPD
+     * default.
+     *
+     * @return true when anything changed.
+     */
+    bool setOptions(const QStringList &list);
+
+    /** Removes the options with these keywords from the working copy. */
+    void deleteOptions(const QStringList &keywords);
+
+    /** The marked choices of the PPD file that differ from its defaults, as an option list. */
+    QStringList options() const;
+
+    /** All saved options of the current destination, as an option list. */
+    QStringList cupsOptions() const;
+
+    /** Every option of the PPD file with its default choice, as an option list; options in subgroups are left out. */
+    QStringList ppdDefaults() const;
+
+    /** Appends to @p list what options() returns for @p group's subgroups; null: for the whole PPD file. */
+    void collectMarkedOptions(QStringList &list, const ppd_group_t *group) const;
+
+    /** Appends to @p list the marked choices of @p group's own options that differ from their defaults. */
+    void collectMarkedOptionsHelper(QStringList &list, const ppd_group_t *group) const;
+
+    /**
+     * Prints a file with the saved options of the destination, overridden for this job by @p list.
+     *
+     * @param printerDescription the "printer-info" of the destination; empty or unknown means the current printer.
+     * @param title the job's title; empty means the file name.
+     * @return the job number, 0 on failure (see getCupsError()).
+     */
+    int printFile(const QString &fileName, const QString &printerDescription, const QString &title,
+                  const QStringList &list);
+
+    /** Prints several files as one job on the current printer; an empty @p title is sent as it is. See printFile(). */
+    int printFiles(const QStringList &fileNames, const QString &title, const QStringList &list);
+
+    /** @} */
+
+private:
+    cups_dest_t *currentDest() const;
+    void openPpdFile() const;
+
+    int currentIndex = 0;
+    int destCount = 0;
+    cups_dest_t *dests = nullptr;
+    mutable ppd_file_t *ppd = nullptr; // opened by the first getter that needs it
+};
+
+#endif
