@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPROPERTIESDIALOG_H
+#define PRINTPROPERTIESDIALOG_H
+
+#include "propertiesdialog_export.h"
+
+#include "CupsSupport.h"
+
+#include <QDialog>
+#include <QPageLayout>
+#include <QString>
+
+class DoubleValidator;
+class Preset;
+class Presets;
+class Preview;
+class QLineEdit;
+class QPrinter;
+class Ui_PrintPropertiesDialog;
+
+/**
+ * The settings of the current label printer.
+ *
+ * The fields are loaded each time the dialog is shown. Apply and OK save them as the destination's options, into the
+ * QPrinter and into the presets. exec() returns 1 after OK, 0 after Cancel or closing the window.
+ *
+ * Lengths are shown in inches; backfeed, overlap and the offsets of the Advanced tab in printer dots.
+ */
+class PROPERTIESDIALOG_EXPORT PrintPropertiesDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /**
+     * @param parent the parent widget, or null.
+     * @param printer receives what is saved; its printer name is the queue whose presets are shown. Not owned.
+     * @param cups the current printer of this object is what the dialog edits. Not owned.
+     *
+     * Both @p printer and @p cups must outlive the dialog.
+     */
+    PrintPropertiesDialog(QWidget *parent, QPrinter *printer, CupsSupport *cups);
+    ~PrintPropertiesDialog() override;
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+    /** Loads the settings of the current printer into all fields. */
+    void updateDialog();
+
+    /** Saves what the fields show. A field that holds no number is skipped: its option keeps its value. */
+    void saveValues();
+
+    /** Sets whether there are unsaved changes, and with it whether Apply is enabled. */
+    void setChanged(bool value);
+
+    /** The orientation that the radio buttons show. */
+    CupsSupport::_CupsOrientation cups_orientation() const;
+
+    /** The same for QPrinter, which does not know the 180 degree variants. */
+    QPageLayout::Orientation orientation() const;
+
+    /** Checks the landscape or the portrait radio button, never one of the 180 degree variants. */
+    void setOrientation(QPageLayout::Orientation orientation);
+
+    /** Shows orientation and effects in the preview. */
+    void updatePreview();
+
+    /** Reads a number with a decimal point. @return false, and 0 in @p out, when @p edit holds none. */
+    bool getDouble(const QLineEdit *edit, double *out) const;
+
+    /** Reads a whole number. @return false, and 0 in @p out, when @p edit holds none. */
+    bool getInt(const QLineEdit *edit, int *out) const;
+
+    /** @name Presets */
+    /** @{ */
+
+    /** Brings both preset lists up to date. @return whether they were filled anew. */
+    bool updatePresets();
+
+    /** Shows @p preset in both lists and its name and description. @return whether the lists moved. */
+    bool updateCurrentPreset(Preset *preset);
+
+    /** Makes @p preset current, applies it to the printer and loads all fields anew. */
+    void setCurrentPreset(Preset *preset);
+
+    /** The same for the preset with this name or file name; an unknown or empty text does nothing. */
+    void setCurrentPreset(const QString &text);
+
+    /** Replaces the printer's options that presets carry by those of @p preset, in the working copy. */
+    void setCupsOptions(Preset *preset);
+
+    /** @} */
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private Q_SLOTS:
+    void on_okButton_clicked();
+    void on_cancelButton_clicked();
+    void on_applyButton_clicked();
+    void on_stockGroupBox_toggled(bool bChecked);
+    void on_widthEdit_textChanged(const QString &text);
+    void on_heightEdit_textChanged(const QString &text);
+    void on_portraitRadioButton_toggled(bool bChecked);
+    void on_landscapeRadioButton_toggled(bool bChecked);
+    void on_portrait180RadioButton_toggled(bool bChecked);
+    void on_landscape180RadioButton_toggled(bool bChecked);
+    void on_mirroredCheckBox_toggled(bool bChecked);
+    void on_inverseCheckBox_toggled(bool bChecked);
+    void on_preset0_currentIndexChanged(int iIndex);
+    void on_manageButton_clicked();
+    void on_speedSlider_valueChanged(int iValue);
+    void on_darknessSlider_valueChanged(int iValue);
+    void on_preset1_currentIndexChanged(int iIndex);
+    void on_nameEdit_editingFinished();
+    void on_descriptionEdit_textChanged();
+    void on_presetNewButton_clicked();
+    void on_presetUpdateButton_clicked();
+    void on_presetDeleteButton_clicked();
+    void on_printMethod_currentIndexChanged(int iIndex);
+    void on_mediaType_currentIndexChanged(int iIndex);
+    void on_gapSize_textChanged(const QString &text);
+    void on_gapOffset_textChanged(const QString &text);
+    void on_cut_currentIndexChanged(int iIndex);
+    void on_feed_textChanged(const QString &text);
+    void on_back_textChanged(const QString &text);
+    void on_overlap_textChanged(const QString &text);
+    void on_stop_textChanged(const QString &text);
+    void on_jobStartRadioButton_toggled(bool bChecked);
+    void on_labelStartRadioButton_toggled(bool bChecked);
+    void on_labelEndRadioButton_toggled(bool bChecked);
+    void on_jobEndRadioButton_toggled(bool bChecked);
+    void on_commandEdit_textChanged();
+    void on_horizontalEdit_textChanged(const QString &text);
+    void on_verticalEdit_textChanged(const QString &text);
+
+private:
+    void createPresets(const QString &printerName);
+    void createValidators();
+    void fillLists();
+    void hideUnusedRows();
+    void showOwnTexts();
+    void showDefaultPageSize();
+    void showFamily();
+    void checkOrientation(int code);
+    void savePrinter();
+    void saveOptions();
+    void saveMedia();
+    void savePresets(const QStringList &defaults);
+    void previewChanged(bool isChange);
+    void showGapLabels(int mediaType);
+    QString &command();
+    QString commandText() const;
+    void showCommand();
+    void selectCommand(bool isSelected, int slot);
+    Preset *selectedPreset() const;
+
+    Ui_PrintPropertiesDialog *ui;
+    QPrinter *printer;
+    CupsSupport *cups;
+    bool updatingPresets = false;
+    Preview *preview = nullptr;
+    Presets *presets = nullptr;
+    bool changed = true;
+    int modelFamily = 0;
+    int commandSlot = 3;
+    QString jobStartCommand;
+    QString labelStartCommand;
+    QString labelEndCommand;
+    QString jobEndCommand;
+    DoubleValidator *gapSizeValidator = nullptr;
+    DoubleValidator *gapOffsetValidator = nullptr;
+    DoubleValidator *feedValidator = nullptr;
+    DoubleValidator *stopValidator = nullptr;
+    DoubleValidator *pageSizeValidator = nullptr;
+    bool showGapOffset = false;
+    bool forceCustomStock = false;
+};
+
+#endif
