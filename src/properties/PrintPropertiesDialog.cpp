@@ -23,6 +23,7 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QScopedValueRollback>
+#include <QTabBar>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -38,6 +39,7 @@ constexpr double pageSizeTop = 1200.0; // inches
 constexpr int decimals = 2;
 constexpr int presetsTabIndex = 1;
 constexpr int builtInPresets = 2; // "<Current Settings>" and "<Default Settings>", always first in the lists
+constexpr int usualFontHeight = 17; // pixels; that of 10 points at 100 dpi
 constexpr double previewSide = 1200.0; // the preview is square whatever the page size
 
 // Every number that a line edit shows goes through this.
@@ -202,8 +204,8 @@ PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer_
     on_mediaType_currentIndexChanged(cups->getCategory());
     ui->jobStartRadioButton->setChecked(true);
     setChanged(false);
-    // The form's size is made for usual fonts; with large ones the fields need more.
-    setFixedSize(size().expandedTo(minimumSizeHint()));
+    makeRoomForLargeFonts();
+    setFixedSize(size());
 }
 
 PrintPropertiesDialog::~PrintPropertiesDialog()
@@ -274,6 +276,26 @@ void PrintPropertiesDialog::hideUnusedRows()
              ui->printMethodLabel, ui->printMethod, ui->backLabel, ui->back, ui->backUnits, ui->overlapLabel, ui->overlap,
              ui->overlapUnits, ui->start, ui->startLabel, ui->startUnits})
         widget->hide();
+}
+
+// The form's sizes are made for usual fonts and stay as they are with these. With larger ones nothing is to be cut off.
+void PrintPropertiesDialog::makeRoomForLargeFonts()
+{
+    if (fontMetrics().height() <= usualFontHeight)
+        return;
+    for (QLineEdit *edit : findChildren<QLineEdit *>()) {
+        const int frame = edit->minimumSizeHint().width() - edit->fontMetrics().maxWidth();
+        const int needed = edit->fontMetrics().horizontalAdvance(QStringLiteral("0.00")) + frame;
+        if (edit->maximumWidth() < needed)
+            edit->setMaximumWidth(needed);
+    }
+    for (QGroupBox *box : {ui->previewGroupBox, ui->orientationGroupBox, ui->effectsGroupBox})
+        box->setMinimumSize(box->minimumSize().expandedTo(box->minimumSizeHint()));
+    const QMargins margins = layout()->contentsMargins();
+    const int tabsWidth = ui->tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
+    const QSize needed = minimumSizeHint().expandedTo(QSize(tabsWidth, 0));
+    setMaximumSize(maximumSize().expandedTo(needed));
+    resize(size().expandedTo(needed));
 }
 
 // The texts that stand in place of the form's.

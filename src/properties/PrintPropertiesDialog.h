@@ -141,6 +141,7 @@ private:
     void createValidators();
     void fillLists();
     void hideUnusedRows();
+    void makeRoomForLargeFonts();
     void showOwnTexts();
     void showDefaultPageSize();
     void showFamily();
