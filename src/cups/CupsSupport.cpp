@@ -106,7 +106,7 @@ int CupsSupport::getDefaultPrinter()
     dests = nullptr;
     destCount = 0;
     const SchedulerConnection connection;
-    if (connection.isOpen())
+    if (connection.isUsable())
         destCount = cupsGetDests2(connection.get(), &dests);
     if (!dests || destCount < 1)
         return currentIndex;
@@ -133,7 +133,7 @@ void CupsSupport::openPpdFile() const
     if (!dest)
         return;
     const SchedulerConnection connection;
-    const char *path = connection.isOpen() ? cupsGetPPD2(connection.get(), dest->name) : nullptr;
+    const char *path = connection.isUsable() ? cupsGetPPD2(connection.get(), dest->name) : nullptr;
     if (!path)
         return;
     ppd = ppdOpenFile(path);
@@ -161,13 +161,17 @@ int CupsSupport::getDestCount() const
     return destCount;
 }
 
+QString CupsSupport::getQueueName(int index) const
+{
+    if (!dests || index < 0 || index >= destCount)
+        return QString();
+    const QString name = QString::fromUtf8(dests[index].name);
+    return dests[index].instance ? name + QLatin1Char('/') + QString::fromUtf8(dests[index].instance) : name;
+}
+
 QString CupsSupport::getCurrentQueueName() const
 {
-    const cups_dest_t *dest = currentDest();
-    if (!dest)
-        return QString();
-    const QString name = QString::fromUtf8(dest->name);
-    return dest->instance ? name + QLatin1Char('/') + QString::fromUtf8(dest->instance) : name;
+    return getQueueName(currentIndex);
 }
 
 QString CupsSupport::getCurrentPrinterName() const
@@ -623,7 +627,7 @@ int CupsSupport::printFile(const QString &fileName, const QString &printerDescri
     if (!dest)
         return 0;
     const SchedulerConnection connection;
-    if (!connection.isOpen())
+    if (!connection.isUsable())
         return 0;
     const JobOptions job(*dest, list);
     const QByteArray jobTitle = (title.isEmpty() ? fileName : title).toLatin1();
@@ -637,7 +641,7 @@ int CupsSupport::printFiles(const QStringList &fileNames, const QString &title, 
     if (!dest || fileNames.isEmpty())
         return 0;
     const SchedulerConnection connection;
-    if (!connection.isOpen())
+    if (!connection.isUsable())
         return 0;
     const JobOptions job(*dest, list);
     // Names outside Latin-1 are as welcome here as in printFile().

@@ -86,7 +86,10 @@ public:
     /** The number of destinations, 0 when there are none or the scheduler could not be reached. */
     int getDestCount() const;
 
-    /** The queue name of the current destination, with "/instance" where it has one; empty when there is no printer. */
+    /** The queue name of destination @p index, with "/instance" where it has one; empty when there is none such. */
+    QString getQueueName(int index) const;
+
+    /** The queue name of the current destination; empty when there is no printer. */
     QString getCurrentQueueName() const;
 
     /** The description ("printer-info") of the current printer, not its queue name; "" when it has none. */

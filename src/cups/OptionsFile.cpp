@@ -85,7 +85,7 @@ void addServerOption(ipp_attribute_t *attribute, cups_dest_t *dest)
 void fetchServerOptions(FreeDests &server)
 {
     const SchedulerConnection connection;
-    if (!connection.isOpen())
+    if (!connection.isUsable())
         return;
     static const char *const wanted[] = {"printer-name", "printer-defaults", "job-sheets-default",
                                          "printer-mandatory-job-attributes"};

@@ -16,7 +16,7 @@ class SchedulerConnection
 {
 public:
     /** How long one wait for the scheduler may last, and for how long a silent scheduler is then left alone. */
-    static constexpr int patienceMs = 3000;
+    static constexpr int patienceMs = 4000;
 
     SchedulerConnection();
     ~SchedulerConnection();
@@ -24,15 +24,23 @@ public:
     SchedulerConnection(const SchedulerConnection &) = delete;
     SchedulerConnection &operator=(const SchedulerConnection &) = delete;
 
-    /** False when the scheduler cannot be reached, or did not answer a moment ago. */
-    bool isOpen() const { return http != nullptr; }
+    /** False when the scheduler did not answer, now or a moment ago. */
+    bool isUsable() const { return usable; }
 
-    /** The connection to hand to libcups, owned by this object. Not for use when isOpen() is false: null would mean
-        libcups' own default connection, which knows no limit. */
+    /** Whether the scheduler accepted a request a moment ago and did not answer it in time. */
+    static bool isSilent();
+
+    /**
+     * The connection to hand to libcups, owned by this object; only for use when isUsable().
+     *
+     * Null when the scheduler refused the connection at once. For libcups that means its own default connection, which is
+     * refused as well, and then cupsLastErrorString() tells the user so.
+     */
     http_t *get() const { return http; }
 
 private:
     http_t *http = nullptr;
+    bool usable = false;
 };
 
 #endif

@@ -5,11 +5,15 @@
 
 #include "CupsSupport.h"
 #include "PrintPropertiesDialog.h"
+#include "Scheduler.h"
 
 #include <QApplication>
+#include <QByteArray>
 #include <QPrinter>
 
-#include <memory>
+#include <cups/cups.h>
+
+#include <optional>
 
 namespace {
 
@@ -23,11 +27,33 @@ bool hasDisplay()
     return false;
 }
 
+// Takes the scheduler out of reach of libcups' own default connection while it lives.
+class SchedulerOutOfReach
+{
+public:
+    SchedulerOutOfReach() { cupsSetServer("/nonexistent"); }
+    ~SchedulerOutOfReach() { cupsSetServer(server.constData()); }
+
+    SchedulerOutOfReach(const SchedulerOutOfReach &) = delete;
+    SchedulerOutOfReach &operator=(const SchedulerOutOfReach &) = delete;
+
+private:
+    const QByteArray server = cupsServer();
+};
+
 int runDialog()
 {
-    QPrinter printer(QPrinter::ScreenResolution);
+    // The printer object is destroyed last but made after the other, whose waits for the scheduler have a limit: QPrinter's
+    // have none. It is kept from a scheduler that does not answer, and then prints to PDF.
+    std::optional<QPrinter> printer;
     CupsSupport cups;
-    PrintPropertiesDialog dialog(nullptr, &printer, &cups);
+    if (SchedulerConnection::isSilent()) {
+        const SchedulerOutOfReach guard;
+        printer.emplace(QPrinter::ScreenResolution);
+    } else {
+        printer.emplace(QPrinter::ScreenResolution);
+    }
+    PrintPropertiesDialog dialog(nullptr, &*printer, &cups);
     return dialog.exec();
 }
 
