@@ -215,12 +215,9 @@ bool isEntryOf(const QByteArray &rawLine, const cups_dest_t *dests, int count)
     const QByteArray kind = words.at(0).toLower();
     if (words.size() < 2 || (kind != "dest" && kind != "default"))
         return false;
-    const int slash = static_cast<int>(words.at(1).indexOf('/'));
-    const QByteArray name = words.at(1).left(slash);
-    const QByteArray instance = slash < 0 ? QByteArray() : words.at(1).mid(slash + 1);
-    return cupsGetDest(name.constData(), slash < 0 ? nullptr : instance.constData(), count,
-                       const_cast<cups_dest_t *>(dests))
-        != nullptr;
+    const QList<QByteArray> parts = words.at(1).split('/');
+    const char *instance = parts.size() > 1 ? parts.at(1).constData() : nullptr;
+    return cupsGetDest(parts.at(0).constData(), instance, count, const_cast<cups_dest_t *>(dests)) != nullptr;
 }
 
 QByteArray otherEntries(const cups_dest_t *dests, int count)
