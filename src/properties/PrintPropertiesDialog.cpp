@@ -303,8 +303,6 @@ void PrintPropertiesDialog::showOwnTexts()
 {
     setWindowTitle(QObject::tr("%1 Printing Preferences").arg(printer ? printer->printerName() : QString()));
     ui->stopLabel->setText(isOffsetGroup(modelFamily) ? tr("Vertical Offset") : tr("Stop Position"));
-    ui->speedValue->setText(QString::number(ui->speedSlider->value()));
-    ui->darknessValue->setText(QString::number(ui->darknessSlider->value()));
     showGapLabels(ui->mediaType->currentIndex());
     ui->aboutVersionLabel->setText(tr("Version %1").arg(BuildConstants::version));
     ui->aboutDateLabel->setText(tr("%1").arg(BuildConstants::releaseDate));
@@ -762,7 +760,12 @@ void PrintPropertiesDialog::changeEvent(QEvent *event)
     QDialog::changeEvent(event);
     if (event->type() != QEvent::LanguageChange)
         return;
+    // Numbers have no language, and a stored one beyond the slider's range is shown as it is.
+    const QString speed = ui->speedValue->text();
+    const QString darkness = ui->darknessValue->text();
     ui->retranslateUi(this);
+    ui->speedValue->setText(speed);
+    ui->darknessValue->setText(darkness);
     showOwnTexts();
 }
 
