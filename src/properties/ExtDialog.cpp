@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "ExtDialog.h"
+
+#include "CupsSupport.h"
+#include "ui_ExtDialog.h"
+
+#include <QEvent>
+
+#include <array>
+
+namespace {
+
+/** The choices in the order of the list. A leading blank takes the place of a plus sign, so that the texts line up. */
+constexpr std::array<const char *, 7> offsetTexts = {
+    QT_TRANSLATE_NOOP("ExtDialog", "-0.75mm"),
+    QT_TRANSLATE_NOOP("ExtDialog", "-0.50mm"),
+    QT_TRANSLATE_NOOP("ExtDialog", "-0.25mm"),
+    QT_TRANSLATE_NOOP("ExtDialog", " 0.00mm"),
+    QT_TRANSLATE_NOOP("ExtDialog", " 0.25mm"),
+    QT_TRANSLATE_NOOP("ExtDialog", " 0.50mm"),
+    QT_TRANSLATE_NOOP("ExtDialog", " 0.75mm"),
+};
+
+/** The index of " 0.00mm". */
+constexpr int zeroIndex = 3;
+
+/**
+ * The printer dots taken for a quarter millimetre. Deliberately a whole number, so that the offset is one as well; only
+ * a resolution of exactly 203 dpi has the small step.
+ */
+int dotsPerStep(const CupsSupport &cups)
+{
+    return cups.getResolution().height() == 203.0 ? 2 : 3;
+}
+
+} // namespace
+
+ExtDialog::ExtDialog(QWidget *parent, CupsSupport *cupsSupport)
+    : QDialog(parent), ui(new Ui_ExtDialog), cups(cupsSupport)
+{
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
+    ui->setupUi(this);
+    for (const char *text : offsetTexts) {
+        ui->offset->addItem(tr(text));
+    }
+    setFixedSize(size());
+
+    // The division truncates towards zero: an offset between two steps shows the one nearer to zero. An offset past the
+    // last step gives an index past the list and so selects nothing, and OK then leaves the stored offset alone.
+    ui->offset->setCurrentIndex(cups->getExtendedOffset() / dotsPerStep(*cups) + zeroIndex);
+}
+
+ExtDialog::~ExtDialog()
+{
+    delete ui;
+}
+
+void ExtDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange) {
+        return;
+    }
+    ui->retranslateUi(this);
+    for (int index = 0; index < ui->offset->count(); ++index) {
+        ui->offset->setItemText(index, tr(offsetTexts[static_cast<std::size_t>(index)]));
+    }
+}
+
+// The button box is connected to accept() and reject() as well, which come first and end exec(). These two then only
+// repeat the hiding and the result, so that each of the two ways does the whole work when the other one is not taken.
+
+void ExtDialog::on_buttonBox_accepted()
+{
+    const int index = ui->offset->currentIndex();
+    if (index >= 0) {
+        cups->setExtendedOffset((index - zeroIndex) * dotsPerStep(*cups));
+    }
+    hide();
+    setResult(Accepted);
+}
+
+void ExtDialog::on_buttonBox_rejected()
+{
+    hide();
+    setResult(Rejected);
+}

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef EXTDIALOG_H
+#define EXTDIALOG_H
+
+#include "propertiesdialog_export.h"
+
+#include <QDialog>
+
+class CupsSupport;
+class Ui_ExtDialog;
+
+/**
+ * Lets the user shift the print position in steps of a quarter millimetre, from -0.75 mm to +0.75 mm.
+ *
+ * exec() returns 1 after OK, and the offset is then already saved as an option of the current printer; 0 after Cancel.
+ */
+class PROPERTIESDIALOG_EXPORT ExtDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /**
+     * @param parent the parent widget, or null.
+     * @param cups the offset of its current printer is shown and changed. Not owned; must outlive the dialog.
+     */
+    ExtDialog(QWidget *parent, CupsSupport *cups);
+    ~ExtDialog() override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private Q_SLOTS:
+    void on_buttonBox_accepted();
+    void on_buttonBox_rejected();
+
+private:
+    Ui_ExtDialog *ui;
+    CupsSupport *cups;
+};
+
+#endif
