@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef PRESET_H
+#define PRESET_H
+
+#include "propertiesdialog_export.h"
+
+#include <QByteArray>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+/**
+ * A named set of option values for one printer, kept as an executable shell script.
+ *
+ * The script is read at the first request for anything that it holds, and written, or removed, by save().
+ *
+ * Constructing a preset for a printer whose name contains "ORCA" switches the list of option keywords that presets
+ * carry, for every preset in the process and for good.
+ */
+class PROPERTIESDIALOG_EXPORT Preset
+{
+public:
+    enum _State : int {
+        NotLoaded = 0, ///< the script has not been read yet
+        Clean = 1,     ///< memory agrees with the script, or there is no script
+        Modified = 2,  ///< changed in memory; the next save() writes the script
+        Deleted = 3    ///< marked for removal; the next save() removes the script
+    };
+
+    /**
+     * @param printer the queue name.
+     * @param file the script's base name without ".sh"; empty for a preset that has no script.
+     * @param options an option list (keyword, value, ...); when it is not empty it is merged by setOptions().
+     * @param name the name to show; when empty the file name is shown.
+     * @param description free text, may span lines.
+     * @param index -1 for the user's presets, 0 or more for built-in ones (their position in lists).
+     */
+    Preset(const QString &printer, const QString &file, const QStringList &options, const QString &name,
+           const QString &description, int index);
+    ~Preset();
+
+    Preset(const Preset &) = delete;
+    Preset &operator=(const Preset &) = delete;
+
+    /** @name Plain accessors, which never read the script */
+    /** @{ */
+    QString printerName() const;
+    QString fileName() const;
+    _State state() const;
+    void setState(_State state);
+    /** Width and height, both above 0, are carried by the script; does not change the state. */
+    void setUserPageSize(const QSizeF &size);
+    /** The keywords that presets carry, in the order of the script's items. */
+    QStringList getOptionNames() const;
+    /** The path of this preset's script. */
+    QString pathName() const;
+    /** The path of the script @p file of @p printer: $HOME/.cups/PRINTER/FILE.sh. */
+    static QString pathName(const QString &printer, const QString &file);
+    /** The script's line that sets the user page size, with its line end. */
+    QString ppdhack() const;
+    /** @} */
+
+    /** @name Accessors that read the script first if it has not been read */
+    /** @{ */
+    QString name(); ///< The name, or the file name where the name is empty.
+    QString description();
+    int index();
+    QStringList options(); ///< An option list: keyword, value, ...
+    QSizeF getUserPageSize(); ///< -1 by -1 when there is none.
+    void setName(const QString &name);
+    void setDescription(const QString &description);
+    void setIndex(int index);
+    /** @} */
+
+    /**
+     * Merges the values of @p list whose keywords presets carry; others are ignored.
+     *
+     * @return true when anything changed; the state is then Modified.
+     */
+    bool setOptions(const QStringList &list);
+
+    /**
+     * Drops all option values. A preset that has not been read is not read first.
+     *
+     * @return false, without change, for a deleted preset and for one that is known to have none.
+     */
+    bool clearOptions();
+
+    /** Reads the script. @return false, without change, when it cannot be read. */
+    bool load();
+
+    /**
+     * Writes a modified preset, removes the script of a deleted one.
+     *
+     * A built-in preset is not written: the user is told so and the script is read again.
+     *
+     * @param defaults the printer's default values as an option list; values that equal them become removals.
+     * @return true when there was nothing to do or it was done.
+     */
+    bool save(const QStringList &defaults);
+
+    /** @name Readers of the script's parts; they return whether they found it and leave the output alone if not */
+    /** @{ */
+    static bool parseAttribute(const QByteArray &data, const QString &key, QString &value);
+    static bool parseOption(const QByteArray &data, const QString &keyword, QString &value);
+    static bool parsePpdhack(const QByteArray &data, QSizeF &size);
+    /** @} */
+
+private:
+    void loadIfNeeded();
+    void modify();
+
+    QString m_printerName;
+    QString m_fileName;
+    QStringList m_options;
+    QString m_name;
+    QString m_description;
+    int m_index;
+    _State m_state;
+    const QStringList &m_optionNames; // the list that all presets share
+    QSizeF m_userPageSize{-1.0, -1.0};
+};
+
+#endif

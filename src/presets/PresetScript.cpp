@@ -1,0 +1,287 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "PresetScript.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+namespace {
+
+// ----- the layout -----
+
+const QLatin1String interpreterLine("#!/bin/bash\n");
+const QLatin1String attributeLine("#%1=%2\n");
+const QLatin1String nameKey("name");
+const QLatin1String descriptionKey("description");
+const QLatin1String indexKey("index");
+const QLatin1String optionsCommand("lpoptions -p");
+const QLatin1String setItem(" -o");
+const QLatin1String removeItem(" -r");
+const QLatin1String ppdhackCommand("ppdhack");
+constexpr int ppdhackDecimals = 2;
+constexpr signed char lastControlCharacter = 31;
+
+const QStringList extendedOptionNames{
+    QStringLiteral("Darkness"),
+    QStringLiteral("Direct"),
+    QStringLiteral("Feed"),
+    QStringLiteral("GapSize"),
+    QStringLiteral("GapOffset"),
+    QStringLiteral("JobEnd"),
+    QStringLiteral("JobStart"),
+    QStringLiteral("LabelCategory"),
+    QStringLiteral("LabelEnd"),
+    QStringLiteral("LabelStart"),
+    QStringLiteral("MarkOffset"),
+    QStringLiteral("MarkSize"),
+    QStringLiteral("MirrorPrint"),
+    QStringLiteral("NegativePrint"),
+    QStringLiteral("OffsetH"),
+    QStringLiteral("OffsetV"),
+    QStringLiteral("orientation-requested"),
+    QStringLiteral("PrintSpeed"),
+    QStringLiteral("Shift"),
+    QStringLiteral("Stop"),
+};
+
+QStringList sharedOptionNames{
+    QStringLiteral("Darkness"),
+    QStringLiteral("Direct"),
+    QStringLiteral("Feed"),
+    QStringLiteral("GapSize"),
+    QStringLiteral("JobEnd"),
+    QStringLiteral("JobStart"),
+    QStringLiteral("LabelCategory"),
+    QStringLiteral("LabelEnd"),
+    QStringLiteral("LabelStart"),
+    QStringLiteral("MarkOffset"),
+    QStringLiteral("MarkSize"),
+    QStringLiteral("MirrorPrint"),
+    QStringLiteral("NegativePrint"),
+    QStringLiteral("OffsetH"),
+    QStringLiteral("OffsetV"),
+    QStringLiteral("orientation-requested"),
+    QStringLiteral("PrintSpeed"),
+    QStringLiteral("Stop"),
+    QStringLiteral("Start"),
+};
+
+// ----- places -----
+
+// Made when the library is loaded: what the host does to its environment later does not move the presets.
+const QString settingsRoot = QString::fromUtf8(qgetenv("HOME")) + QLatin1String("/.cups/");
+
+bool climbs(const QString &path)
+{
+    return path.split(QLatin1Char('/')).contains(QLatin1String(".."));
+}
+
+bool hasControlCharacter(const QString &text)
+{
+    return std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c < QLatin1Char(' ') || c == QLatin1Char(0x7f); });
+}
+
+// ----- writing -----
+
+QString attribute(const QString &key, const QString &value)
+{
+    return QString(attributeLine).arg(key, value);
+}
+
+// A value as the shell is to see it. Only blanks make for quotes; whatever else means something to a shell is written as it
+// is, quotes inside the value included.
+QString shellWord(QString value)
+{
+    for (const QLatin1String flag : {QLatin1String("True"), QLatin1String("False")}) {
+        if (value.compare(flag, Qt::CaseInsensitive) == 0)
+            return flag;
+    }
+    value.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    return value.contains(QLatin1Char(' ')) ? QLatin1Char('\'') + value + QLatin1Char('\'') : value;
+}
+
+// One option of the lpoptions line; empty for a keyword that has neither a value nor a default.
+QString optionItem(const QString &keyword, const QStringList &options, const QStringList &defaults)
+{
+    const auto own = PresetScript::valueIndex(options, keyword);
+    const auto standard = PresetScript::valueIndex(defaults, keyword);
+    // Without a value of the preset's own the default is the value, which equals the default.
+    if (standard >= 0 && (own < 0 || options.at(own) == defaults.at(standard)))
+        return removeItem + keyword;
+    return own < 0 ? QString() : setItem + keyword + QLatin1Char('=') + shellWord(options.at(own));
+}
+
+// ----- reading -----
+
+// The bytes from a position up to the first one that is not above `last` as a signed number: so every byte beyond ASCII ends
+// a value, too.
+QString valueAt(const QByteArray &data, QByteArray::size_type position, signed char last)
+{
+    const auto begin = data.cbegin() + position;
+    const auto end = std::find_if(begin, data.cend(), [last](char c) { return static_cast<signed char>(c) <= last; });
+    return QString::fromLatin1(begin, static_cast<QString::size_type>(end - begin));
+}
+
+// The two Qt versions differ in whether they convert what follows a NUL.
+QString fromLatin1UpToNul(const QByteArray &data)
+{
+    const auto nul = data.indexOf('\0');
+    return QString::fromLatin1(nul < 0 ? data : data.left(nul));
+}
+
+} // namespace
+
+QString PresetScript::folder(const QString &printer)
+{
+    if (printer.startsWith(QLatin1Char('/')) || climbs(printer) || hasControlCharacter(printer))
+        return {};
+    return settingsRoot + printer;
+}
+
+QString PresetScript::pathName(const QString &printer, const QString &file)
+{
+    const QString parent = folder(printer);
+    const QString script = file + suffix;
+    if (parent.isEmpty() || climbs(script) || script.contains(QChar(QChar::Null)))
+        return {};
+    return parent + QLatin1Char('/') + script;
+}
+
+const QStringList &PresetScript::optionNames()
+{
+    return sharedOptionNames;
+}
+
+void PresetScript::useExtendedOptionNames()
+{
+    sharedOptionNames = extendedOptionNames;
+}
+
+QStringList::size_type PresetScript::valueIndex(const QStringList &options, const QString &keyword)
+{
+    for (QStringList::size_type i = 1; i < options.size(); i += 2) {
+        if (options.at(i - 1) == keyword)
+            return i;
+    }
+    return -1;
+}
+
+QString PresetScript::ppdhack(const QSizeF &size, const QString &printer)
+{
+    return QStringLiteral("%1 %2 %3 %4\n")
+        .arg(ppdhackCommand, QString::number(size.width(), 'f', ppdhackDecimals),
+             QString::number(size.height(), 'f', ppdhackDecimals), printer);
+}
+
+QByteArray PresetScript::text(const Content &content, const QStringList &defaults)
+{
+    QString script = interpreterLine;
+    if (content.name != content.fileName)
+        script += attribute(nameKey, content.name);
+    if (!content.description.isEmpty())
+        script += attribute(descriptionKey, content.description);
+    if (content.index >= 0)
+        script += attribute(indexKey, QString::number(content.index));
+
+    script += optionsCommand + content.printerName;
+    for (const QString &keyword : optionNames())
+        script += optionItem(keyword, content.options, defaults);
+    script += QLatin1Char('\n');
+
+    if (content.userPageSize.width() > 0 && content.userPageSize.height() > 0)
+        script += ppdhack(content.userPageSize, content.printerName);
+    return script.toLatin1();
+}
+
+bool PresetScript::write(const QString &path, const QByteArray &script)
+{
+    // A device, a pipe or a folder in the script's place is not for us to replace.
+    const QFileInfo earlier(path);
+    if (path.isEmpty() || (earlier.exists() && !earlier.isFile()))
+        return false;
+    // Should this fail, so does opening the file.
+    QDir().mkpath(path.left(path.lastIndexOf(QLatin1Char('/'))));
+
+    QSaveFile file(path); // takes over the earlier file's permissions, and follows a link to it
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.setPermissions(file.permissions() | QFile::ExeUser | QFile::ExeGroup | QFile::ExeOther);
+    // commit() alone would not notice what could not be flushed.
+    return file.write(script) == script.size() && file.flush() && file.commit();
+}
+
+bool PresetScript::remove(const QString &path)
+{
+    return !path.isEmpty() && QFile::remove(path);
+}
+
+std::optional<QByteArray> PresetScript::read(const QString &path)
+{
+    // Opened first and looked at then: nothing can be put in its place in between. Without O_NONBLOCK a pipe would block.
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (fd < 0)
+        return std::nullopt;
+    QFile file;
+    struct stat status = {};
+    if (fstat(fd, &status) != 0 || !S_ISREG(status.st_mode)
+        || !file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(fd);
+        return std::nullopt;
+    }
+    QByteArray data = file.read(sizeLimit + 1);
+    if (file.error() != QFileDevice::NoError || data.size() > sizeLimit)
+        return std::nullopt;
+    return data;
+}
+
+bool PresetScript::parseAttribute(const QByteArray &data, const QString &key, QString &value)
+{
+    const QByteArray start = '#' + key.toLatin1() + '=';
+    const auto found = data.indexOf(start); // anywhere, not only where a line begins
+    if (found < 0)
+        return false;
+    value = valueAt(data, found + start.size(), lastControlCharacter);
+    return true;
+}
+
+bool PresetScript::parseOption(const QByteArray &data, const QString &keyword, QString &value)
+{
+    const QByteArray start = (setItem + keyword).toLatin1();
+    const auto found = data.indexOf(start);
+    // Only the first occurrence counts, even where it belongs to a longer keyword: no script of ours has two such keywords.
+    if (found < 0 || found + start.size() >= data.size() || data.at(found + start.size()) != '=')
+        return false;
+    // A line break is stored in a value as two backslashes and "r". The writer makes four of the two, and one is what the
+    // readers of the value understand as well. Nothing else of the writer's work is undone: other backslashes stay doubled,
+    // and a quoted value is its opening quote and its first word.
+    value = valueAt(data, found + start.size() + 1, ' ').replace(QLatin1String("\\\\\\\\"), QLatin1String("\\"));
+    return true;
+}
+
+bool PresetScript::parsePpdhack(const QByteArray &data, QSizeF &size)
+{
+    const QStringList lines = fromLatin1UpToNul(data).split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        if (!line.startsWith(ppdhackCommand))
+            continue;
+        const QStringList words = line.split(QLatin1Char(' '));
+        bool isWidth = false;
+        bool isHeight = false;
+        const double width = words.value(1).toDouble(&isWidth);
+        const double height = words.value(2).toDouble(&isHeight);
+        if (isWidth && isHeight && width > 0 && height > 0) {
+            size = QSizeF(width, height);
+            return true;
+        }
+    }
+    return false;
+}

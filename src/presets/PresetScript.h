@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef PRESETSCRIPT_H
+#define PRESETSCRIPT_H
+
+#include <QByteArray>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/**
+ * The script that a preset is kept in: where it lies, which options it carries, its text, and how it is read.
+ *
+ * The script serves two readers. A shell applies the preset to the queue by running it; the library never runs it, but
+ * finds the preset's parts in it again:
+ *
+ *     #!/bin/bash
+ *     #name=NAME                                  unless the name is the file name
+ *     #description=DESCRIPTION                    unless it is empty
+ *     #index=INDEX                                0 or more, in built-in presets only
+ *     lpoptions -pPRINTER -oKEYWORD=VALUE -rKEYWORD ...
+ *     ppdhack WIDTH HEIGHT PRINTER                when there is a user page size
+ */
+namespace PresetScript {
+
+/** What a script is made of. */
+struct Content {
+    QString printerName;
+    QString fileName;
+    QString name; ///< The name to show.
+    QString description;
+    int index;
+    QStringList options; ///< keyword, value, ...
+    QSizeF userPageSize;
+};
+
+/** A larger file is no preset script and is not read. */
+constexpr qint64 sizeLimit = 1024 * 1024; // bytes
+
+/** @name Places */
+/** @{ */
+
+const QLatin1String suffix(".sh");
+
+/**
+ * The folder of @p printer's scripts: $HOME/.cups/PRINTER, with $HOME as it was when the library was loaded.
+ *
+ * Presets must not be led out of $HOME/.cups by the name of a queue, nor a further command into their scripts. A name that
+ * begins with "/", has ".." for one of its parts or holds a control character therefore has no folder, which is the empty
+ * path: nothing is listed for it, read or written. A "/" inside a name is usual; it sets off a queue's instance.
+ */
+QString folder(const QString &printer);
+
+/** The script @p file of @p printer; empty when the printer has no folder or @p file would lead out of it. */
+QString pathName(const QString &printer, const QString &file);
+
+/** @} */
+/** @name Options */
+/** @{ */
+
+/** The keywords that presets carry, in the order of the script's items. One list, shared by all presets. */
+const QStringList &optionNames();
+
+/** Replaces that list by the one with GapOffset and Shift and without Start, for the rest of the process. */
+void useExtendedOptionNames();
+
+/** The position of @p keyword's value in an option list; -1 when the keyword is not in it or no value follows. */
+QStringList::size_type valueIndex(const QStringList &options, const QString &keyword);
+
+/** @} */
+/** @name Writing */
+/** @{ */
+
+/** The line that hands the user page size to the driver, with its line end. */
+QString ppdhack(const QSizeF &size, const QString &printer);
+
+/** The script's text; values that equal those of @p defaults, an option list, become removals. */
+QByteArray text(const Content &content, const QStringList &defaults);
+
+/** Puts @p script into the file @p path, as a whole or, returning false, not at all, and makes it executable. */
+bool write(const QString &path, const QByteArray &script);
+
+/** Removes the file @p path. @return false when it did not exist, too. */
+bool remove(const QString &path);
+
+/** @} */
+/** @name Reading; the parsers return whether they found it and leave the output alone if not */
+/** @{ */
+
+/** The bytes of the script; nothing unless it is a readable regular file within the size limit. Never blocks. */
+std::optional<QByteArray> read(const QString &path);
+
+bool parseAttribute(const QByteArray &data, const QString &key, QString &value);
+bool parseOption(const QByteArray &data, const QString &keyword, QString &value);
+bool parsePpdhack(const QByteArray &data, QSizeF &size);
+
+/** @} */
+
+} // namespace PresetScript
+
+#endif

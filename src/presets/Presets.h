@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef PRESETS_H
+#define PRESETS_H
+
+#include "propertiesdialog_export.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class Preset;
+
+/**
+ * All presets of one printer, and which of them is the current one.
+ *
+ * They are the scripts in $HOME/.cups/PRINTER whose names do not begin with "_". A symbolic link beside them,
+ * "currentPreset", names the current preset's script between runs. Presets with an index of 0 or more are built in: they
+ * cannot be changed or deleted.
+ */
+class PROPERTIESDIALOG_EXPORT Presets
+{
+public:
+    /** Lists the presets of @p printer, a queue name. */
+    explicit Presets(const QString &printer);
+
+    /** Deletes all presets. */
+    ~Presets();
+
+    Presets(const Presets &) = delete;
+    Presets &operator=(const Presets &) = delete;
+
+    /** Lists the folder anew, dropping what is in memory. Pointers to presets become invalid. @return always true. */
+    bool load();
+
+    /**
+     * Writes every changed and removes every deleted preset, in order, up to the first failure; then sets the link.
+     *
+     * @param defaults the printer's default values as an option list.
+     * @return false at the first failure: the presets after it are not written and the link is not touched.
+     */
+    bool save(const QStringList &defaults);
+
+    /** Appends a preset and takes ownership; it becomes current when there is none. Null is ignored. @return @p preset */
+    Preset *addPreset(Preset *preset);
+
+    /**
+     * Marks a preset for removal at the next save(); built-in presets are refused with a warning box. If it was current,
+     * the first preset that is not deleted becomes current. @return @p preset
+     */
+    Preset *deletePreset(Preset *preset);
+
+    /** The first preset whose name or file name is @p text, deleted ones included; null when there is none. */
+    Preset *findPreset(const QString &text) const;
+
+    /** The first preset whose file name is @p file; null when there is none. */
+    Preset *findPresetByFileName(const QString &file) const;
+
+    /** The names to show: built-in presets at the positions of their indexes, then the user's, by file name. */
+    QStringList getPresetNames() const;
+
+    /** The current preset, owned by this collection, or null. */
+    Preset *currentPreset() const;
+    /** Makes @p preset, which belongs to this collection or is null, current. */
+    void setCurrentPreset(Preset *preset);
+
+    /** The file name of the hidden preset that holds the settings last applied. */
+    QString currentFileName() const;
+
+    /** The path of the link to the current preset's script. */
+    QString linkPathName() const;
+
+    /** Deletes all presets. */
+    void clearPresets();
+
+private:
+    Preset *firstRemaining() const;
+    void drop(Preset *preset);
+
+    QString m_printerName;
+    QList<Preset *> m_presets;
+    Preset *m_currentPreset = nullptr;
+};
+
+#endif
