@@ -905,6 +905,7 @@ void PrintPropertiesDialog::on_presetNewButton_clicked()
     }
     Preset *preset = presets->addPreset(
         new Preset(printer->printerName(), fileName, cups->cupsOptions(), name, QString(), -1));
+    preset->setState(Preset::Modified); // to be written even where the printer has no option yet that presets carry
     updatePresets();
     setCurrentPreset(preset);
 }
