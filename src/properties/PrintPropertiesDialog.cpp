@@ -424,7 +424,11 @@ void PrintPropertiesDialog::saveValues()
 void PrintPropertiesDialog::savePrinter()
 {
     printer->setPageOrientation(orientation());
+    // Outside the full page mode Qt refuses margins below those that the PPD file declares.
+    const bool fullPage = printer->fullPage();
+    printer->setFullPage(true);
     printer->setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Point);
+    printer->setFullPage(fullPage);
     if (!cups)
         return;
     const QString custom = QStringLiteral("Custom");
