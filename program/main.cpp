@@ -9,7 +9,9 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLocale>
 #include <QPrinter>
+#include <QTranslator>
 
 #include <cstdio>
 #include <optional>
@@ -22,10 +24,10 @@ enum ExitStatus {
     wrongUsage = 2
 };
 
-QString text(const char *source)
+struct Program
 {
-    return QCoreApplication::translate("label-printer-properties", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(Program)
+};
 
 void print(FILE *stream, const QString &line)
 {
@@ -37,6 +39,21 @@ int complain(const QString &what)
     print(stderr, QStringLiteral("label-printer-properties: ") + what);
     return wrongUsage;
 }
+
+// The texts in the user's language, to be kept as long as they are needed.
+class Catalogue
+{
+public:
+    Catalogue()
+    {
+        if (translator.load(QLocale(), QStringLiteral("propertiesdialog"), QStringLiteral("_"),
+                            QStringLiteral(TRANSLATIONS_DIR)))
+            QCoreApplication::installTranslator(&translator);
+    }
+
+private:
+    QTranslator translator;
+};
 
 int indexOf(const CupsSupport &cups, const QString &queue)
 {
@@ -52,24 +69,25 @@ int indexOf(const CupsSupport &cups, const QString &queue)
 std::optional<int> answerWithoutWindow(int &argc, char **argv, QString *queue)
 {
     const QCoreApplication application(argc, argv);
+    const Catalogue catalogue;
     QCoreApplication::setApplicationName(QStringLiteral("label-printer-properties"));
     QCoreApplication::setApplicationVersion(QStringLiteral(PROGRAM_VERSION));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(text("Shows and changes the settings of a label printer."));
+    parser.setApplicationDescription(Program::tr("Shows and changes the settings of a label printer."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption printer({QStringLiteral("p"), QStringLiteral("printer")},
-                                     text("The queue, instead of the default one."), text("NAME"));
+                                     Program::tr("The queue, instead of the default one."), Program::tr("NAME"));
     const QCommandLineOption list({QStringLiteral("l"), QStringLiteral("list")},
-                                  text("Lists the queues, the default one marked with an asterisk."));
+                                  Program::tr("Lists the queues, the default one marked with an asterisk."));
     parser.addOption(printer);
     parser.addOption(list);
 
     if (!parser.parse(QCoreApplication::arguments()))
         return complain(parser.errorText());
     if (!parser.positionalArguments().isEmpty())
-        return complain(text("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
+        return complain(Program::tr("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
     if (parser.isSet(QStringLiteral("help")))
         parser.showHelp(saved);
     if (parser.isSet(QStringLiteral("version")))
@@ -85,7 +103,7 @@ std::optional<int> answerWithoutWindow(int &argc, char **argv, QString *queue)
     }
     *queue = parser.value(printer);
     if (indexOf(cups, *queue) < 0)
-        return complain(text("there is no printer \"%1\"; --list names those there are").arg(*queue));
+        return complain(Program::tr("there is no printer \"%1\"; --list names those there are").arg(*queue));
     return std::nullopt;
 }
 
@@ -111,6 +129,7 @@ int main(int argc, char **argv)
 
     int windowArgc = 1; // the arguments are not Qt's
     const QApplication application(windowArgc, argv);
+    const Catalogue catalogue;
     QApplication::setDesktopFileName(QStringLiteral("label-printer-properties"));
     return editProperties(queue) == QDialog::Accepted ? saved : cancelled;
 }

@@ -6,6 +6,7 @@
 #include "CupsSupport.h"
 #include "PrintPropertiesDialog.h"
 #include "Scheduler.h"
+#include "Translation.h"
 
 #include <QApplication>
 #include <QByteArray>
@@ -43,6 +44,7 @@ private:
 
 int runDialog()
 {
+    const Translation translation;
     // The printer object is destroyed last but made after the other, whose waits for the scheduler have a limit: QPrinter's
     // have none. It is kept from a scheduler that does not answer, and then prints to PDF.
     std::optional<QPrinter> printer;

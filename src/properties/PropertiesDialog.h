@@ -19,11 +19,10 @@ extern "C" {
  * @return 1 after OK; 0 after Cancel or closing the window. 0 as well, without a dialog, where none can be shown: in a
  *         process whose application object has no windows (QCoreApplication, QGuiApplication), or without a display.
  */
-#ifdef __cplusplus
-PROPERTIESDIALOG_EXPORT int propertiesDialog();
-}
-#else
 PROPERTIESDIALOG_EXPORT int propertiesDialog(void);
+
+#ifdef __cplusplus
+}
 #endif
 
 #endif
