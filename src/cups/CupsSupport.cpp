@@ -337,6 +337,7 @@ int CupsSupport::setString(const char *keyword, const QString &value)
     if (value.isEmpty())
         return setValue(keyword, "");
     QByteArray text = value.toLatin1();
+    text.replace('\0', '?'); // which would end the value and lose what follows
     if (!text.endsWith('\n') && !text.endsWith('\r'))
         text += '\r';
     text.replace("\r\n", storedLineBreak);

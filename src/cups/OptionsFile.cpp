@@ -18,6 +18,7 @@
 
 #include <cstring>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -220,11 +221,15 @@ bool isEntryOf(const QByteArray &rawLine, const cups_dest_t *dests, int count)
     return cupsGetDest(parts.at(0).constData(), instance, count, const_cast<cups_dest_t *>(dests)) != nullptr;
 }
 
-QByteArray otherEntries(const cups_dest_t *dests, int count)
+// The lines of the earlier file that are not written anew; nothing when they cannot be read and so would be lost.
+std::optional<QByteArray> otherEntries(const cups_dest_t *dests, int count)
 {
     QFile file(OptionsFile::path());
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
+    if (!file.exists())
+        return QByteArray();
+    // What the user put there instead of a file, a link to /dev/null say, is not for us to replace.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
     QByteArray kept;
     while (!file.atEnd()) {
         QByteArray line = file.readLine();
@@ -234,6 +239,8 @@ QByteArray otherEntries(const cups_dest_t *dests, int count)
             line += '\n';
         kept += line;
     }
+    if (file.error() != QFileDevice::NoError)
+        return std::nullopt;
     return kept;
 }
 
@@ -251,7 +258,8 @@ bool replaceFile(const QByteArray &content)
     if (existed && (earlier.st_uid != geteuid() || earlier.st_gid != getegid())
         && fchown(file.handle(), earlier.st_uid, earlier.st_gid) == 0)
         fchmod(file.handle(), earlier.st_mode & 07777);
-    return file.write(content) == content.size() && file.flush() && file.commit();
+    // commit() alone would notice neither what could not be flushed nor what the disk then had no room for.
+    return file.write(content) == content.size() && file.flush() && fsync(file.handle()) == 0 && file.commit();
 }
 
 } // namespace
@@ -276,5 +284,6 @@ bool OptionsFile::save(const cups_dest_t *dests, int count)
         content += line.text + '\n';
     }
     // Kept entries stand last: should the user's default printer be listed again, libcups takes the last default.
-    return replaceFile(content + otherEntries(dests, count));
+    const std::optional<QByteArray> kept = otherEntries(dests, count);
+    return kept && replaceFile(content + *kept);
 }

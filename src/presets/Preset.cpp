@@ -16,7 +16,7 @@ const QLatin1String extendedMarker("ORCA");
 
 const QStringList &optionNamesFor(const QString &printer)
 {
-    // The list is one for all on purpose: from the first such printer on, the presets of every printer carry these options.
+    // One list for all on purpose: from the first such printer on, the presets of every printer carry these options.
     if (printer.contains(extendedMarker))
         PresetScript::useExtendedOptionNames();
     return PresetScript::optionNames();

@@ -87,7 +87,8 @@ bool climbs(const QString &path)
 
 bool hasControlCharacter(const QString &text)
 {
-    return std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c < QLatin1Char(' ') || c == QLatin1Char(0x7f); });
+    return std::any_of(text.cbegin(), text.cend(),
+                       [](QChar c) { return c < QLatin1Char(' ') || c == QLatin1Char(0x7f); });
 }
 
 // ----- writing -----
@@ -97,8 +98,8 @@ QString attribute(const QString &key, const QString &value)
     return QString(attributeLine).arg(key, value);
 }
 
-// A value as the shell is to see it. Only blanks make for quotes; whatever else means something to a shell is written as it
-// is, quotes inside the value included.
+// A value as the shell is to see it. Only blanks make for quotes; whatever else means something to a shell is written
+// as it is, quotes inside the value included.
 QString shellWord(QString value)
 {
     for (const QLatin1String flag : {QLatin1String("True"), QLatin1String("False")}) {
@@ -122,8 +123,8 @@ QString optionItem(const QString &keyword, const QStringList &options, const QSt
 
 // ----- reading -----
 
-// The bytes from a position up to the first one that is not above `last` as a signed number: so every byte beyond ASCII ends
-// a value, too.
+// The bytes from a position up to the first one that is not above `last` as a signed number: so every byte beyond
+// ASCII ends a value, too.
 QString valueAt(const QByteArray &data, QByteArray::size_type position, signed char last)
 {
     const auto begin = data.cbegin() + position;
@@ -215,8 +216,8 @@ bool PresetScript::write(const QString &path, const QByteArray &script)
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.setPermissions(file.permissions() | QFile::ExeUser | QFile::ExeGroup | QFile::ExeOther);
-    // commit() alone would not notice what could not be flushed.
-    return file.write(script) == script.size() && file.flush() && file.commit();
+    // commit() alone would notice neither what could not be flushed nor what the disk then had no room for.
+    return file.write(script) == script.size() && file.flush() && fsync(file.handle()) == 0 && file.commit();
 }
 
 bool PresetScript::remove(const QString &path)
@@ -226,7 +227,7 @@ bool PresetScript::remove(const QString &path)
 
 std::optional<QByteArray> PresetScript::read(const QString &path)
 {
-    // Opened first and looked at then: nothing can be put in its place in between. Without O_NONBLOCK a pipe would block.
+    // Opened first and looked at then: nothing can be put in its place in between. O_NONBLOCK is for pipes.
     const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (fd < 0)
         return std::nullopt;
@@ -257,12 +258,12 @@ bool PresetScript::parseOption(const QByteArray &data, const QString &keyword, Q
 {
     const QByteArray start = (setItem + keyword).toLatin1();
     const auto found = data.indexOf(start);
-    // Only the first occurrence counts, even where it belongs to a longer keyword: no script of ours has two such keywords.
+    // Only the first occurrence counts, even where it belongs to a longer keyword: no script has two such keywords.
     if (found < 0 || found + start.size() >= data.size() || data.at(found + start.size()) != '=')
         return false;
-    // A line break is stored in a value as two backslashes and "r". The writer makes four of the two, and one is what the
-    // readers of the value understand as well. Nothing else of the writer's work is undone: other backslashes stay doubled,
-    // and a quoted value is its opening quote and its first word.
+    // A line break is stored in a value as two backslashes and "r". The writer makes four of the two, and one is what
+    // the readers of the value understand as well. Nothing else of the writer's work is undone: other backslashes stay
+    // doubled, and a quoted value is its opening quote and its first word.
     value = valueAt(data, found + start.size() + 1, ' ').replace(QLatin1String("\\\\\\\\"), QLatin1String("\\"));
     return true;
 }

@@ -43,14 +43,15 @@ constexpr qint64 sizeLimit = 1024 * 1024; // bytes
 /** @name Places */
 /** @{ */
 
+/** What the name of a script's file has behind the preset's file name. */
 const QLatin1String suffix(".sh");
 
 /**
  * The folder of @p printer's scripts: $HOME/.cups/PRINTER, with $HOME as it was when the library was loaded.
  *
- * Presets must not be led out of $HOME/.cups by the name of a queue, nor a further command into their scripts. A name that
- * begins with "/", has ".." for one of its parts or holds a control character therefore has no folder, which is the empty
- * path: nothing is listed for it, read or written. A "/" inside a name is usual; it sets off a queue's instance.
+ * Presets must not be led out of $HOME/.cups by the name of a queue, nor a further line into their scripts. A name
+ * that begins with "/", has ".." for one of its parts or holds a control character therefore has no folder, which is
+ * the empty path: nothing is listed for it, read or written. A "/" inside a name is usual; it sets off an instance.
  */
 QString folder(const QString &printer);
 

@@ -25,8 +25,8 @@ QString withoutSuffix(QString entry)
     return entry.remove(PresetScript::suffix);
 }
 
-// Puts a symbolic link in the place of whatever link or file stands there. There is always one link or the other, even if
-// the process ends here.
+// Puts a symbolic link in the place of whatever link or file stands there. There is always one link or the other, even
+// if the process ends here.
 void replaceLink(const QString &target, const QString &path)
 {
     const QString temporary = path + QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
@@ -76,7 +76,7 @@ bool Presets::save(const QStringList &defaults)
         const bool isDeleted = preset->state() == Preset::Deleted;
         if (!isDeleted && preset->state() != Preset::Modified)
             continue;
-        // The removal of a script that does not exist is a failure like any other: the presets behind it are not written.
+        // The removal of a script that does not exist is a failure like any other: presets behind it are not written.
         if (!preset->save(defaults))
             return false;
         if (isDeleted)
@@ -163,7 +163,7 @@ QStringList Presets::getPresetNames() const
         const int index = preset->index();
         (index < 0 ? names : builtIn[index]).append(preset->name());
     }
-    // Each goes to the position of its index, those that share one follow each other, and what is past the end is appended.
+    // Each goes to the position of its index; those that share one follow each other; past the end they are appended.
     for (const auto &[index, group] : builtIn) {
         qint64 position = index;
         for (const QString &name : group)

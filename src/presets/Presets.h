@@ -16,8 +16,8 @@ class Preset;
  * All presets of one printer, and which of them is the current one.
  *
  * They are the scripts in $HOME/.cups/PRINTER whose names do not begin with "_". A symbolic link beside them,
- * "currentPreset", names the current preset's script between runs. Presets with an index of 0 or more are built in: they
- * cannot be changed or deleted.
+ * "currentPreset", names the current preset's script between runs. Presets with an index of 0 or more are built in:
+ * they cannot be changed or deleted.
  */
 class PROPERTIESDIALOG_EXPORT Presets
 {
@@ -42,12 +42,12 @@ public:
      */
     bool save(const QStringList &defaults);
 
-    /** Appends a preset and takes ownership; it becomes current when there is none. Null is ignored. @return @p preset */
+    /** Appends a preset and owns it; it becomes current when there is none. Null is ignored. @return @p preset */
     Preset *addPreset(Preset *preset);
 
     /**
-     * Marks a preset for removal at the next save(); built-in presets are refused with a warning box. If it was current,
-     * the first preset that is not deleted becomes current. @return @p preset
+     * Marks a preset for removal at the next save(); built-in presets are refused with a warning box. If it was
+     * current, the first preset that is not deleted becomes current. @return @p preset
      */
     Preset *deletePreset(Preset *preset);
 

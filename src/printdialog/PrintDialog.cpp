@@ -263,8 +263,8 @@ QList<PrintDialog::PrinterItem> PrintDialog::readPrinters() const
     QList<PrinterItem> items;
     for (int index = 0; index < cups->getDestCount(); ++index) {
         PrinterItem item;
-        // Latin-1 for the one, UTF-8 for the other: as everywhere else, a description is a text of plain bytes, by which
-        // hosts find its destination again.
+        // Latin-1 for the one, UTF-8 for the other: as everywhere else, a description is a text of plain bytes, by
+        // which hosts find its destination again.
         item.name = QString::fromLatin1(cups->getValue("printer-info", index));
         item.type = QString::fromLatin1(cups->getValue("printer-make-and-model", index));
         item.status = statusText(*cups, index);

@@ -22,8 +22,8 @@ class Ui_PrintDialog;
  * nothing: after a change of printer was accepted, the CupsSupport and the QPrinter agree on the chosen queue, and the
  * host prints. A rejected dialog leaves both as they were.
  *
- * exec() returns 1 when accepted, 0 when rejected and -1 when the user asked for the printer's properties; exec2() takes
- * care of the latter.
+ * exec() returns 1 when accepted, 0 when rejected and -1 when the user asked for the printer's properties; exec2()
+ * takes care of the latter.
  */
 class PROPERTIESDIALOG_EXPORT PrintDialog : public QDialog
 {
