@@ -20,13 +20,15 @@ void leaveAlone()
     leaveAloneUntil = Clock::now() + std::chrono::milliseconds(SchedulerConnection::patienceMs);
 }
 
-// libcups asks this after each wait. One call of libcups may hold several requests; those after the first do not wait again.
-int giveUp(http_t *http, void *)
+// Whether somebody listens here. A request that is announced is answered with "go on", and what does not follow is no
+// request.
+bool answers(http_t *http)
 {
-    leaveAlone();
-    constexpr double hardlyAtAll = 0.01; // seconds
-    httpSetTimeout(http, hardlyAtAll, giveUp, nullptr);
-    return 0;
+    httpClearFields(http);
+    httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+    httpSetExpect(http, HTTP_STATUS_CONTINUE);
+    httpSetLength(http, 1);
+    return httpPost(http, "/") == 0 && httpWait(http, SchedulerConnection::patienceMs);
 }
 
 } // namespace
@@ -37,8 +39,12 @@ SchedulerConnection::SchedulerConnection()
         return;
     const Clock::time_point start = Clock::now();
     http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, patienceMs, nullptr);
-    if (http)
-        httpSetTimeout(http, patienceMs / 1000.0, giveUp, nullptr);
+    // Not httpSetTimeout(): libcups then looks twice whether there is something to read before each of its tiny reads, and
+    // the destinations take more than twice as long.
+    if (http && !answers(http))
+        leaveAlone();
+    else if (http)
+        httpReconnect2(http, patienceMs, nullptr);
     else if (Clock::now() - start >= std::chrono::milliseconds(patienceMs))
         leaveAlone();
     usable = !isSilent();

@@ -7,7 +7,7 @@
 #include <cups/http.h>
 
 /**
- * A connection to the scheduler of this user on which nothing waits for long.
+ * A connection to the scheduler of this user, made only if the scheduler answers.
  *
  * libcups' own default connection waits for minutes when the scheduler accepts requests and never answers, and the
  * dialogs would freeze with it.
@@ -15,7 +15,7 @@
 class SchedulerConnection
 {
 public:
-    /** How long one wait for the scheduler may last, and for how long a silent scheduler is then left alone. */
+    /** How long the scheduler may take to answer, and for how long a silent scheduler is then left alone. */
     static constexpr int patienceMs = 4000;
 
     SchedulerConnection();

@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QMessageBox>
 
+#include <utility>
+
 namespace {
 
 // Printers whose names contain this take the extended option list.
@@ -110,6 +112,7 @@ int Preset::index()
 QStringList Preset::options()
 {
     loadIfNeeded();
+    parseOptions();
     return m_options;
 }
 
@@ -156,6 +159,7 @@ void Preset::loadIfNeeded()
 bool Preset::setOptions(const QStringList &list)
 {
     loadIfNeeded();
+    parseOptions();
     bool changed = false;
     for (const QString &keyword : m_optionNames) {
         const auto given = PresetScript::valueIndex(list, keyword);
@@ -177,6 +181,7 @@ bool Preset::setOptions(const QStringList &list)
 
 bool Preset::clearOptions()
 {
+    parseOptions();
     const bool known = m_state == Clean || m_state == Modified;
     if (m_state == Deleted || (known && m_options.isEmpty()))
         return false;
@@ -203,14 +208,21 @@ bool Preset::load()
         m_index = -1;
 
     m_options.clear();
-    for (const QString &keyword : m_optionNames) {
-        QString value;
-        if (parseOption(*data, keyword, value))
-            m_options << keyword << value;
-    }
+    m_unparsed = {*data, m_optionNames};
     parsePpdhack(*data, m_userPageSize);
     m_state = Clean;
     return true;
+}
+
+// A list of presets needs their names alone, and the options are by far the most to parse.
+void Preset::parseOptions()
+{
+    const Unparsed unparsed = std::exchange(m_unparsed, {});
+    for (const QString &keyword : unparsed.optionNames) {
+        QString value;
+        if (parseOption(unparsed.script, keyword, value))
+            m_options << keyword << value;
+    }
 }
 
 bool Preset::save(const QStringList &defaults)
@@ -229,6 +241,7 @@ bool Preset::save(const QStringList &defaults)
     if (m_state != Modified)
         return false;
 
+    parseOptions();
     const PresetScript::Content content{m_printerName, m_fileName, name(), m_description, m_index, m_options,
                                         m_userPageSize};
     if (!PresetScript::write(pathName(), PresetScript::text(content, defaults)))

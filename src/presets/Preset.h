@@ -109,12 +109,20 @@ public:
     /** @} */
 
 private:
+    struct Unparsed
+    {
+        QByteArray script;
+        QStringList optionNames; // as they were when the script was read
+    };
+
     void loadIfNeeded();
+    void parseOptions();
     void modify();
 
     QString m_printerName;
     QString m_fileName;
     QStringList m_options;
+    Unparsed m_unparsed; // the script whose options are not in m_options yet
     QString m_name;
     QString m_description;
     int m_index;
