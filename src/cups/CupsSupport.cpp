@@ -631,7 +631,8 @@ int CupsSupport::printFile(const QString &fileName, const QString &printerDescri
     if (!connection.isUsable())
         return 0;
     const JobOptions job(*dest, list);
-    const QByteArray jobTitle = (title.isEmpty() ? fileName : title).toLatin1();
+    // In UTF-8: with anything else the scheduler calls the job "Untitled".
+    const QByteArray jobTitle = (title.isEmpty() ? fileName : title).toUtf8();
     return cupsPrintFile2(connection.get(), dest->name, fileName.toLocal8Bit().constData(), jobTitle.constData(),
                           job.count, job.options);
 }
@@ -653,5 +654,5 @@ int CupsSupport::printFiles(const QStringList &fileNames, const QString &title, 
     for (const QByteArray &name : names)
         pointers.push_back(name.constData());
     return cupsPrintFiles2(connection.get(), dest->name, static_cast<int>(pointers.size()), pointers.data(),
-                           title.toLatin1().constData(), job.count, job.options);
+                           title.toUtf8().constData(), job.count, job.options);
 }

@@ -65,7 +65,7 @@ public:
 
     /**
      * Fetches all destinations anew and makes the default one current; the last one wins if several are flagged. Without
-     * a default the current index stays as it was (0 after construction). Unsaved settings of every destination are
+     * a default the current index stays as it was (0 after construction, and when so many printers are no more). Unsaved settings of every destination are
      * dropped. An open PPD file stays open, also when it now belongs to another printer: call setCurrentPrinter() or
      * closePpdFile() to get the right one.
      *

@@ -225,7 +225,7 @@ bool isEntryOf(const QByteArray &rawLine, const cups_dest_t *dests, int count)
 std::optional<QByteArray> otherEntries(const cups_dest_t *dests, int count)
 {
     QFile file(OptionsFile::path());
-    if (!file.exists())
+    if (!QFileInfo::exists(file.fileName())) // the file's own exists() is true for a link to nothing
         return QByteArray();
     // What the user put there instead of a file, a link to /dev/null say, is not for us to replace.
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
