@@ -61,6 +61,12 @@ const ppd_size_t *findPageSize(const ppd_file_t *ppd, const char *name)
     return ppd ? findRecord(ppd->sizes, ppd->num_sizes, isNamed) : nullptr;
 }
 
+// A job's title: of Latin-1 as all texts, but encoded in UTF-8. With anything else the scheduler calls the job "Untitled".
+QByteArray titleOf(const QString &text)
+{
+    return QString::fromLatin1(text.toLatin1()).toUtf8();
+}
+
 // The options of one job: those of the destination, overridden by the host's. Freed with the object.
 class JobOptions
 {
@@ -631,8 +637,7 @@ int CupsSupport::printFile(const QString &fileName, const QString &printerDescri
     if (!connection.isUsable())
         return 0;
     const JobOptions job(*dest, list);
-    // In UTF-8: with anything else the scheduler calls the job "Untitled".
-    const QByteArray jobTitle = (title.isEmpty() ? fileName : title).toUtf8();
+    const QByteArray jobTitle = titleOf(title.isEmpty() ? fileName : title);
     return cupsPrintFile2(connection.get(), dest->name, fileName.toLocal8Bit().constData(), jobTitle.constData(),
                           job.count, job.options);
 }
@@ -654,5 +659,5 @@ int CupsSupport::printFiles(const QStringList &fileNames, const QString &title, 
     for (const QByteArray &name : names)
         pointers.push_back(name.constData());
     return cupsPrintFiles2(connection.get(), dest->name, static_cast<int>(pointers.size()), pointers.data(),
-                           title.toUtf8().constData(), job.count, job.options);
+                           titleOf(title).constData(), job.count, job.options);
 }
