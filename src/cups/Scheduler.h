@@ -11,6 +11,9 @@
  *
  * libcups' own default connection waits for minutes when the scheduler accepts requests and never answers, and the
  * dialogs would freeze with it.
+ *
+ * A scheduler that stops in the middle of an answer is still waited for. The price of a limit there is paid by everybody:
+ * libcups then takes more than twice as long to read the destinations.
  */
 class SchedulerConnection
 {
