@@ -1,0 +1,253 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "PrivateScheduler.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QThread>
+
+#include <cups/cups.h>
+
+#include <algorithm>
+
+namespace {
+
+const int patienceMs = 30000; // far more than anything here takes, also on a machine that is busy
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("cannot read %s: %s", qPrintable(path), qPrintable(file.errorString()));
+    }
+    return file.readAll();
+}
+
+// Asks until it gets a true answer.
+template<typename Predicate>
+void waitFor(const char *what, Predicate predicate)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!predicate()) {
+        if (timer.elapsed() > patienceMs) {
+            qFatal("waited in vain for %s", what);
+        }
+        QThread::msleep(5);
+    }
+}
+
+// Any request; what it is answered does not matter.
+void sendGet(const QByteArray &resource)
+{
+    http_t *http =
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_NEVER, 1, patienceMs, nullptr);
+    if (http == nullptr) {
+        qFatal("cannot connect to %s", cupsServer());
+    }
+    httpClearFields(http);
+    httpGet(http, resource.constData());
+    while (httpUpdate(http) == HTTP_STATUS_CONTINUE) {
+    }
+    httpClose(http);
+}
+
+} // namespace
+
+QByteArray CapturedJob::option(const char *keyword) const
+{
+    cups_option_t *list = nullptr;
+    const int count = cupsParseOptions(options.constData(), 0, &list);
+    const QByteArray value = cupsGetOption(keyword, count, list);
+    cupsFreeOptions(count, list);
+    return value;
+}
+
+PrivateScheduler::PrivateScheduler()
+    : temporaryDir(QStringLiteral("/tmp/pd-XXXXXX"))
+{
+    qputenv("CUPS_SERVER", QFile::encodeName(socket()));
+    // Debian keeps the administrator's commands, such as lpadmin, out of a user's path.
+    qputenv("PATH", qgetenv("PATH") + ":/usr/sbin:/sbin");
+    // libcups may have looked at the variable before.
+    cupsSetServer(QFile::encodeName(socket()).constData());
+    start();
+}
+
+PrivateScheduler::~PrivateScheduler() { stop(); }
+
+void PrivateScheduler::start()
+{
+    script(QStringLiteral("start"));
+    startRequests();
+}
+
+void PrivateScheduler::stop() { script(QStringLiteral("stop")); }
+
+void PrivateScheduler::addQueue(const QString &name, const QString &ppd, const QString &description,
+                                const QString &location)
+{
+    QStringList arguments{"-p", name, "-E", "-v", "capture:/"};
+    if (!ppd.isEmpty()) {
+        arguments << "-P" << ppd;
+    }
+    if (!description.isEmpty()) {
+        arguments << "-D" << description;
+    }
+    if (!location.isEmpty()) {
+        arguments << "-L" << location;
+    }
+    run("lpadmin", arguments);
+}
+
+void PrivateScheduler::removeQueue(const QString &name) { run("lpadmin", {"-x", name}); }
+
+void PrivateScheduler::setPpd(const QString &queue, const QString &ppd) { run("lpadmin", {"-p", queue, "-P", ppd}); }
+
+void PrivateScheduler::setServerDefault(const QString &name) { run("lpadmin", {"-d", name}); }
+
+void PrivateScheduler::setUserDefault(const QString &name) { run("lpoptions", {"-d", name}); }
+
+void PrivateScheduler::setUserOptions(const QString &name, const QStringList &options)
+{
+    QStringList arguments{"-p", name};
+    for (const QString &option : options) {
+        arguments << "-o" << option;
+    }
+    run("lpoptions", arguments);
+}
+
+QByteArray PrivateScheduler::run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    const bool finished = process.waitForFinished(patienceMs);
+    if (!finished || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
+        qFatal("%s %s failed: %s %s", qPrintable(program), qPrintable(arguments.join(' ')),
+               qPrintable(process.errorString()), process.readAllStandardError().constData());
+    }
+    return process.readAllStandardOutput();
+}
+
+QStringList PrivateScheduler::requests()
+{
+    // A request is logged when its answer has been sent, which its client may notice before. The scheduler does one
+    // thing at a time: once a later request is logged, the earlier ones are.
+    const QByteArray marker = "/marker-" + QByteArray::number(++markers);
+    sendGet(marker);
+    waitFor("the access log", [&] { return accessLog().contains(marker + ' '); });
+
+    QStringList list;
+    static const QRegularExpression request(R"("(\w+) (\S+) HTTP[^"]*" \d+ \d+ (\S+) \S+$)");
+    const QStringList lines = QString::fromUtf8(accessLog().mid(loggedBefore)).split('\n', Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
+        const QRegularExpressionMatch match = request.match(line);
+        const bool isIpp = match.captured(1) == "POST";
+        if (!match.captured(2).startsWith("/marker-")) {
+            list << (isIpp ? match.captured(3) : match.captured(1) + ' ' + match.captured(2));
+        }
+    }
+    return list;
+}
+
+void PrivateScheduler::startRequests()
+{
+    requests(); // up to here everything is logged
+    loggedBefore = int(accessLog().size());
+}
+
+QList<CapturedJob> PrivateScheduler::jobs(int count)
+{
+    QList<CapturedJob> list;
+    waitFor("print jobs", [&] {
+        list = capturedNow();
+        return list.size() >= count;
+    });
+    return list;
+}
+
+CapturedJob PrivateScheduler::job(int number)
+{
+    CapturedJob found;
+    waitFor("a print job", [&] {
+        const QList<CapturedJob> list = capturedNow();
+        const auto at =
+            std::find_if(list.begin(), list.end(), [=](const CapturedJob &job) { return job.job == number; });
+        if (at == list.end()) {
+            return false;
+        }
+        found = *at;
+        return true;
+    });
+    return found;
+}
+
+QString PrivateScheduler::samplePpd(const QString &name)
+{
+    const QString path = QStringLiteral(TEST_PPD_DIR "/%1.ppd").arg(name);
+    if (!QFile::exists(path)) {
+        qFatal("there is no sample %s", qPrintable(path));
+    }
+    return path;
+}
+
+QString PrivateScheduler::editedPpd(const QString &ppd, const QList<QPair<QByteArray, QByteArray>> &replacements)
+{
+    QByteArray text = readFile(ppd);
+    for (const auto &[before, after] : replacements) {
+        if (!text.contains(before)) {
+            qFatal("\"%s\" is not in %s", before.constData(), qPrintable(ppd));
+        }
+        text.replace(before, after);
+    }
+    const QString path = temporaryDir.filePath(QStringLiteral("edited-%1.ppd").arg(++editedPpds));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
+        qFatal("cannot write %s", qPrintable(path));
+    }
+    return path;
+}
+
+QString PrivateScheduler::commandDir() { return QStringLiteral(TEST_SUPPORT_DIR); }
+
+QString PrivateScheduler::socket() const { return temporaryDir.filePath("run/cups.sock"); }
+
+void PrivateScheduler::script(const QString &command)
+{
+    QStringList arguments{command, temporaryDir.path()};
+    if (command == "start") {
+        arguments << QString::number(QCoreApplication::applicationPid());
+    }
+    run(TEST_SUPPORT_DIR "/private-scheduler", arguments);
+}
+
+QList<CapturedJob> PrivateScheduler::capturedNow() const
+{
+    static const QRegularExpression folderName(R"(^(.*)-(\d+)$)");
+    QList<CapturedJob> list;
+    const QDir captured(temporaryDir.filePath("captured"));
+    const QStringList folders = captured.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &folder : folders) {
+        const QRegularExpressionMatch match = folderName.match(folder);
+        const auto part = [&](const char *name) { return readFile(captured.filePath(folder + '/' + name)); };
+        CapturedJob job;
+        job.queue = match.captured(1);
+        job.job = match.captured(2).toInt();
+        job.data = part("data");
+        job.title = part("title");
+        job.user = part("user");
+        job.copies = part("copies");
+        job.options = part("options");
+        job.type = part("type");
+        list << job;
+    }
+    std::sort(list.begin(), list.end(), [](const auto &a, const auto &b) { return a.job < b.job; });
+    return list;
+}
+
+QByteArray PrivateScheduler::accessLog() const { return readFile(temporaryDir.filePath("log/access_log")); }

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef PRIVATESCHEDULER_H
+#define PRIVATESCHEDULER_H
+
+#include <QByteArray>
+#include <QList>
+#include <QPair>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/** What one print job sent to its printer. */
+struct CapturedJob
+{
+    QString queue;
+    int job = 0;
+    QByteArray data; // of all its files, one after the other
+    QByteArray title;
+    QByteArray user;
+    QByteArray copies;
+    QByteArray options; // as a filter gets them: "KEYWORD=VALUE KEYWORD=VALUE", with others that the scheduler adds
+    QByteArray type;    // MIME type of the document
+
+    /** The value of an option of the job; null when it was not sent. */
+    QByteArray option(const char *keyword) const;
+};
+
+/**
+ * A CUPS scheduler for the time of this object, with queues whose jobs are kept instead of printed.
+ *
+ * Clients in this process, and processes that are started from it, are led to it through CUPS_SERVER. Make it before
+ * the first use of libcups. It also stops when this process crashes.
+ *
+ * What goes wrong here ends the test program with a message: no test could go on.
+ */
+class PrivateScheduler
+{
+public:
+    PrivateScheduler();
+    ~PrivateScheduler();
+
+    PrivateScheduler(const PrivateScheduler &) = delete;
+    PrivateScheduler &operator=(const PrivateScheduler &) = delete;
+
+    void start(); ///< Starts it again after stop(), with the same queues.
+    void stop();
+
+    /** Adds or changes a queue; with @p ppd empty it has no PPD file. */
+    void addQueue(const QString &name, const QString &ppd = samplePpd(QStringLiteral("label-203")),
+                  const QString &description = {}, const QString &location = {});
+    void removeQueue(const QString &name);
+
+    /** Gives an existing queue another PPD file. */
+    void setPpd(const QString &queue, const QString &ppd);
+
+    /** Makes @p name the default printer of the scheduler. To have none, remove the default printer. */
+    void setServerDefault(const QString &name);
+
+    /** Makes @p name, a queue or QUEUE/INSTANCE, the default printer in the options file of the user. */
+    void setUserDefault(const QString &name);
+
+    /** Saves options of a queue or QUEUE/INSTANCE in the options file of the user, as by lpoptions -o KEYWORD=VALUE. */
+    void setUserOptions(const QString &name, const QStringList &options);
+
+    /** Runs any CUPS command, such as cupsdisable, which has to succeed, and returns its output. */
+    static QByteArray run(const QString &program, const QStringList &arguments);
+
+    /**
+     * What clients asked for since startRequests(), in order: the name of each IPP operation ("Get-Jobs",
+     * "CUPS-Get-Printers"), or "GET /path".
+     */
+    QStringList requests();
+    void startRequests();
+
+    /** Waits until there are @p count jobs and returns them all, sorted by number. */
+    QList<CapturedJob> jobs(int count);
+
+    /** Waits for the job with this number. */
+    CapturedJob job(int number);
+
+    /** The path of a sample PPD file: label-203, label-300, every-option or few-options. */
+    static QString samplePpd(const QString &name);
+
+    /** The path of a copy of @p ppd with texts replaced; each of them has to occur in it. */
+    QString editedPpd(const QString &ppd, const QList<QPair<QByteArray, QByteArray>> &replacements);
+
+    /** A folder to have on PATH for the ppdhack command; see there. */
+    static QString commandDir();
+
+    QString dir() const { return temporaryDir.path(); }
+    QString socket() const;
+
+private:
+    void script(const QString &command);
+    QList<CapturedJob> capturedNow() const;
+    QByteArray accessLog() const;
+
+    QTemporaryDir temporaryDir;
+    int loggedBefore = 0;
+    int markers = 0;
+    int editedPpds = 0;
+};
+
+#endif

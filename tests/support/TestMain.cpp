@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "TestMain.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+// Set in the process that has its own HOME. Set it by hand, beside a HOME, to run a test under a debugger.
+const char homeIsFresh[] = "TEST_HOME_IS_FRESH";
+
+const char childArgument[] = "--run-child";
+
+// What Qt's offscreen platform says of itself.
+const std::array allowedWarnings{
+    "This plugin does not support propagateSizeHints()",
+    "This plugin does not support raise()",
+    "This plugin does not support grabbing the keyboard",
+};
+
+QMap<QByteArray, TestMain::Function> &childFunctions()
+{
+    static QMap<QByteArray, TestMain::Function> functions;
+    return functions;
+}
+
+bool isAllowed(const QByteArray &message)
+{
+    return std::any_of(allowedWarnings.begin(), allowedWarnings.end(),
+                       [&](const char *allowed) { return message.contains(allowed); });
+}
+
+// Whether a line of a test log tells of a warning that no test expected.
+bool isUnexpectedWarning(const QByteArray &line)
+{
+    static const std::array<const char *, 3> types{"QWARN", "QSYSTEM", "QCRITICAL"};
+    return std::any_of(types.begin(), types.end(), [&](const char *type) { return line.startsWith(type); })
+           && !isAllowed(line);
+}
+
+void failOnWarning(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(message));
+    if (type != QtDebugMsg && type != QtInfoMsg && !isAllowed(message.toUtf8())) {
+        std::fprintf(stderr, "unexpected Qt warning in a child process\n");
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
+[[noreturn]] void startTests(char **argv, const QByteArray &home, const int (&pipeEnds)[2])
+{
+    // Without us nobody would end it.
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+    dup2(pipeEnds[1], STDOUT_FILENO);
+    close(pipeEnds[0]);
+    close(pipeEnds[1]);
+    setenv("HOME", home.constData(), 1);
+    setenv("XDG_RUNTIME_DIR", home.constData(), 1);
+    setenv(homeIsFresh, "1", 1);
+    for (const char *variable : {"LPDEST", "PRINTER", "CUPS_SERVER", "XDG_CONFIG_HOME", "LANGUAGE"}) {
+        unsetenv(variable);
+    }
+    execv("/proc/self/exe", argv);
+    std::perror("exec");
+    std::_Exit(EXIT_FAILURE);
+}
+
+// Passes on what is written there until its end, and returns the number of unexpected warnings.
+int copyOutput(int descriptor)
+{
+    int warnings = 0;
+    FILE *stream = fdopen(descriptor, "r");
+    char *line = nullptr;
+    size_t capacity = 0;
+    while (getline(&line, &capacity, stream) > 0) {
+        std::fputs(line, stdout);
+        std::fflush(stdout);
+        if (isUnexpectedWarning(line)) {
+            ++warnings;
+        }
+    }
+    std::free(line);
+    std::fclose(stream);
+    return warnings;
+}
+
+int runTestsInFreshHome(char **argv)
+{
+    const QTemporaryDir home(QStringLiteral("/tmp/pd-home-XXXXXX"));
+    int pipeEnds[2];
+    if (!home.isValid() || pipe(pipeEnds) != 0) {
+        std::perror("pipe");
+        return EXIT_FAILURE;
+    }
+    const QByteArray homePath = QFile::encodeName(home.path());
+    const pid_t child = fork();
+    if (child == 0) {
+        startTests(argv, homePath, pipeEnds);
+    }
+    close(pipeEnds[1]);
+    const int warnings = copyOutput(pipeEnds[0]);
+    int status = 0;
+    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+    }
+    if (warnings > 0) {
+        std::printf("FAIL!  : %d unexpected Qt warnings, see QWARN above\n", warnings);
+        return EXIT_FAILURE;
+    }
+    if (WIFSIGNALED(status)) {
+        std::printf("FAIL!  : killed by signal %d\n", WTERMSIG(status));
+        return EXIT_FAILURE;
+    }
+    return WEXITSTATUS(status);
+}
+
+} // namespace
+
+TestMain::ChildFunction::ChildFunction(const char *name, Function function) { childFunctions().insert(name, function); }
+
+TestMain::ChildResult TestMain::runChild(const char *name, const QStringList &arguments,
+                                         const QMap<QString, QString> &environment)
+{
+    QProcessEnvironment childEnvironment = QProcessEnvironment::systemEnvironment();
+    for (auto it = environment.begin(); it != environment.end(); ++it) {
+        if (it.value().isNull()) {
+            childEnvironment.remove(it.key());
+        } else {
+            childEnvironment.insert(it.key(), it.value());
+        }
+    }
+    QProcess process;
+    process.setProcessEnvironment(childEnvironment);
+    process.start(QStringLiteral("/proc/self/exe"), QStringList{childArgument, name} + arguments);
+    process.waitForFinished(120000);
+    ChildResult result;
+    result.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    result.output = process.readAllStandardOutput();
+    result.errors = process.readAllStandardError();
+    std::fputs(result.errors.constData(), stderr);
+    return result;
+}
+
+int TestMain::prepare(int &argc, char **argv)
+{
+    if (!qEnvironmentVariableIsSet(homeIsFresh)) {
+        return runTestsInFreshHome(argv);
+    }
+    if (argc < 3 || std::strcmp(argv[1], childArgument) != 0) {
+        return -1;
+    }
+    const Function function = childFunctions().value(argv[2]);
+    if (function == nullptr) {
+        qFatal("no child function %s", argv[2]);
+    }
+    qInstallMessageHandler(failOnWarning);
+    std::rotate(argv + 1, argv + 3, argv + argc + 1); // the terminating null too
+    argc -= 2;
+    return function(argc, argv);
+}

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef TESTMAIN_H
+#define TESTMAIN_H
+
+#include <QApplication>
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QTest>
+
+/**
+ * The frame of a test program. The library reads HOME when it is loaded, libcups its server and the C library its
+ * locale when they are first used; so
+ *
+ * - the program starts itself anew with a fresh, empty HOME, which is removed in the end, and with no default printer
+ *   in its environment,
+ * - a function that needs a process of its own is registered with ChildFunction and run by runChild().
+ *
+ * A Qt warning that no QTest::ignoreMessage() expects fails the program, also when it comes from a child. Such warnings
+ * tell of slots that were not connected, layouts that are broken, null pointers and the like.
+ */
+namespace TestMain {
+
+/** Returns the exit code of a process. @p argc and @p argv are as in main(), with the arguments given to runChild(). */
+using Function = int (*)(int &argc, char **argv);
+
+/** Registers a function for runChild(); to be constructed at file scope. */
+struct ChildFunction
+{
+    ChildFunction(const char *name, Function function);
+};
+
+struct ChildResult
+{
+    int exitCode = -1; // -1 when it crashed
+    QByteArray output;
+    QByteArray errors;
+};
+
+/**
+ * Runs a registered function in a new process of this program, with the same HOME and environment but for
+ * @p environment, where a null value removes a variable. No application object exists there. argv[0] is the program and
+ * is followed by @p arguments. What it writes to standard error is shown as well.
+ */
+ChildResult runChild(const char *name, const QStringList &arguments = {},
+                     const QMap<QString, QString> &environment = {});
+
+/** Gives the process its HOME, or runs a child function; returns the exit code, or -1 to go on with the tests. */
+int prepare(int &argc, char **argv);
+
+template<class TestClass>
+int run(int argc, char **argv)
+{
+    const int exitCode = prepare(argc, argv);
+    if (exitCode >= 0) {
+        return exitCode;
+    }
+    QApplication app(argc, argv);
+    TestClass test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+} // namespace TestMain
+
+/** In place of QTEST_MAIN. */
+#define PROPERTIESDIALOG_TEST_MAIN(TestClass)                                                                          \
+    int main(int argc, char **argv) { return TestMain::run<TestClass>(argc, argv); }
+
+#endif
