@@ -1,0 +1,707 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "CupsTest.h"
+#include "TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QTest>
+
+#include <csignal>
+#include <cstdio>
+
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+// Prints the options of destination NAME [INSTANCE] as libcups reads them, values in hexadecimal.
+static int printOptions(int &argc, char **argv)
+{
+    cups_dest_t *dests = nullptr;
+    const int count = cupsGetDests(&dests);
+    const cups_dest_t *dest = cupsGetDest(argv[1], argc > 2 ? argv[2] : nullptr, count, dests);
+    for (int i = 0; dest != nullptr && i < dest->num_options; ++i) {
+        const cups_option_t &option = dest->options[i];
+        std::printf("%s %s\n", option.name, QByteArray(option.value).toHex().constData());
+    }
+    const bool found = dest != nullptr;
+    cupsFreeDests(count, dests);
+    return found ? 0 : 1;
+}
+static const TestMain::ChildFunction printOptionsFunction("printOptions", printOptions);
+
+// Saves where no file can grow beyond so many bytes, as on a full disk; prints what setDests() returned.
+static int saveWithLimit(int &, char **argv)
+{
+    CupsSupport cups;
+    cups.setDarkness(5);
+    const rlim_t bytes = QByteArray(argv[1]).toULong();
+    const rlimit limit = {bytes, bytes};
+    std::signal(SIGXFSZ, SIG_IGN);
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+        return 1;
+    }
+    const int result = cups.setDests();
+    std::printf("%d\n", result);
+    return 0;
+}
+static const TestMain::ChildFunction saveWithLimitFunction("saveWithLimit", saveWithLimit);
+
+using Options = QMap<QByteArray, QByteArray>;
+
+class OptionsFileTest : public CupsTest
+{
+    Q_OBJECT
+
+private slots:
+    void valueReadsBack_data();
+    void valueReadsBack();
+    void everyCharacterReadsBack_data();
+    void everyCharacterReadsBack();
+    void valuesOfSeveralOptionsReadBack();
+    void optionOfAnyNameReadsBack_data();
+    void optionOfAnyNameReadsBack();
+    void instanceReadsBack();
+    void savingAgainChangesNothing();
+    void valueThatCannotBeReadBackKeepsTheFile_data();
+    void valueThatCannotBeReadBackKeepsTheFile();
+    void longestLine();
+    void tooLongLineOfOtherDestination();
+
+    void removedOptionIsGone();
+    void entriesOfOtherQueuesAreKept();
+    void entriesOfOtherQueuesWorkAgain();
+    void earlierEntriesAreReplaced_data();
+    void earlierEntriesAreReplaced();
+    void defaultIsKept();
+    void savedWithoutScheduler();
+
+    void newFile();
+    void newFolder();
+    void permissionsAreKept_data();
+    void permissionsAreKept();
+    void ownerIsKept();
+    void symbolicLinkIsKept_data();
+    void symbolicLinkIsKept();
+    void linkToNothing();
+    void linkToNoFile();
+    void noHalfFile_data();
+    void noHalfFile();
+    void fileThatCannotBeReplaced();
+    void folderThatCannotBeMade();
+
+private:
+    static Options freshlyRead(const QStringList &destination);
+};
+
+// What a new process reads.
+Options OptionsFileTest::freshlyRead(const QStringList &destination)
+{
+    const TestMain::ChildResult result = TestMain::runChild("printOptions", destination);
+    if (result.exitCode != 0) {
+        qFatal("%s is not listed", qPrintable(destination.join('/')));
+    }
+    Options options;
+    const QList<QByteArray> lines = result.output.split('\n');
+    for (const QByteArray &line : lines) {
+        const QList<QByteArray> parts = line.split(' ');
+        options.insert(parts.at(0), QByteArray::fromHex(parts.value(1)));
+    }
+    return options;
+}
+
+void OptionsFileTest::valueReadsBack_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    const auto row = [](const QByteArray &value) {
+        QTest::newRow(value.isEmpty() ? "empty" : value.constData()) << value;
+    };
+    for (const char *value : {
+             "",
+             "a",
+             "true",
+             "True",
+             "a b",
+             " ",
+             "  ",
+             " a",
+             "a ",
+             " a b ", // words
+             "#",
+             "a#b",
+             "#a",
+             "a#",
+             "##",
+             "a#b#c#d",
+             "# a #",
+             "a # b",
+             "a\\#b",
+             "\\#",
+             "#\\",
+             "\\#\\#", // comments
+             "\t",
+             "a\tb",
+             "\ta",
+             "a\t",
+             " \t ",
+             "a\t#b", // white space
+             "\"",
+             "'",
+             "a\"b",
+             "a'b",
+             "\"a\"",
+             "'a'",
+             "\"a",
+             "'a",
+             "a\"",
+             "a'",
+             "\"\"",
+             "''",
+             "'\"'\"",
+             "it's # \"so\"", // quotes
+             "\\",
+             "\\\\",
+             "a\\b",
+             "a\\",
+             "\\\"",
+             "\\'",
+             "C:\\dir\\x",
+             "A\\\\rB\\\\r",
+             "\\n",
+             "\\040", // backslashes
+             "{",
+             "}",
+             "{a",
+             "a}",
+             "{a}",
+             "{a b}",
+             "{a=b c=d}",
+             "a{b}c",
+             "}{",
+             "{{}}",
+             "{ #", // collections
+             ",",
+             "a,b",
+             ",a",
+             "a,",
+             "a, b", // lists
+             "=",
+             "a=b",
+             "a = b",
+             "Darkness=9",
+             "-",
+             "--",
+             "$HOME",
+             "`x`",
+             "a;b|c&d",
+             "<a>",
+             "*?[",
+             "100%s%n", // others
+             "\x01\x02\x1b\x7f",
+             "a\vb",
+             "a\fb",
+             "\v",
+             "\f",
+             "Gr\xf6\xdf"
+             "e",
+             "\xa0",
+             "\xff\x80",
+             "5 \xe2\x82\xac",
+         }) {
+        row(value);
+    }
+}
+
+void OptionsFileTest::valueReadsBack()
+{
+    QFETCH(QByteArray, value);
+    CupsSupport cups;
+    // One option before it and one behind it in the line.
+    QVERIFY(cups.setValue("Feed", "24") > 0);
+    QVERIFY(cups.setValue("JobStart", value.constData()) > 0);
+    QVERIFY(cups.setValue("PrintSpeed", "5") > 0);
+    const qsizetype count = cups.cupsOptions().size() / 2;
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(saved(cups, "JobStart"), value);
+
+    const Options options = freshlyRead({"LP1"});
+    QVERIFY(options.contains("JobStart"));
+    QCOMPARE(options.value("JobStart"), value);
+    QCOMPARE(options.value("Feed"), QByteArray("24"));
+    QCOMPARE(options.value("PrintSpeed"), QByteArray("5"));
+    QCOMPARE(options.size() - 1, count); // less the empty line at the end of the output
+}
+
+void OptionsFileTest::everyCharacterReadsBack_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("alone") << QByteArray("") << QByteArray("");
+    QTest::newRow("inside") << QByteArray("a") << QByteArray("b");
+    QTest::newRow("beside blanks") << QByteArray("a ") << QByteArray(" b");
+    QTest::newRow("beside quotes") << QByteArray("\"") << QByteArray("'");
+    QTest::newRow("beside backslashes") << QByteArray("\\") << QByteArray("\\");
+}
+
+void OptionsFileTest::everyCharacterReadsBack()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    const auto isLineBreak = [](int code) { return code == '\n' || code == '\r'; };
+    CupsSupport cups;
+    for (int code = 1; code < 256; ++code) {
+        if (!isLineBreak(code)) {
+            const QByteArray value = before + char(code) + after;
+            QVERIFY(cups.setValue("Option" + QByteArray::number(code), value.constData()) > 0);
+        }
+    }
+    QCOMPARE(cups.setDests(), 0);
+    const Options options = freshlyRead({"LP1"});
+    for (int code = 1; code < 256; ++code) {
+        if (!isLineBreak(code)) {
+            QCOMPARE(options.value("Option" + QByteArray::number(code)), before + char(code) + after);
+        }
+    }
+}
+
+void OptionsFileTest::valuesOfSeveralOptionsReadBack()
+{
+    const Options values{
+        {"JobEnd", "#1"},  {"JobStart", ""}, {"LabelEnd", "a\t#"}, {"LabelStart", ""},
+        {"LabelX", "'#'"}, {"LabelY", "\""}, {"LabelZ", "{#"},
+    };
+    const auto cups = supportFor(LP2);
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        QVERIFY(cups->setValue(it.key(), it.value().constData()) > 0);
+    }
+    QCOMPARE(cups->setDests(), 0);
+    const Options options = freshlyRead({"LP2"});
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        QVERIFY2(options.contains(it.key()), it.key().constData());
+        QCOMPARE(options.value(it.key()), it.value());
+    }
+}
+
+void OptionsFileTest::optionOfAnyNameReadsBack_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("value");
+    // Some of these libcups knows, with types of their own.
+    QTest::newRow("copies") << QByteArray("copies") << QByteArray("2");
+    QTest::newRow("media") << QByteArray("media") << QByteArray("w288h432");
+    QTest::newRow("job-sheets") << QByteArray("job-sheets") << QByteArray("standard,none");
+    QTest::newRow("number-up") << QByteArray("number-up") << QByteArray("4");
+    QTest::newRow("sides") << QByteArray("sides") << QByteArray("one-sided");
+    QTest::newRow("finishings") << QByteArray("finishings") << QByteArray("4");
+    QTest::newRow("page-ranges") << QByteArray("page-ranges") << QByteArray("1-3,5");
+    QTest::newRow("orientation-requested") << QByteArray("orientation-requested") << QByteArray("6");
+    QTest::newRow("printer-resolution") << QByteArray("printer-resolution") << QByteArray("300dpi");
+    QTest::newRow("raw") << QByteArray("raw") << QByteArray("true");
+    QTest::newRow("document-format") << QByteArray("document-format") << QByteArray("text/plain");
+    QTest::newRow("page-left") << QByteArray("page-left") << QByteArray("18");
+    QTest::newRow("no value") << QByteArray("fit-to-page") << QByteArray("");
+    QTest::newRow("begins with no") << QByteArray("noFeed") << QByteArray("1");
+    QTest::newRow("dots") << QByteArray("com.example.x") << QByteArray("1.5");
+}
+
+void OptionsFileTest::optionOfAnyNameReadsBack()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QByteArray, value);
+    CupsSupport cups;
+    QVERIFY(cups.setValue(name, value.constData()) > 0);
+    QCOMPARE(cups.setDests(), 0);
+    const Options options = freshlyRead({"LP1"});
+    QVERIFY(options.contains(name));
+    QCOMPARE(options.value(name), value);
+}
+
+void OptionsFileTest::instanceReadsBack()
+{
+    writeOptionsFile("Dest LP1/wide Darkness=4\n");
+    CupsSupport cups;
+    cups.setCurrentPrinter(1);
+    QCOMPARE(cups.getCurrentQueueName(), QString("LP1/wide"));
+    cups.setValue("JobStart", "# of\tit");
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(freshlyRead({"LP1", "wide"}).value("JobStart"), QByteArray("# of\tit"));
+    QCOMPARE(freshlyRead({"LP1", "wide"}).value("Darkness"), QByteArray("4"));
+    QVERIFY(!freshlyRead({"LP1"}).contains("JobStart"));
+}
+
+void OptionsFileTest::savingAgainChangesNothing()
+{
+    writeOptionsFile("Dest GONE Darkness=4 X=\"a \\# b\"\nDefault LP1/wide\n");
+    CupsSupport cups;
+    cups.setValue("JobStart", "");
+    cups.setValue("JobEnd", "a # b \\ \" \t");
+    QCOMPARE(cups.setDests(), 0);
+    const QByteArray first = readOptionsFile();
+    QVERIFY(!first.isEmpty());
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(readOptionsFile(), first);
+    CupsSupport fresh;
+    QCOMPARE(fresh.setDests(), 0);
+    QCOMPARE(readOptionsFile(), first);
+}
+
+void OptionsFileTest::valueThatCannotBeReadBackKeepsTheFile_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("line feed") << QByteArray("a\nb");
+    QTest::newRow("line feed at the end") << QByteArray("a\n");
+    QTest::newRow("line feed alone") << QByteArray("\n");
+    QTest::newRow("carriage return") << QByteArray("a\rb");
+    QTest::newRow("both") << QByteArray("a\r\nb");
+    QTest::newRow("another entry") << QByteArray("a\nDefault LP3");
+    QTest::newRow("too long") << QByteArray(9000, 'x');
+    QTest::newRow("too long with its backslashes") << QByteArray(5000, '"');
+    QTest::newRow("very long") << QByteArray(1000000, 'x');
+}
+
+void OptionsFileTest::valueThatCannotBeReadBackKeepsTheFile()
+{
+    QFETCH(QByteArray, value);
+    const QByteArray before("Dest LP1 Darkness=4 # mine\nDest GONE Feed=24\n");
+    writeOptionsFile(before);
+    CupsSupport cups;
+    cups.setDarkness(5);
+    cups.setValue("JobStart", value.constData());
+    QCOMPARE(cups.setDests(), -1);
+    QCOMPARE(readOptionsFile(), before);
+    QCOMPARE(QFileInfo(optionsPath()).dir().entryList(QDir::Files | QDir::Hidden), QStringList({"lpoptions"}));
+
+    // Nothing is lost in memory, and without that value it can be saved.
+    QCOMPARE(saved(cups, "JobStart"), value);
+    cups.deleteOptions({"JobStart"});
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(freshlyRead({"LP1"}).value("Darkness"), QByteArray("5"));
+}
+
+void OptionsFileTest::longestLine()
+{
+    // libcups reads lines of up to 8191 bytes.
+    const int length = int(8191 - qstrlen("Dest LP1 JobStart="));
+    CupsSupport cups;
+    cups.setValue("JobStart", QByteArray(length, 'x').constData());
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(readOptionsFile().indexOf('\n'), 8191);
+    QCOMPARE(freshlyRead({"LP1"}).value("JobStart"), QByteArray(length, 'x'));
+
+    cups.setValue("JobStart", QByteArray(length + 1, 'y').constData());
+    QCOMPARE(cups.setDests(), -1);
+    QCOMPARE(freshlyRead({"LP1"}).value("JobStart"), QByteArray(length, 'x'));
+}
+
+void OptionsFileTest::tooLongLineOfOtherDestination()
+{
+    CupsSupport cups;
+    cups.setValue("JobStart", QByteArray(9000, 'x').constData());
+    cups.setCurrentPrinter(LP2);
+    cups.setDarkness(5);
+    QCOMPARE(cups.setDests(), -1);
+    QVERIFY(!QFile::exists(optionsPath()));
+}
+
+void OptionsFileTest::removedOptionIsGone()
+{
+    writeOptionsFile("Dest LP1 Darkness=4 Feed=24\nDest LP2 Darkness=6\n");
+    CupsSupport cups;
+    cups.deleteOptions({"Darkness"});
+    QCOMPARE(cups.setDests(), 0);
+    QVERIFY(!freshlyRead({"LP1"}).contains("Darkness"));
+    QCOMPARE(freshlyRead({"LP1"}).value("Feed"), QByteArray("24"));
+    QCOMPARE(freshlyRead({"LP2"}).value("Darkness"), QByteArray("6"));
+
+    // Without options of the user a destination has no entry.
+    cups.deleteOptions({"Feed"});
+    QCOMPARE(cups.setDests(), 0);
+    QVERIFY(!readOptionsFile().contains("LP1"));
+}
+
+void OptionsFileTest::entriesOfOtherQueuesAreKept()
+{
+    const QByteArrayList others{"Dest GONE Darkness=3 JobStart=\"a \\\"b\\\" \\# c\"", "Dest GONE/wide Feed=24",
+                                "Default ELSEWHERE"};
+    writeOptionsFile(others.at(0) + "\nDest LP1 Feed=24\n" + others.at(1) + "\n\n"
+                     + others.at(2)); // no line break at the end
+    CupsSupport cups;
+    cups.setDarkness(5);
+    QCOMPARE(cups.setDests(), 0);
+    const QByteArrayList lines = readOptionsFile().split('\n');
+    for (const QByteArray &line : others) {
+        QCOMPARE(lines.count(line), 1);
+    }
+    QCOMPARE(lines.count("Dest LP1 Darkness=5 Feed=24"), 1);
+    QCOMPARE(readOptionsFile().count("LP1"), 1);
+    QVERIFY(readOptionsFile().endsWith('\n'));
+}
+
+void OptionsFileTest::entriesOfOtherQueuesWorkAgain()
+{
+    scheduler->addQueue("LP4");
+    {
+        const auto cups = supportFor(3);
+        cups->setDarkness(5);
+        cups->setValue("JobStart", "# one");
+        QCOMPARE(cups->setDests(), 0);
+    }
+    scheduler->removeQueue("LP4");
+    {
+        CupsSupport cups;
+        cups.setFeed(24);
+        QCOMPARE(cups.setDests(), 0);
+    }
+    scheduler->addQueue("LP4");
+    const Options options = freshlyRead({"LP4"});
+    scheduler->removeQueue("LP4");
+    QCOMPARE(options.value("Darkness"), QByteArray("5"));
+    QCOMPARE(options.value("JobStart"), QByteArray("# one"));
+}
+
+void OptionsFileTest::earlierEntriesAreReplaced_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::newRow("entry") << QByteArray("Dest LP1 Darkness=4\n");
+    QTest::newRow("other case") << QByteArray("DEST lp1 Darkness=4\n");
+    QTest::newRow("blanks") << QByteArray("  Dest \t LP1 \t Darkness=4  \n");
+    QTest::newRow("two entries") << QByteArray("Dest LP1 Darkness=3\nDest LP1 Darkness=4\n");
+    QTest::newRow("comment behind") << QByteArray("Dest LP1 Darkness=4 # mine\n");
+    QTest::newRow("no line break at the end") << QByteArray("Dest LP1 Darkness=4");
+    QTest::newRow("no options") << QByteArray("Dest LP1\nDest LP1 Darkness=4\n");
+}
+
+void OptionsFileTest::earlierEntriesAreReplaced()
+{
+    QFETCH(QByteArray, file);
+    writeOptionsFile(file);
+    CupsSupport cups;
+    QCOMPARE(cups.getDarkness(), 4);
+    cups.deleteOptions({"Darkness"});
+    cups.setFeed(24);
+    QCOMPARE(cups.setDests(), 0);
+    QVERIFY(!freshlyRead({"LP1"}).contains("Darkness"));
+    QCOMPARE(freshlyRead({"LP1"}).value("Feed"), QByteArray("24"));
+}
+
+void OptionsFileTest::defaultIsKept()
+{
+    writeOptionsFile("Default LP2\n");
+    CupsSupport cups;
+    cups.setCurrentPrinter(LP1);
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(CupsSupport().getCurrentQueueName(), QString("LP2"));
+}
+
+void OptionsFileTest::savedWithoutScheduler()
+{
+    CupsSupport cups;
+    cups.setDarkness(5);
+    scheduler->stop();
+    const int result = cups.setDests();
+    scheduler->start();
+    QCOMPARE(result, 0);
+    QCOMPARE(freshlyRead({"LP1"}).value("Darkness"), QByteArray("5"));
+    QCOMPARE(freshlyRead({"LP1"}).value("printer-info"), QByteArray("First Printer"));
+}
+
+void OptionsFileTest::newFile()
+{
+    QVERIFY(QDir::home().mkdir(".cups"));
+    const mode_t mask = umask(027);
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    umask(mask);
+    struct stat status = {};
+    QCOMPARE(stat(QFile::encodeName(optionsPath()), &status), 0);
+    QCOMPARE(int(status.st_mode & 07777), 0640);
+}
+
+void OptionsFileTest::newFolder()
+{
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    struct stat status = {};
+    QCOMPARE(stat(QFile::encodeName(QFileInfo(optionsPath()).path()), &status), 0);
+    QCOMPARE(int(status.st_mode & 07777), 0700);
+}
+
+void OptionsFileTest::permissionsAreKept_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::newRow("0600") << 0600;
+    QTest::newRow("0644") << 0644;
+    QTest::newRow("0666") << 0666;
+    QTest::newRow("0640") << 0640;
+    QTest::newRow("0755") << 0755;
+}
+
+void OptionsFileTest::permissionsAreKept()
+{
+    QFETCH(int, mode);
+    writeOptionsFile("Dest LP1 Darkness=3\n");
+    const QByteArray path = QFile::encodeName(optionsPath());
+    QCOMPARE(chmod(path, mode_t(mode)), 0);
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    struct stat status = {};
+    QCOMPARE(stat(path, &status), 0);
+    QCOMPARE(int(status.st_mode & 07777), mode);
+    QCOMPARE(freshlyRead({"LP1"}).value("Darkness"), QByteArray("4"));
+}
+
+void OptionsFileTest::ownerIsKept()
+{
+    writeOptionsFile("Dest LP1 Darkness=3\n");
+    const QByteArray path = QFile::encodeName(optionsPath());
+    if (geteuid() == 0) { // nobody else can give files away
+        QCOMPARE(chown(path, 12345, 54321), 0);
+        QCOMPARE(chmod(path, 0640), 0);
+    }
+    struct stat before = {};
+    QCOMPARE(stat(path, &before), 0);
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    struct stat after = {};
+    QCOMPARE(stat(path, &after), 0);
+    QCOMPARE(after.st_uid, before.st_uid);
+    QCOMPARE(after.st_gid, before.st_gid);
+    QCOMPARE(after.st_mode, before.st_mode);
+    QCOMPARE(freshlyRead({"LP1"}).value("Darkness"), QByteArray("4"));
+}
+
+void OptionsFileTest::symbolicLinkIsKept_data()
+{
+    QTest::addColumn<QStringList>("targets"); // of lpoptions, and of the links it leads to
+    QTest::newRow("beside") << QStringList({"real"});
+    QTest::newRow("elsewhere") << QStringList({"../real"});
+    QTest::newRow("absolute") << QStringList({QDir::homePath() + "/real"});
+    QTest::newRow("two links") << QStringList({"second", "../real"});
+}
+
+void OptionsFileTest::symbolicLinkIsKept()
+{
+    QFETCH(QStringList, targets);
+    QVERIFY(QDir::home().mkdir(".cups"));
+    const QString folder = QDir::homePath() + "/.cups/";
+    QString link = optionsPath();
+    for (const QString &target : targets) {
+        QCOMPARE(symlink(QFile::encodeName(target), QFile::encodeName(link)), 0);
+        link = QDir::cleanPath(QDir(folder).filePath(target));
+    }
+    writeOptionsFile("Dest LP1 Darkness=3\n"); // through the links
+    CupsSupport cups;
+    QCOMPARE(cups.getDarkness(), 3);
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+
+    char target[1000] = {};
+    QVERIFY(readlink(QFile::encodeName(optionsPath()), target, sizeof target - 1) > 0);
+    QCOMPARE(QString::fromLocal8Bit(target), targets.at(0));
+    QVERIFY(!QFileInfo(link).isSymLink());
+    QFile real(link);
+    QVERIFY(real.open(QIODevice::ReadOnly));
+    QCOMPARE(real.readAll(), QByteArray("Dest LP1 Darkness=4\n"));
+    QVERIFY(real.remove());
+}
+
+void OptionsFileTest::linkToNothing()
+{
+    QVERIFY(QDir::home().mkdir(".cups"));
+    QCOMPARE(symlink("../real", QFile::encodeName(optionsPath())), 0);
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    QVERIFY(QFileInfo(optionsPath()).isSymLink());
+    QFile real(QDir::homePath() + "/real");
+    QVERIFY(real.open(QIODevice::ReadOnly));
+    QCOMPARE(real.readAll(), QByteArray("Dest LP1 Darkness=4\n"));
+    QVERIFY(real.remove());
+}
+
+void OptionsFileTest::linkToNoFile()
+{
+    // A link to /dev/null is the usual case. The superuser could replace that, which no test should risk; but he can
+    // make one of his own. For others a socket will do.
+    QVERIFY(QDir::home().mkdir(".cups"));
+    const QByteArray path = QFile::encodeName(QDir::homePath() + "/.cups/special");
+    int descriptor = -1;
+    if (mknod(path, S_IFCHR | 0600, makedev(1, 3)) != 0) {
+        sockaddr_un address = {};
+        address.sun_family = AF_UNIX;
+        qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
+        descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        QCOMPARE(bind(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+    }
+    QCOMPARE(symlink("special", QFile::encodeName(optionsPath())), 0);
+
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), -1);
+    struct stat status = {};
+    QCOMPARE(stat(QFile::encodeName(optionsPath()), &status), 0);
+    QVERIFY(!S_ISREG(status.st_mode));
+    QVERIFY(QFileInfo(optionsPath()).isSymLink());
+    close(descriptor);
+}
+
+void OptionsFileTest::noHalfFile_data()
+{
+    QTest::addColumn<QString>("bytes");
+    QTest::addColumn<bool>("fits");
+    QTest::newRow("none") << "0" << false;
+    QTest::newRow("some") << "10" << false;
+    QTest::newRow("the first entry") << "20" << false;
+    QTest::newRow("almost all") << "50" << false;
+    QTest::newRow("all") << "51" << true;
+}
+
+void OptionsFileTest::noHalfFile()
+{
+    QFETCH(QString, bytes);
+    QFETCH(bool, fits);
+    const QByteArray before("Dest LP1 Darkness=4\nDest LP2 Darkness=6 JobStart=x\n");
+    const QByteArray after("Dest LP1 Darkness=5\nDest LP2 Darkness=6 JobStart=x\n");
+    QCOMPARE(after.size(), 51);
+    writeOptionsFile(before);
+    const TestMain::ChildResult result = TestMain::runChild("saveWithLimit", {bytes});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, QByteArray(fits ? "0\n" : "-1\n"));
+    QCOMPARE(readOptionsFile(), fits ? after : before);
+    QCOMPARE(QFileInfo(optionsPath()).dir().entryList(QDir::Files | QDir::Hidden), QStringList({"lpoptions"}));
+}
+
+void OptionsFileTest::fileThatCannotBeReplaced()
+{
+    QVERIFY(QDir::home().mkpath(".cups/lpoptions/folder"));
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), -1);
+    QVERIFY(QFileInfo(optionsPath() + "/folder").isDir());
+    QCOMPARE(cups.getDarkness(), 4);
+}
+
+void OptionsFileTest::folderThatCannotBeMade()
+{
+    QFile file(QDir::homePath() + "/.cups");
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), -1);
+    QVERIFY(QFileInfo(file.fileName()).isFile());
+    QVERIFY(file.remove());
+}
+
+PROPERTIESDIALOG_TEST_MAIN(OptionsFileTest)
+#include "OptionsFileTest.moc"
