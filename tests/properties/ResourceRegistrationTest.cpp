@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "TestMain.h"
+
+#include <QFile>
+#include <QTest>
+
+/** The pair of functions that are run when the library is loaded and unloaded. */
+class ResourceRegistrationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pair();
+};
+
+void ResourceRegistrationTest::pair()
+{
+    const QString iconPath = QStringLiteral(":/b/printer.png");
+    QVERIFY(QFile::exists(iconPath)); // nobody had to ask for it
+
+    Q_CLEANUP_RESOURCE(b);
+    QVERIFY(!QFile::exists(iconPath));
+
+    Q_INIT_RESOURCE(b);
+    QVERIFY(QFile::exists(iconPath));
+}
+
+PROPERTIESDIALOG_TEST_MAIN(ResourceRegistrationTest)
+
+#include "ResourceRegistrationTest.moc"
