@@ -1,0 +1,65 @@
+# SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+# SPDX-License-Identifier: MIT
+
+# What `cmake --install` puts into a prefix: the library, its headers, and the two files by which hosts find it.
+#
+# Component "Runtime" is what a program needs to run, "Development" what is needed to build one.
+
+include(CMakePackageConfigHelpers)
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/PropertiesDialog)
+
+install(TARGETS PropertiesDialog
+    EXPORT PropertiesDialogTargets
+    LIBRARY
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        COMPONENT Runtime
+        NAMELINK_COMPONENT Development
+    PUBLIC_HEADER
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/PropertiesDialog
+        COMPONENT Development
+)
+
+# For CMake: find_package(PropertiesDialog).
+install(EXPORT PropertiesDialogTargets
+    NAMESPACE PropertiesDialog::
+    DESTINATION ${package_dir}
+    COMPONENT Development
+)
+configure_package_config_file(
+    ${CMAKE_CURRENT_LIST_DIR}/PropertiesDialogConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/PropertiesDialogConfig.cmake
+    INSTALL_DESTINATION ${package_dir}
+    NO_SET_AND_CHECK_MACRO
+)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/PropertiesDialogConfigVersion.cmake
+    COMPATIBILITY SameMajorVersion
+)
+install(FILES
+    ${PROJECT_BINARY_DIR}/PropertiesDialogConfig.cmake
+    ${PROJECT_BINARY_DIR}/PropertiesDialogConfigVersion.cmake
+    DESTINATION ${package_dir}
+    COMPONENT Development
+)
+
+# For everything else: pkg-config. Its paths are relative to the prefix unless the build was given absolute ones.
+set(pc_libdir "\${exec_prefix}/${CMAKE_INSTALL_LIBDIR}")
+if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
+    set(pc_libdir ${CMAKE_INSTALL_LIBDIR})
+endif()
+set(pc_includedir "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
+if(IS_ABSOLUTE ${CMAKE_INSTALL_INCLUDEDIR})
+    set(pc_includedir ${CMAKE_INSTALL_INCLUDEDIR})
+endif()
+
+# The prefix may still change at installation (cmake --install --prefix), so its line is filled in only then.
+set(PC_PREFIX @PC_PREFIX@)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/PropertiesDialog.pc.in ${PROJECT_BINARY_DIR}/PropertiesDialog.pc.in @ONLY)
+install(CODE "
+    set(PC_PREFIX \"\${CMAKE_INSTALL_PREFIX}\")
+    configure_file(\"${PROJECT_BINARY_DIR}/PropertiesDialog.pc.in\" \"${PROJECT_BINARY_DIR}/PropertiesDialog.pc\" @ONLY)
+" COMPONENT Development)
+install(FILES ${PROJECT_BINARY_DIR}/PropertiesDialog.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+    COMPONENT Development
+)
