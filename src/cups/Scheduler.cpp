@@ -20,15 +20,11 @@ void leaveAlone()
     leaveAloneUntil = Clock::now() + std::chrono::milliseconds(SchedulerConnection::patienceMs);
 }
 
-// Whether somebody listens here. A request that is announced is answered with "go on", and what does not follow is no
-// request.
+// Whether somebody answers here. This question is no work for a scheduler, and it keeps no log of it.
 bool answers(http_t *http)
 {
     httpClearFields(http);
-    httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
-    httpSetExpect(http, HTTP_STATUS_CONTINUE);
-    httpSetLength(http, 1);
-    return httpPost(http, "/") == 0 && httpWait(http, SchedulerConnection::patienceMs);
+    return httpOptions(http, "*") == 0 && httpWait(http, SchedulerConnection::patienceMs);
 }
 
 } // namespace
@@ -58,4 +54,15 @@ SchedulerConnection::~SchedulerConnection()
 bool SchedulerConnection::isSilent()
 {
     return Clock::now() < leaveAloneUntil;
+}
+
+SchedulerOutOfReach::SchedulerOutOfReach()
+    : server(cupsServer())
+{
+    cupsSetServer("/nonexistent");
+}
+
+SchedulerOutOfReach::~SchedulerOutOfReach()
+{
+    cupsSetServer(server.constData());
 }

@@ -4,6 +4,8 @@
 #ifndef SCHEDULER_H
 #define SCHEDULER_H
 
+#include <QByteArray>
+
 #include <cups/http.h>
 
 /**
@@ -44,6 +46,24 @@ public:
 private:
     http_t *http = nullptr;
     bool usable = false;
+};
+
+/**
+ * Takes the scheduler out of reach of libcups' own default connection while it lives.
+ *
+ * Qt's printer objects use that connection, and wait without a limit.
+ */
+class SchedulerOutOfReach
+{
+public:
+    SchedulerOutOfReach();
+    ~SchedulerOutOfReach();
+
+    SchedulerOutOfReach(const SchedulerOutOfReach &) = delete;
+    SchedulerOutOfReach &operator=(const SchedulerOutOfReach &) = delete;
+
+private:
+    const QByteArray server;
 };
 
 #endif

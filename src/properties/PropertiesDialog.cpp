@@ -9,10 +9,8 @@
 #include "Translation.h"
 
 #include <QApplication>
-#include <QByteArray>
 #include <QPrinter>
-
-#include <cups/cups.h>
+#include <QPrinterInfo>
 
 #include <optional>
 
@@ -28,20 +26,6 @@ bool hasDisplay()
     return false;
 }
 
-// Takes the scheduler out of reach of libcups' own default connection while it lives.
-class SchedulerOutOfReach
-{
-public:
-    SchedulerOutOfReach() { cupsSetServer("/nonexistent"); }
-    ~SchedulerOutOfReach() { cupsSetServer(server.constData()); }
-
-    SchedulerOutOfReach(const SchedulerOutOfReach &) = delete;
-    SchedulerOutOfReach &operator=(const SchedulerOutOfReach &) = delete;
-
-private:
-    const QByteArray server = cupsServer();
-};
-
 int runDialog()
 {
     const Translation translation;
@@ -53,7 +37,8 @@ int runDialog()
         const SchedulerOutOfReach guard;
         printer.emplace(QPrinter::ScreenResolution);
     } else {
-        printer.emplace(QPrinter::ScreenResolution);
+        // Told which printer is meant, it does not fetch all destinations once more to find the default one.
+        printer.emplace(QPrinterInfo::printerInfo(cups.getCurrentQueueName()), QPrinter::ScreenResolution);
     }
     PrintPropertiesDialog dialog(nullptr, &*printer, &cups);
     return dialog.exec();
