@@ -4,6 +4,8 @@
 #include "PrintDialog.h"
 
 #include "CupsSupport.h"
+#include "FormRoom.h"
+#include "Scheduler.h"
 #include "ui_PrintDialog.h"
 
 #include <QEvent>
@@ -12,11 +14,19 @@
 #include <QStyle>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace {
 
 constexpr int maximumCopies = 100;
+
+/** The forms' sizes, and the place of all that the full one shows: for usual fonts and short words. */
 constexpr QSize shortFormSize(380, 110);
+constexpr QSize fullFormSize(462, 291);
+constexpr QRect fullFormPlace(10, 10, 326, 290);
+
+/** What there is at least to be room for in the printer list and beside the labels, in characters. */
+constexpr int shownCharacters = 14;
 
 /** The result that tells exec2() to run the properties dialog. */
 constexpr int propertiesWanted = -1;
@@ -72,7 +82,7 @@ PrintDialog::PrintDialog(QWidget *parent)
     ui->noButton->setIcon(style()->standardIcon(QStyle::SP_DialogNoButton));
     ui->numCopies->setRange(1, maximumCopies);
     setNumCopies(1);
-    setFixedSize(shortFormSize);
+    makeRoom();
 }
 
 PrintDialog::PrintDialog(QWidget *parent, QPrinter *hostPrinter, CupsSupport *cupsSupport)
@@ -87,9 +97,9 @@ PrintDialog::PrintDialog(QWidget *parent, QPrinter *hostPrinter, CupsSupport *cu
     // about the other form's box here as well: hosts count on setNumCopies() not touching what the user sees.
     ui->numCopies_2->setRange(1, maximumCopies);
     setNumCopies(1);
-    setFixedSize(size());
     ui->cboPrinterName->setEditable(false);
     updateForm();
+    makeRoom();
     connect(ui->chkPrintToFile, &QCheckBox::clicked, this, &PrintDialog::chk_printToFile_changed_state);
     connect(ui->chkDefaultPrinter, &QCheckBox::clicked, this, &PrintDialog::chk_chkDefaultPrinter_changed_state);
     connect(ui->cboPrinterName, qOverload<int>(&QComboBox::currentIndexChanged), this,
@@ -178,6 +188,9 @@ void PrintDialog::reject()
 void PrintDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        makeRoom();
+    }
     if (event->type() != QEvent::LanguageChange) {
         return;
     }
@@ -191,6 +204,7 @@ void PrintDialog::changeEvent(QEvent *event)
     if (index >= 0) {
         showPrinterTexts(printers.at(index));
     }
+    makeRoom();
 }
 
 void PrintDialog::on_propertiesButton_clicked()
@@ -220,7 +234,6 @@ void PrintDialog::on_yesButton_2_clicked()
         return;
     }
     changePrinter(index);
-    accept();
 }
 
 void PrintDialog::chk_printToFile_changed_state(bool checked)
@@ -255,6 +268,29 @@ void PrintDialog::cbo_Printers_change(int index)
     if (ui->cboPrinterName->count() > 0) {
         updateLabels(index);
     }
+}
+
+/** Lets nothing be cut off, also with large fonts and long words; and places it where one begins to read. */
+void PrintDialog::makeRoom()
+{
+    if (ui->stackedWidget->currentWidget() == ui->page_Simple) {
+        if (FormRoom::hasLargeFont(*this)) {
+            for (QWidget *widget : std::initializer_list<QWidget *>{ui->numCopies, ui->yesButton, ui->noButton,
+                                                                    ui->propertiesButton}) {
+                widget->setMinimumHeight(std::max(widget->minimumHeight(), widget->sizeHint().height()));
+            }
+        }
+        FormRoom::freshenSizeHints(*this);
+        setFixedSize(shortFormSize.expandedTo(ui->page_Simple->minimumSizeHint()));
+        return;
+    }
+    ui->gridLayout_4->setColumnMinimumWidth(1, shownCharacters * fontMetrics().averageCharWidth());
+    FormRoom::freshenSizeHints(*this);
+    const QSize needed = ui->gridLayout_8->totalMinimumSize();
+    const int margin = fullFormPlace.left();
+    setFixedSize(fullFormSize.expandedTo(needed + QSize(2 * margin, 2 * margin)));
+    const QRect place(fullFormPlace.topLeft(), fullFormPlace.size().expandedTo(needed));
+    ui->layoutWidget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
 }
 
 /** What the scheduler said of each destination when they were fetched. */
@@ -299,10 +335,17 @@ void PrintDialog::showPrinterTexts(const PrinterItem &item)
     showText(ui->lblLocation, item.location);
 }
 
-/** Makes the chosen printer the one where both the CupsSupport and the host's QPrinter print. */
+/** Makes the chosen printer the one where both the CupsSupport and the host's QPrinter print, and accepts. */
 void PrintDialog::changePrinter(int index)
 {
     cups->setCurrentPrinter(index);
+    // Qt would wait for a scheduler that does not answer, without a limit. Kept from it, it would stay with the old printer
+    // and later print there what the user sent elsewhere.
+    if (SchedulerConnection::isSilent()) {
+        cups->setCurrentPrinter(initialIndex);
+        reject();
+        return;
+    }
     // Qt knows printers by the names of their queues and silently stays with the old printer when it is given any other
     // text. The description that the user chose by would therefore do only where it is the queue name as well; where it
     // happens to be the name of another queue, the host's pages would even go there, and an empty one would turn the
@@ -310,6 +353,7 @@ void PrintDialog::changePrinter(int index)
     printer->setPrinterName(cups->getCurrentQueueName());
     initialIndex = index;
     currentMoved = false;
+    accept();
 }
 
 /** Undoes what "Use Default" did to the CupsSupport as soon as it was ticked. */

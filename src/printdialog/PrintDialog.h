@@ -96,6 +96,7 @@ private:
         QString location;
     };
 
+    void makeRoom();
     QList<PrinterItem> readPrinters() const;
     bool listIsCurrent() const;
     void startOver();

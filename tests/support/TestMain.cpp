@@ -146,7 +146,10 @@ TestMain::ChildResult TestMain::runChild(const char *name, const QStringList &ar
     QProcess process;
     process.setProcessEnvironment(childEnvironment);
     process.start(QStringLiteral("/proc/self/exe"), QStringList{childArgument, name} + arguments);
-    process.waitForFinished(120000);
+    if (!process.waitForFinished(120000)) {
+        process.kill(); // which counts as a crash
+        process.waitForFinished();
+    }
     ChildResult result;
     result.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     result.output = process.readAllStandardOutput();
