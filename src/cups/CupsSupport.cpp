@@ -30,6 +30,9 @@ namespace {
 constexpr char storedLineBreak[] = "\\\\r";
 constexpr char reducedLineBreak[] = "\\r";
 
+// Stands for the PPD file of a printer that has none, as the scheduler has said. Without it every getter would ask again.
+ppd_file_t absentPpdFile;
+
 bool isOneOf(int value, std::initializer_list<int> allowed)
 {
     return std::find(allowed.begin(), allowed.end(), value) != allowed.end();
@@ -111,6 +114,8 @@ int CupsSupport::getDefaultPrinter()
     cupsFreeDests(destCount, dests);
     dests = nullptr;
     destCount = 0;
+    if (ppd == &absentPpdFile)
+        ppd = nullptr; // another printer may become current, and only an open file stays
     const SchedulerConnection connection;
     if (connection.isUsable())
         destCount = cupsGetDests2(connection.get(), &dests);
@@ -140,8 +145,11 @@ void CupsSupport::openPpdFile() const
         return;
     const SchedulerConnection connection;
     const char *path = connection.isUsable() ? cupsGetPPD2(connection.get(), dest->name) : nullptr;
-    if (!path)
+    if (!path) {
+        if (connection.isUsable() && cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND)
+            ppd = &absentPpdFile;
         return;
+    }
     ppd = ppdOpenFile(path);
     unlink(path); // the copy is ours and nobody else knows it
     if (!ppd)
@@ -190,12 +198,12 @@ ppd_file_t *CupsSupport::getPpdFile() const
 {
     if (!ppd)
         openPpdFile();
-    return ppd;
+    return ppd == &absentPpdFile ? nullptr : ppd;
 }
 
 void CupsSupport::closePpdFile()
 {
-    if (ppd)
+    if (ppd && ppd != &absentPpdFile)
         ppdClose(ppd);
     ppd = nullptr;
 }

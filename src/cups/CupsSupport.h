@@ -38,36 +38,39 @@ class PROPERTIESDIALOG_EXPORT CupsSupport
 public:
     /** The media type, stored under "LabelCategory". Other numbers are passed through as they are. */
     enum _Category : int {
-        Continuous = 0,
-        LabelsWithGaps = 1,
-        LabelsWithMarks = 2
+        Continuous = 0,     ///< endless, without labels
+        LabelsWithGaps = 1, ///< labels with gaps between them
+        LabelsWithMarks = 2 ///< labels with black marks on the back
     };
 
     /** The IPP "orientation-requested" codes. */
     enum _CupsOrientation : int {
-        Portrait = 3,
-        Landscape = 4,
-        ReverseLandscape = 5,
-        ReversePortrait = 6
+        Portrait = 3,         ///< upright
+        Landscape = 4,        ///< turned by 90 degrees
+        ReverseLandscape = 5, ///< landscape, turned by 180 degrees
+        ReversePortrait = 6   ///< portrait, turned by 180 degrees
     };
 
-    /** Fetches the destinations and makes the default one current. Opens no PPD file yet. */
+    /**
+     * Fetches the destinations and makes the default one current. Opens no PPD file yet. Where the scheduler cannot be
+     * reached there are none; one that accepts requests and does not answer costs four seconds.
+     */
     CupsSupport();
 
     /** Closes the PPD file and frees the destinations; unsaved settings are dropped. */
     ~CupsSupport();
 
-    CupsSupport(const CupsSupport &) = delete;
-    CupsSupport &operator=(const CupsSupport &) = delete;
+    CupsSupport(const CupsSupport &) = delete; ///< Not to be copied.
+    CupsSupport &operator=(const CupsSupport &) = delete; ///< Not to be copied.
 
     /** @name Destinations and the current printer */
     /** @{ */
 
     /**
-     * Fetches all destinations anew and makes the default one current; the last one wins if several are flagged. Without
-     * a default the current index stays as it was (0 after construction, and when so many printers are no more). Unsaved settings of every destination are
-     * dropped. An open PPD file stays open, also when it now belongs to another printer: call setCurrentPrinter() or
-     * closePpdFile() to get the right one.
+     * Fetches all destinations anew and makes the default one current; the last one wins if several are flagged.
+     * Without a default the current index stays as it was (0 after construction, and when so many printers are no
+     * more). Unsaved settings of every destination are dropped. An open PPD file stays open, also when it now belongs
+     * to another printer: call setCurrentPrinter() or closePpdFile() to get the right one.
      *
      * @return the current index; unchanged when there are no destinations.
      */
@@ -103,7 +106,10 @@ public:
      */
     ppd_file_t *getPpdFile() const;
 
-    /** Closes the PPD file. The next use opens it again and so marks it with the present options. */
+    /**
+     * Closes the PPD file. The next use opens it again and so marks it with the present options. To be called as well
+     * when a printer that had no PPD file may have got one.
+     */
     void closePpdFile();
 
     /**
@@ -152,40 +158,60 @@ public:
     const char *getValue(const char *keyword, int index = -1) const;
 
     /**
-     * Stores @p value in the working copy. A value that equals the PPD default removes the saved option instead.
+     * Stores @p value, which must not be null, in the working copy. A value that equals the PPD default removes the
+     * saved option instead.
      *
      * @return the new number of saved options, -1 when there is no printer.
      */
     int setValue(const char *keyword, const char *value);
 
-    /** Stores a number with three decimals and a decimal point; see setValue(). */
+    /**
+     * Stores a number with three decimals and a decimal point, whatever the locale.
+     *
+     * @return what setValue() returns.
+     */
     int setDouble(const char *keyword, double value);
 
-    /** Stores a whole number; see setValue(). */
+    /** Stores a whole number. @return what setValue() returns. */
     int setInt(const char *keyword, int value);
 
-    /** Stores "True" or "False"; see setValue(). */
+    /** Stores "True" or "False". @return what setValue() returns. */
     int setBool(const char *keyword, bool value);
 
-    /** Reads a number. @return true on FAILURE (missing, or no number); then @p value is untouched. */
+    /**
+     * Reads a number with a decimal point, whatever the locale, into @p value, which must not be null; see getValue().
+     *
+     * @return true on FAILURE (missing, or no number); then @p value is untouched.
+     */
     bool getDouble(const char *keyword, double *value) const;
 
-    /** Reads a whole number. @return true on FAILURE (missing, or no number); then @p value is untouched. */
+    /**
+     * Reads a whole number into @p value, which must not be null; see getValue().
+     *
+     * @return true on FAILURE (missing, or no number); then @p value is untouched.
+     */
     bool getInt(const char *keyword, int *value) const;
 
-    /** Reads a flag: true when it begins with T or t. @return true on FAILURE (missing); then @p value is untouched. */
+    /**
+     * Reads a flag, true when it begins with T or t, into @p value, which must not be null; see getValue().
+     *
+     * @return true on FAILURE (missing); then @p value is untouched.
+     */
     bool getBool(const char *keyword, bool *value) const;
 
     /**
-     * Reads a text of several lines, with line feeds as line breaks.
+     * Reads a text of several lines, with line feeds as line breaks, into @p value, which must not be null; see
+     * getValue().
      *
      * @return true when found; else false, and @p value is a null string.
      */
     bool getString(const char *keyword, QString *value) const;
 
     /**
-     * Stores a text of several lines as one line of Latin-1; other characters become "?". A text that is not empty always
-     * ends with a line break, which is added if it is missing. See setValue().
+     * Stores a text of several lines as one line of Latin-1; other characters become "?". A text that is not empty
+     * always ends with a line break, which is added if it is missing.
+     *
+     * @return what setValue() returns.
      */
     int setString(const char *keyword, const QString &value);
 
@@ -197,58 +223,59 @@ public:
      * @name Label settings
      *
      * Getters return the stated fallback when the setting is missing or unreadable. Setters store through the setter by
-     * keyword and return what that returns; but for setOrientation() they do not check their input.
+     * keyword and return what that returns: -1 when there is no printer. But for setOrientation() they do not check
+     * their input; what the driver allows is in its PPD file.
      */
     /** @{ */
 
-    double getShift() const; ///< "Shift", vertical offset in millimetres; fallback 0.0.
-    int setShift(double millimetres);
-    double getStart() const; ///< "Start", start position in millimetres; fallback 0.0.
-    int setStart(double millimetres);
-    double getStop() const; ///< "Stop", stop position in millimetres; fallback 0.0.
-    int setStop(double millimetres);
-    double getMarkOffset() const; ///< "MarkOffset", black mark offset in millimetres; fallback 0.0.
-    int setMarkOffset(double millimetres);
-    double getMarkSize() const; ///< "MarkSize", black mark size in millimetres; fallback 0.0.
-    int setMarkSize(double millimetres);
+    double getShift() const; ///< "Shift", vertical offset, in millimetres; fallback 0.0. Dialog: -25.4 to 25.4.
+    int setShift(double millimetres); ///< Stores "Shift". @return what setDouble() returns.
+    double getStart() const; ///< "Start", start position, in millimetres; fallback 0.0. The dialog does not show it.
+    int setStart(double millimetres); ///< Stores "Start". @return what setDouble() returns.
+    double getStop() const; ///< "Stop", stop position, in millimetres; fallback 0.0. The dialog offers 0 to 39.878.
+    int setStop(double millimetres); ///< Stores "Stop". @return what setDouble() returns.
+    double getMarkOffset() const; ///< "MarkOffset", black mark offset, in millimetres; fallback 0.0.
+    int setMarkOffset(double millimetres); ///< Stores "MarkOffset". @return what setDouble() returns.
+    double getMarkSize() const; ///< "MarkSize", black mark size, in millimetres; fallback 0.0.
+    int setMarkSize(double millimetres); ///< Stores "MarkSize". @return what setDouble() returns.
     double getGapOffset() const; ///< "GapOffset", in millimetres; fallback 0.0.
-    int setGapOffset(double millimetres);
+    int setGapOffset(double millimetres); ///< Stores "GapOffset". @return what setDouble() returns.
     double getGapSize() const; ///< "GapSize", in millimetres; fallback 0.0.
-    int setGapSize(double millimetres);
-    int getOffsetV() const; ///< "OffsetV", vertical print offset in dots; fallback 0.
-    int setOffsetV(int dots);
-    int getOffsetH() const; ///< "OffsetH", horizontal print offset in dots; fallback 0.
-    int setOffsetH(int dots);
+    int setGapSize(double millimetres); ///< Stores "GapSize". @return what setDouble() returns.
+    int getOffsetV() const; ///< "OffsetV", vertical print offset, in dots; fallback 0.
+    int setOffsetV(int dots); ///< Stores "OffsetV". @return what setInt() returns.
+    int getOffsetH() const; ///< "OffsetH", horizontal print offset, in dots; fallback 0.
+    int setOffsetH(int dots); ///< Stores "OffsetH". @return what setInt() returns.
     int getCut() const; ///< "CutMedia": 0 no cut, 2 after the job, 4 after each page; fallback and any other value: 4.
-    int setCut(int cut);
+    int setCut(int cut); ///< Stores "CutMedia"; see getCut(). @return what setInt() returns.
     int getOverlap() const; ///< "Overlap", in dots; fallback 0.
-    int setOverlap(int dots);
-    int getBack() const; ///< "Back", backfeed in dots; fallback 0.
-    int setBack(int dots);
-    int getFeed() const; ///< "Feed", in dots; fallback 0.
-    int setFeed(int dots);
-    _Category getCategory() const; ///< "LabelCategory", the media type; fallback 0.
-    int setCategory(_Category category);
-    int getDarkness() const; ///< "Darkness"; fallback 7.
-    int setDarkness(int darkness);
-    int getSpeed() const; ///< "PrintSpeed", in inches per second; fallback 2.
-    int setSpeed(int speed);
+    int setOverlap(int dots); ///< Stores "Overlap". @return what setInt() returns.
+    int getBack() const; ///< "Back", backfeed, in dots; fallback 0. See getExtendedOffset().
+    int setBack(int dots); ///< Stores "Back". @return what setInt() returns.
+    int getFeed() const; ///< "Feed", in dots of the vertical resolution; fallback 0.
+    int setFeed(int dots); ///< Stores "Feed". @return what setInt() returns.
+    _Category getCategory() const; ///< "LabelCategory", the media type; fallback 0. May be a number without a name.
+    int setCategory(_Category category); ///< Stores "LabelCategory". @return what setInt() returns.
+    int getDarkness() const; ///< "Darkness"; fallback 7. The dialog offers 0 to 19, for some models 0 to 15.
+    int setDarkness(int darkness); ///< Stores "Darkness". @return what setInt() returns.
+    int getSpeed() const; ///< "PrintSpeed", in inches per second; fallback 2. The dialog offers at most 1 to 5.
+    int setSpeed(int speed); ///< Stores "PrintSpeed". @return what setInt() returns.
     _CupsOrientation getOrientation() const; ///< "orientation-requested"; fallback and any value outside 3 to 6: 4.
-    int setOrientation(_CupsOrientation orientation); ///< Stores 4 for any value outside 3 to 6.
-    bool getDirect() const; ///< "Direct"; fallback false.
-    int setDirect(bool direct);
-    bool getInverse() const; ///< "NegativePrint"; fallback false.
-    int setInverse(bool inverse);
-    bool getMirror() const; ///< "MirrorPrint"; fallback false.
-    int setMirror(bool mirror);
+    int setOrientation(_CupsOrientation orientation); ///< Stores 4 for any value outside 3 to 6. @return as setInt().
+    bool getDirect() const; ///< "Direct"; fallback false. The dialog does not show it.
+    int setDirect(bool direct); ///< Stores "Direct". @return what setBool() returns.
+    bool getInverse() const; ///< "NegativePrint": black and white are exchanged; fallback false.
+    int setInverse(bool inverse); ///< Stores "NegativePrint". @return what setBool() returns.
+    bool getMirror() const; ///< "MirrorPrint": left and right are exchanged; fallback false.
+    int setMirror(bool mirror); ///< Stores "MirrorPrint". @return what setBool() returns.
     QString getLabelEnd() const; ///< "LabelEnd", user command at the end of each label; fallback a null string.
-    int setLabelEnd(const QString &command);
+    int setLabelEnd(const QString &command); ///< Stores "LabelEnd". @return what setString() returns.
     QString getLabelStart() const; ///< "LabelStart", user command at the start of each label; fallback a null string.
-    int setLabelStart(const QString &command);
+    int setLabelStart(const QString &command); ///< Stores "LabelStart". @return what setString() returns.
     QString getJobEnd() const; ///< "JobEnd", user command at the end of each job; fallback a null string.
-    int setJobEnd(const QString &command);
+    int setJobEnd(const QString &command); ///< Stores "JobEnd". @return what setString() returns.
     QString getJobStart() const; ///< "JobStart", user command at the start of each job; fallback a null string.
-    int setJobStart(const QString &command);
+    int setJobStart(const QString &command); ///< Stores "JobStart". @return what setString() returns.
 
     /** @} */
     /** @name Page geometry, in points (72 to the inch) and dots per inch */
@@ -266,7 +293,10 @@ public:
     /** Horizontal and vertical resolution of the PPD default, in dots per inch; 300 and 304.8 when not known. */
     QSizeF getResolution() const;
 
-    /** The extended print offset in dots: the backfeed less the 12 (at 203 dpi) or 2 dots that mean no offset. */
+    /**
+     * The extended print offset in dots, positive or negative: the backfeed less the 12 (at 203 dpi) or 2 dots that
+     * mean no offset.
+     */
     int getExtendedOffset() const;
 
     /** Stores the extended print offset, in dots, and saves at once. @return what setDests() returns. */
@@ -288,16 +318,21 @@ public:
      */
     bool setOptions(const QStringList &list);
 
-    /** Removes the options with these keywords from the working copy. */
+    /** Removes the options with these keywords from the working copy; does nothing when there is no printer. */
     void deleteOptions(const QStringList &keywords);
 
-    /** The marked choices of the PPD file that differ from its defaults, as an option list. */
+    /**
+     * The marked choices of the PPD file that differ from its defaults, as an option list; empty without a PPD file.
+     */
     QStringList options() const;
 
-    /** All saved options of the current destination, as an option list. */
+    /** All saved options of the current destination, as an option list; empty when there is no printer. */
     QStringList cupsOptions() const;
 
-    /** Every option of the PPD file with its default choice, as an option list; options in subgroups are left out. */
+    /**
+     * Every option of the PPD file with its default choice, as an option list; options in subgroups are left out. Empty
+     * without a PPD file.
+     */
     QStringList ppdDefaults() const;
 
     /** Appends to @p list what options() returns for @p group's subgroups; null: for the whole PPD file. */
@@ -309,14 +344,23 @@ public:
     /**
      * Prints a file with the saved options of the destination, overridden for this job by @p list.
      *
+     * @param fileName the file to print, in any format that the queue accepts.
      * @param printerDescription the "printer-info" of the destination; empty or unknown means the current printer.
-     * @param title the job's title; empty means the file name.
+     * @param title the job's title; empty means the file name. Characters outside Latin-1 become "?".
+     * @param list an option list.
      * @return the job number, 0 on failure (see getCupsError()).
      */
     int printFile(const QString &fileName, const QString &printerDescription, const QString &title,
                   const QStringList &list);
 
-    /** Prints several files as one job on the current printer; an empty @p title is sent as it is. See printFile(). */
+    /**
+     * Prints several files as one job on the current printer.
+     *
+     * @param fileNames the files to print; without any nothing is printed.
+     * @param title the job's title, sent as it is also when empty.
+     * @param list an option list.
+     * @return the job number, 0 on failure (see getCupsError()).
+     */
     int printFiles(const QStringList &fileNames, const QString &title, const QStringList &list);
 
     /** @} */
