@@ -20,6 +20,11 @@ install(TARGETS PropertiesDialog
         COMPONENT Development
 )
 
+install(FILES ${PROJECT_SOURCE_DIR}/docs/propertiesDialog.3
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man3
+    COMPONENT Development
+)
+
 # For CMake: find_package(PropertiesDialog).
 install(EXPORT PropertiesDialogTargets
     NAMESPACE PropertiesDialog::

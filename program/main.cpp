@@ -98,7 +98,8 @@ std::optional<int> answerWithoutWindow(int &argc, char **argv, QString *queue)
     const CupsSupport cups;
     if (parser.isSet(list)) {
         for (int i = 0; i < cups.getDestCount(); ++i)
-            print(stdout, (i == cups.getCurrentIndex() ? QLatin1String("* ") : QLatin1String("  ")) + cups.getQueueName(i));
+            print(stdout,
+                  (i == cups.getCurrentIndex() ? QLatin1String("* ") : QLatin1String("  ")) + cups.getQueueName(i));
         return saved;
     }
     *queue = parser.value(printer);

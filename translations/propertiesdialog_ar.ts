@@ -5,502 +5,520 @@
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار إزاحة الطباعة الموسعة</translation>
     </message>
     <message>
         <source>Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>الإزاحة:</translation>
     </message>
     <message>
         <source>-0.75mm</source>
-        <translation type="unfinished"></translation>
+        <translation>‎-0.75مم</translation>
     </message>
     <message>
         <source>-0.50mm</source>
-        <translation type="unfinished"></translation>
+        <translation>‎-0.50مم</translation>
     </message>
     <message>
         <source>-0.25mm</source>
-        <translation type="unfinished"></translation>
+        <translation>‎-0.25مم</translation>
     </message>
     <message>
         <source> 0.00mm</source>
-        <translation type="unfinished"></translation>
+        <translation>‎ 0.00مم</translation>
     </message>
     <message>
         <source> 0.25mm</source>
-        <translation type="unfinished"></translation>
+        <translation>‎ 0.25مم</translation>
     </message>
     <message>
         <source> 0.50mm</source>
-        <translation type="unfinished"></translation>
+        <translation>‎ 0.50مم</translation>
     </message>
     <message>
         <source> 0.75mm</source>
-        <translation type="unfinished"></translation>
+        <translation>‎ 0.75مم</translation>
     </message>
 </context>
 <context>
     <name>Preset</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>تحذير</translation>
     </message>
     <message>
         <source>%1 cannot be modified.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن تعديل %1.</translation>
     </message>
 </context>
 <context>
     <name>Presets</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>تحذير</translation>
     </message>
     <message>
         <source>%1 cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن حذف %1.</translation>
     </message>
 </context>
 <context>
     <name>Preview</name>
     <message>
         <source>DL</source>
-        <translation type="unfinished"></translation>
+        <translation>DL</translation>
     </message>
 </context>
 <context>
     <name>PrintDialog</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>طباعة</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم:</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>الخصائص</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالة:</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>جاهزة</translation>
     </message>
     <message>
         <source>Use Default</source>
-        <translation type="unfinished"></translation>
+        <translation>الافتراضية</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع:</translation>
     </message>
     <message>
         <source>Vantry</source>
-        <translation type="unfinished"></translation>
+        <translation>Vantry</translation>
     </message>
     <message>
         <source>Where:</source>
-        <translation type="unfinished"></translation>
+        <translation>المكان:</translation>
     </message>
     <message>
         <source>Here</source>
-        <translation type="unfinished"></translation>
+        <translation>هنا</translation>
     </message>
     <message>
         <source>Print to file</source>
-        <translation type="unfinished"></translation>
+        <translation>إلى ملف</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>عدد النسخ:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>موافق</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation type="unfinished"></translation>
+        <translation>طلب مهمة الطباعة الآن</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>نعم</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>لا</translation>
     </message>
     <message>
         <source>Do you want to change the current printer to 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>هل تريد تغيير الطابعة الحالية إلى 
+</translation>
     </message>
     <message>
         <source> ?</source>
-        <translation type="unfinished"></translation>
+        <translation> ؟</translation>
     </message>
     <message>
         <source>Printer Change</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير الطابعة</translation>
     </message>
 </context>
 <context>
     <name>PrintPropertiesDialog</name>
     <message>
         <source>PrintPropertiesDialog</source>
-        <translation type="unfinished"></translation>
+        <translation>PrintPropertiesDialog</translation>
     </message>
     <message>
         <source>Page Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>إعداد الصفحة</translation>
     </message>
     <message>
         <source>User-defined Page Size</source>
-        <translation type="unfinished"></translation>
+        <translation>حجم صفحة مخصص</translation>
     </message>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>العرض:</translation>
     </message>
     <message>
         <source>inches</source>
-        <translation type="unfinished"></translation>
+        <translation>بوصة</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>الارتفاع:</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>معاينة</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتجاه</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>طولي</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>عرضي</translation>
     </message>
     <message>
         <source>Portrait 180°</source>
-        <translation type="unfinished"></translation>
+        <translation>طولي ‎180°</translation>
     </message>
     <message>
         <source>Landscape 180°</source>
-        <translation type="unfinished"></translation>
+        <translation>عرضي ‎180°</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>التأثيرات</translation>
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>معكوس</translation>
     </message>
     <message>
         <source>Negative</source>
-        <translation type="unfinished"></translation>
+        <translation>سلبي</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>إعداد مسبق</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم:</translation>
     </message>
     <message>
         <source>Manage...</source>
-        <translation type="unfinished"></translation>
+        <translation>إدارة...</translation>
     </message>
     <message>
         <source>Speed Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات السرعة</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>Darkness</source>
-        <translation type="unfinished"></translation>
+        <translation>كثافة الطباعة</translation>
     </message>
     <message>
         <source>Copyright © 2026 The PropertiesDialog authors</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright © 2026 The PropertiesDialog authors</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات المسبقة</translation>
     </message>
     <message>
         <source>Presets allow you to save your print settings with a name so
 that you can quickly switch between different configurations.</source>
-        <translation type="unfinished"></translation>
+        <translation>تحفظ الإعدادات المسبقة إعدادات الطباعة باسم
+لتتمكن من التبديل السريع بينها.</translation>
     </message>
     <message>
         <source>Preset List:</source>
-        <translation type="unfinished"></translation>
+        <translation>قائمة الإعدادات المسبقة:</translation>
     </message>
     <message>
         <source>Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>الوصف:</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>جديد</translation>
     </message>
     <message>
         <source>Update...</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث...</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف</translation>
     </message>
     <message>
         <source>Stock</source>
-        <translation type="unfinished"></translation>
+        <translation>الوسائط</translation>
     </message>
     <message>
         <source>Media Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات الوسائط</translation>
     </message>
     <message>
         <source>MediaType:</source>
-        <translation type="unfinished"></translation>
+        <translation>نوع الوسائط:</translation>
     </message>
     <message>
         <source>Black Mark Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض العلامة السوداء:</translation>
     </message>
     <message>
         <source>Black Mark Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>إزاحة العلامة السوداء:</translation>
     </message>
     <message>
         <source>Print Method:</source>
-        <translation type="unfinished"></translation>
+        <translation>طريقة الطباعة:</translation>
     </message>
     <message>
         <source>Media Handling</source>
-        <translation type="unfinished"></translation>
+        <translation>معالجة الوسائط</translation>
     </message>
     <message>
         <source>Cut:</source>
-        <translation type="unfinished"></translation>
+        <translation>القص:</translation>
     </message>
     <message>
         <source>Feed:</source>
-        <translation type="unfinished"></translation>
+        <translation>التغذية:</translation>
     </message>
     <message>
         <source>Backfeed:</source>
-        <translation type="unfinished"></translation>
+        <translation>التغذية العكسية:</translation>
     </message>
     <message>
         <source>dots</source>
-        <translation type="unfinished"></translation>
+        <translation>نقطة</translation>
     </message>
     <message>
         <source>Overlap:</source>
-        <translation type="unfinished"></translation>
+        <translation>التداخل:</translation>
     </message>
     <message>
         <source>Position Adjustments</source>
-        <translation type="unfinished"></translation>
+        <translation>ضبط الموضع</translation>
     </message>
     <message>
         <source>Stop Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>موضع التوقف:</translation>
     </message>
     <message>
         <source>Start Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>موضع البدء:</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>متقدم</translation>
     </message>
     <message>
         <source>User Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>أوامر المستخدم</translation>
     </message>
     <message>
         <source>Start of Job</source>
-        <translation type="unfinished"></translation>
+        <translation>بداية المهمة</translation>
     </message>
     <message>
         <source>Start of Label</source>
-        <translation type="unfinished"></translation>
+        <translation>بداية الملصق</translation>
     </message>
     <message>
         <source>End of Label</source>
-        <translation type="unfinished"></translation>
+        <translation>نهاية الملصق</translation>
     </message>
     <message>
         <source>End of Job</source>
-        <translation type="unfinished"></translation>
+        <translation>نهاية المهمة</translation>
     </message>
     <message>
         <source>Position Adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>ضبط الموضع</translation>
     </message>
     <message>
         <source>Horizontal Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>الإزاحة الأفقية:</translation>
     </message>
     <message>
         <source>Vertical Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>الإزاحة الرأسية:</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>حول</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>الإصدار</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>التاريخ</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>موافق</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>تطبيق</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>مساعدة</translation>
     </message>
     <message>
         <source>Continuous</source>
-        <translation type="unfinished"></translation>
+        <translation>متصل</translation>
     </message>
     <message>
         <source>Labels With Gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>ملصقات بفجوات</translation>
     </message>
     <message>
         <source>Labels With Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>ملصقات بعلامات</translation>
     </message>
     <message>
         <source>No Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>بدون قص</translation>
     </message>
     <message>
         <source>Cut After Job</source>
-        <translation type="unfinished"></translation>
+        <translation>قص بعد المهمة</translation>
     </message>
     <message>
         <source>Cut After Page</source>
-        <translation type="unfinished"></translation>
+        <translation>قص بعد الصفحة</translation>
     </message>
     <message>
         <source>Vertical Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>الإزاحة الرأسية</translation>
     </message>
     <message>
         <source>Stop Position</source>
-        <translation type="unfinished"></translation>
+        <translation>موضع التوقف</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الإصدار %1</translation>
     </message>
     <message>
         <source>%1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>Gap Size</source>
-        <translation type="unfinished"></translation>
+        <translation>حجم الفجوة</translation>
     </message>
     <message>
         <source>Gap Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>إزاحة الفجوة</translation>
     </message>
     <message>
         <source>Black Mark Size</source>
-        <translation type="unfinished"></translation>
+        <translation>حجم العلامة السوداء</translation>
     </message>
     <message>
         <source>Black Mark Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>إزاحة العلامة السوداء</translation>
     </message>
     <message>
         <source>New Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>إعداد مسبق جديد</translation>
     </message>
     <message>
         <source>New Preset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>إعداد مسبق جديد %1</translation>
+    </message>
+    <message>
+        <source>Orientation: %1</source>
+        <translation>الاتجاه: %1</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, mirrored</source>
+        <translation>الاتجاه: %1، معكوس</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, negative</source>
+        <translation>الاتجاه: %1، سلبي</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, mirrored and negative</source>
+        <translation>الاتجاه: %1، معكوس وسلبي</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>يعرض إعدادات طابعة ملصقات ويغيرها.</translation>
     </message>
     <message>
         <source>The queue, instead of the default one.</source>
-        <translation type="unfinished"></translation>
+        <translation>صف الطباعة بدلا من الصف الافتراضي.</translation>
     </message>
     <message>
         <source>NAME</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم</translation>
     </message>
     <message>
         <source>Lists the queues, the default one marked with an asterisk.</source>
-        <translation type="unfinished"></translation>
+        <translation>يسرد صفوف الطباعة مع تمييز الصف الافتراضي بنجمة.</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>معامل غير متوقع «%1»</translation>
     </message>
     <message>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد طابعة باسم «%1»؛ الخيار ‎--list‎ يسرد الموجودة</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>This preset contains this driver&apos;s current settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتوي هذا الإعداد المسبق على الإعدادات الحالية لبرنامج التشغيل.</translation>
     </message>
     <message>
         <source>This preset contains this driver&apos;s original default settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتوي هذا الإعداد المسبق على الإعدادات الافتراضية الأصلية لبرنامج التشغيل.</translation>
     </message>
     <message>
         <source>%1 Printing Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>تفضيلات الطباعة لـ %1</translation>
     </message>
 </context>
 </TS>

@@ -5,502 +5,520 @@
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Výběr rozšířeného posunu tisku</translation>
     </message>
     <message>
         <source>Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posun:</translation>
     </message>
     <message>
         <source>-0.75mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.75mm</translation>
     </message>
     <message>
         <source>-0.50mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.50mm</translation>
     </message>
     <message>
         <source>-0.25mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.25mm</translation>
     </message>
     <message>
         <source> 0.00mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.00mm</translation>
     </message>
     <message>
         <source> 0.25mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.25mm</translation>
     </message>
     <message>
         <source> 0.50mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.50mm</translation>
     </message>
     <message>
         <source> 0.75mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.75mm</translation>
     </message>
 </context>
 <context>
     <name>Preset</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Varování</translation>
     </message>
     <message>
         <source>%1 cannot be modified.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nelze změnit.</translation>
     </message>
 </context>
 <context>
     <name>Presets</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Varování</translation>
     </message>
     <message>
         <source>%1 cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nelze smazat.</translation>
     </message>
 </context>
 <context>
     <name>Preview</name>
     <message>
         <source>DL</source>
-        <translation type="unfinished"></translation>
+        <translation>DL</translation>
     </message>
 </context>
 <context>
     <name>PrintDialog</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Tisk</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Název:</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Vlastnosti</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stav:</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Připravena</translation>
     </message>
     <message>
         <source>Use Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Výchozí</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ:</translation>
     </message>
     <message>
         <source>Vantry</source>
-        <translation type="unfinished"></translation>
+        <translation>Vantry</translation>
     </message>
     <message>
         <source>Where:</source>
-        <translation type="unfinished"></translation>
+        <translation>Umístění:</translation>
     </message>
     <message>
         <source>Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Zde</translation>
     </message>
     <message>
         <source>Print to file</source>
-        <translation type="unfinished"></translation>
+        <translation>Do souboru</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>Počet kopií:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Odeslat tiskovou úlohu nyní</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ano</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne</translation>
     </message>
     <message>
         <source>Do you want to change the current printer to 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Chcete změnit současnou tiskárnu na 
+</translation>
     </message>
     <message>
         <source> ?</source>
-        <translation type="unfinished"></translation>
+        <translation> ?</translation>
     </message>
     <message>
         <source>Printer Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Změna tiskárny</translation>
     </message>
 </context>
 <context>
     <name>PrintPropertiesDialog</name>
     <message>
         <source>PrintPropertiesDialog</source>
-        <translation type="unfinished"></translation>
+        <translation>PrintPropertiesDialog</translation>
     </message>
     <message>
         <source>Page Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránka</translation>
     </message>
     <message>
         <source>User-defined Page Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Uživatelská velikost stránky</translation>
     </message>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Šířka:</translation>
     </message>
     <message>
         <source>inches</source>
-        <translation type="unfinished"></translation>
+        <translation>palců</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Výška:</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Náhled</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientace</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Na výšku</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Na šířku</translation>
     </message>
     <message>
         <source>Portrait 180°</source>
-        <translation type="unfinished"></translation>
+        <translation>Na výšku 180°</translation>
     </message>
     <message>
         <source>Landscape 180°</source>
-        <translation type="unfinished"></translation>
+        <translation>Na šířku 180°</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Efekty</translation>
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrcadlově</translation>
     </message>
     <message>
         <source>Negative</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativ</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolba</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Název:</translation>
     </message>
     <message>
         <source>Manage...</source>
-        <translation type="unfinished"></translation>
+        <translation>Spravovat...</translation>
     </message>
     <message>
         <source>Speed Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavení rychlosti</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>Darkness</source>
-        <translation type="unfinished"></translation>
+        <translation>Sytost tisku</translation>
     </message>
     <message>
         <source>Copyright © 2026 The PropertiesDialog authors</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright © 2026 The PropertiesDialog authors</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolby</translation>
     </message>
     <message>
         <source>Presets allow you to save your print settings with a name so
 that you can quickly switch between different configurations.</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolby ukládají nastavení tisku pod názvem,
+abyste mohli rychle přepínat mezi konfiguracemi.</translation>
     </message>
     <message>
         <source>Preset List:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam předvoleb:</translation>
     </message>
     <message>
         <source>Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>Popis:</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nová</translation>
     </message>
     <message>
         <source>Update...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizovat...</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat</translation>
     </message>
     <message>
         <source>Stock</source>
-        <translation type="unfinished"></translation>
+        <translation>Médium</translation>
     </message>
     <message>
         <source>Media Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavení média</translation>
     </message>
     <message>
         <source>MediaType:</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ média:</translation>
     </message>
     <message>
         <source>Black Mark Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Šířka černé značky:</translation>
     </message>
     <message>
         <source>Black Mark Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posun černé značky:</translation>
     </message>
     <message>
         <source>Print Method:</source>
-        <translation type="unfinished"></translation>
+        <translation>Způsob tisku:</translation>
     </message>
     <message>
         <source>Media Handling</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpracování média</translation>
     </message>
     <message>
         <source>Cut:</source>
-        <translation type="unfinished"></translation>
+        <translation>Řezání:</translation>
     </message>
     <message>
         <source>Feed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posuv:</translation>
     </message>
     <message>
         <source>Backfeed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpětný posuv:</translation>
     </message>
     <message>
         <source>dots</source>
-        <translation type="unfinished"></translation>
+        <translation>bodů</translation>
     </message>
     <message>
         <source>Overlap:</source>
-        <translation type="unfinished"></translation>
+        <translation>Překryv:</translation>
     </message>
     <message>
         <source>Position Adjustments</source>
-        <translation type="unfinished"></translation>
+        <translation>Úpravy polohy</translation>
     </message>
     <message>
         <source>Stop Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Poloha zastavení:</translation>
     </message>
     <message>
         <source>Start Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Počáteční poloha:</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokročilé</translation>
     </message>
     <message>
         <source>User Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Uživatelské příkazy</translation>
     </message>
     <message>
         <source>Start of Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek úlohy</translation>
     </message>
     <message>
         <source>Start of Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek štítku</translation>
     </message>
     <message>
         <source>End of Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec štítku</translation>
     </message>
     <message>
         <source>End of Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec úlohy</translation>
     </message>
     <message>
         <source>Position Adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>Úprava polohy</translation>
     </message>
     <message>
         <source>Horizontal Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vodorovný posun:</translation>
     </message>
     <message>
         <source>Vertical Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Svislý posun:</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>O aplikaci</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Použít</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Nápověda</translation>
     </message>
     <message>
         <source>Continuous</source>
-        <translation type="unfinished"></translation>
+        <translation>Nekonečné</translation>
     </message>
     <message>
         <source>Labels With Gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítky s mezerami</translation>
     </message>
     <message>
         <source>Labels With Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítky se značkami</translation>
     </message>
     <message>
         <source>No Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez řezání</translation>
     </message>
     <message>
         <source>Cut After Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Říznout po úloze</translation>
     </message>
     <message>
         <source>Cut After Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Říznout po stránce</translation>
     </message>
     <message>
         <source>Vertical Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Svislý posun</translation>
     </message>
     <message>
         <source>Stop Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Poloha zastavení</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze %1</translation>
     </message>
     <message>
         <source>%1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>Gap Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Velikost mezery</translation>
     </message>
     <message>
         <source>Gap Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Posun mezery</translation>
     </message>
     <message>
         <source>Black Mark Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Velikost černé značky</translation>
     </message>
     <message>
         <source>Black Mark Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Posun černé značky</translation>
     </message>
     <message>
         <source>New Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Nová předvolba</translation>
     </message>
     <message>
         <source>New Preset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nová předvolba %1</translation>
+    </message>
+    <message>
+        <source>Orientation: %1</source>
+        <translation>Orientace: %1</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, mirrored</source>
+        <translation>Orientace: %1, zrcadlově</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, negative</source>
+        <translation>Orientace: %1, negativ</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, mirrored and negative</source>
+        <translation>Orientace: %1, zrcadlově a negativ</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazuje a mění nastavení tiskárny štítků.</translation>
     </message>
     <message>
         <source>The queue, instead of the default one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fronta, místo výchozí.</translation>
     </message>
     <message>
         <source>NAME</source>
-        <translation type="unfinished"></translation>
+        <translation>NÁZEV</translation>
     </message>
     <message>
         <source>Lists the queues, the default one marked with an asterisk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vypíše fronty; výchozí je označena hvězdičkou.</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>neočekávaný argument „%1“</translation>
     </message>
     <message>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
-        <translation type="unfinished"></translation>
+        <translation>tiskárna „%1“ neexistuje; --list vypíše dostupné</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>This preset contains this driver&apos;s current settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato předvolba obsahuje současná nastavení tohoto ovladače.</translation>
     </message>
     <message>
         <source>This preset contains this driver&apos;s original default settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato předvolba obsahuje původní výchozí nastavení tohoto ovladače.</translation>
     </message>
     <message>
         <source>%1 Printing Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolby tisku: %1</translation>
     </message>
 </context>
 </TS>

@@ -5,502 +5,520 @@
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterten Druckversatz wählen</translation>
     </message>
     <message>
         <source>Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz:</translation>
     </message>
     <message>
         <source>-0.75mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.75mm</translation>
     </message>
     <message>
         <source>-0.50mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.50mm</translation>
     </message>
     <message>
         <source>-0.25mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.25mm</translation>
     </message>
     <message>
         <source> 0.00mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.00mm</translation>
     </message>
     <message>
         <source> 0.25mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.25mm</translation>
     </message>
     <message>
         <source> 0.50mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.50mm</translation>
     </message>
     <message>
         <source> 0.75mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.75mm</translation>
     </message>
 </context>
 <context>
     <name>Preset</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>%1 cannot be modified.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geändert werden.</translation>
     </message>
 </context>
 <context>
     <name>Presets</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>%1 cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gelöscht werden.</translation>
     </message>
 </context>
 <context>
     <name>Preview</name>
     <message>
         <source>DL</source>
-        <translation type="unfinished"></translation>
+        <translation>DL</translation>
     </message>
 </context>
 <context>
     <name>PrintDialog</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Status:</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>Use Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ:</translation>
     </message>
     <message>
         <source>Vantry</source>
-        <translation type="unfinished"></translation>
+        <translation>Vantry</translation>
     </message>
     <message>
         <source>Where:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort:</translation>
     </message>
     <message>
         <source>Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier</translation>
     </message>
     <message>
         <source>Print to file</source>
-        <translation type="unfinished"></translation>
+        <translation>In Datei</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopien:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckauftrag jetzt anfordern</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Do you want to change the current printer to 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuellen Drucker ändern in 
+</translation>
     </message>
     <message>
         <source> ?</source>
-        <translation type="unfinished"></translation>
+        <translation> ?</translation>
     </message>
     <message>
         <source>Printer Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckerwechsel</translation>
     </message>
 </context>
 <context>
     <name>PrintPropertiesDialog</name>
     <message>
         <source>PrintPropertiesDialog</source>
-        <translation type="unfinished"></translation>
+        <translation>PrintPropertiesDialog</translation>
     </message>
     <message>
         <source>Page Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite einrichten</translation>
     </message>
     <message>
         <source>User-defined Page Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefiniertes Seitenformat</translation>
     </message>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite:</translation>
     </message>
     <message>
         <source>inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoll</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe:</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochformat</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat</translation>
     </message>
     <message>
         <source>Portrait 180°</source>
-        <translation type="unfinished"></translation>
+        <translation>Hochformat 180°</translation>
     </message>
     <message>
         <source>Landscape 180°</source>
-        <translation type="unfinished"></translation>
+        <translation>Querformat 180°</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte</translation>
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespiegelt</translation>
     </message>
     <message>
         <source>Negative</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativ</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>Manage...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwalten...</translation>
     </message>
     <message>
         <source>Speed Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>Darkness</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckdichte</translation>
     </message>
     <message>
         <source>Copyright © 2026 The PropertiesDialog authors</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright © 2026 The PropertiesDialog authors</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgaben</translation>
     </message>
     <message>
         <source>Presets allow you to save your print settings with a name so
 that you can quickly switch between different configurations.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Vorgaben speichern Sie Ihre Druckeinstellungen unter einem
+Namen und wechseln schnell zwischen ihnen.</translation>
     </message>
     <message>
         <source>Preset List:</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste der Vorgaben:</translation>
     </message>
     <message>
         <source>Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung:</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Update...</source>
-        <translation type="unfinished"></translation>
+        <translation>Anpassen...</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Stock</source>
-        <translation type="unfinished"></translation>
+        <translation>Material</translation>
     </message>
     <message>
         <source>Media Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Medieneinstellungen</translation>
     </message>
     <message>
         <source>MediaType:</source>
-        <translation type="unfinished"></translation>
+        <translation>Medientyp:</translation>
     </message>
     <message>
         <source>Black Mark Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite der Schwarzmarke:</translation>
     </message>
     <message>
         <source>Black Mark Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz der Schwarzmarke:</translation>
     </message>
     <message>
         <source>Print Method:</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckverfahren:</translation>
     </message>
     <message>
         <source>Media Handling</source>
-        <translation type="unfinished"></translation>
+        <translation>Medienhandhabung</translation>
     </message>
     <message>
         <source>Cut:</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneiden:</translation>
     </message>
     <message>
         <source>Feed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschub:</translation>
     </message>
     <message>
         <source>Backfeed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückzug:</translation>
     </message>
     <message>
         <source>dots</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkte</translation>
     </message>
     <message>
         <source>Overlap:</source>
-        <translation type="unfinished"></translation>
+        <translation>Überlappung:</translation>
     </message>
     <message>
         <source>Position Adjustments</source>
-        <translation type="unfinished"></translation>
+        <translation>Positionskorrekturen</translation>
     </message>
     <message>
         <source>Stop Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp-Position:</translation>
     </message>
     <message>
         <source>Start Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Startposition:</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweitert</translation>
     </message>
     <message>
         <source>User Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerbefehle</translation>
     </message>
     <message>
         <source>Start of Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftragsanfang</translation>
     </message>
     <message>
         <source>Start of Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Etikettanfang</translation>
     </message>
     <message>
         <source>End of Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Etikettende</translation>
     </message>
     <message>
         <source>End of Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftragsende</translation>
     </message>
     <message>
         <source>Position Adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>Positionskorrektur</translation>
     </message>
     <message>
         <source>Horizontal Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontaler Versatz:</translation>
     </message>
     <message>
         <source>Vertical Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikaler Versatz:</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Über</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Continuous</source>
-        <translation type="unfinished"></translation>
+        <translation>Endlos</translation>
     </message>
     <message>
         <source>Labels With Gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiketten mit Lücken</translation>
     </message>
     <message>
         <source>Labels With Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiketten mit Schwarzmarken</translation>
     </message>
     <message>
         <source>No Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Schnitt</translation>
     </message>
     <message>
         <source>Cut After Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt nach Auftrag</translation>
     </message>
     <message>
         <source>Cut After Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt nach Seite</translation>
     </message>
     <message>
         <source>Vertical Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikaler Versatz</translation>
     </message>
     <message>
         <source>Stop Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp-Position</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>%1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>Gap Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Lücke</translation>
     </message>
     <message>
         <source>Gap Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz der Lücke</translation>
     </message>
     <message>
         <source>Black Mark Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Schwarzmarke</translation>
     </message>
     <message>
         <source>Black Mark Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz der Schwarzmarke</translation>
     </message>
     <message>
         <source>New Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Vorgabe</translation>
     </message>
     <message>
         <source>New Preset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Vorgabe %1</translation>
+    </message>
+    <message>
+        <source>Orientation: %1</source>
+        <translation>Ausrichtung: %1</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, mirrored</source>
+        <translation>Ausrichtung: %1, gespiegelt</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, negative</source>
+        <translation>Ausrichtung: %1, negativ</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, mirrored and negative</source>
+        <translation>Ausrichtung: %1, gespiegelt und negativ</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt und ändert die Einstellungen eines Etikettendruckers.</translation>
     </message>
     <message>
         <source>The queue, instead of the default one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Warteschlange, anstelle der Standard-Warteschlange.</translation>
     </message>
     <message>
         <source>NAME</source>
-        <translation type="unfinished"></translation>
+        <translation>NAME</translation>
     </message>
     <message>
         <source>Lists the queues, the default one marked with an asterisk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listet die Warteschlangen auf; ein Stern markiert die Standard-Warteschlange.</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>unerwartetes Argument „%1“</translation>
     </message>
     <message>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Drucker „%1“; --list nennt die vorhandenen</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>This preset contains this driver&apos;s current settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Vorgabe enthält die aktuellen Einstellungen dieses Treibers.</translation>
     </message>
     <message>
         <source>This preset contains this driver&apos;s original default settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Vorgabe enthält die ursprünglichen Standardeinstellungen dieses Treibers.</translation>
     </message>
     <message>
         <source>%1 Printing Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckeinstellungen für %1</translation>
     </message>
 </context>
 </TS>

@@ -5,502 +5,520 @@
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir desplazamiento de impresión ampliado</translation>
     </message>
     <message>
         <source>Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazam.:</translation>
     </message>
     <message>
         <source>-0.75mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.75mm</translation>
     </message>
     <message>
         <source>-0.50mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.50mm</translation>
     </message>
     <message>
         <source>-0.25mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.25mm</translation>
     </message>
     <message>
         <source> 0.00mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.00mm</translation>
     </message>
     <message>
         <source> 0.25mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.25mm</translation>
     </message>
     <message>
         <source> 0.50mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.50mm</translation>
     </message>
     <message>
         <source> 0.75mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.75mm</translation>
     </message>
 </context>
 <context>
     <name>Preset</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Advertencia</translation>
     </message>
     <message>
         <source>%1 cannot be modified.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede modificar.</translation>
     </message>
 </context>
 <context>
     <name>Presets</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Advertencia</translation>
     </message>
     <message>
         <source>%1 cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede eliminar.</translation>
     </message>
 </context>
 <context>
     <name>Preview</name>
     <message>
         <source>DL</source>
-        <translation type="unfinished"></translation>
+        <translation>DL</translation>
     </message>
 </context>
 <context>
     <name>PrintDialog</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre:</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado:</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista</translation>
     </message>
     <message>
         <source>Use Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Predeterminada</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo:</translation>
     </message>
     <message>
         <source>Vantry</source>
-        <translation type="unfinished"></translation>
+        <translation>Vantry</translation>
     </message>
     <message>
         <source>Where:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar:</translation>
     </message>
     <message>
         <source>Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí</translation>
     </message>
     <message>
         <source>Print to file</source>
-        <translation type="unfinished"></translation>
+        <translation>A un archivo</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de copias:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Solicitar el trabajo de impresión ahora</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Do you want to change the current printer to 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea cambiar la impresora actual por 
+</translation>
     </message>
     <message>
         <source> ?</source>
-        <translation type="unfinished"></translation>
+        <translation> ?</translation>
     </message>
     <message>
         <source>Printer Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio de impresora</translation>
     </message>
 </context>
 <context>
     <name>PrintPropertiesDialog</name>
     <message>
         <source>PrintPropertiesDialog</source>
-        <translation type="unfinished"></translation>
+        <translation>PrintPropertiesDialog</translation>
     </message>
     <message>
         <source>Page Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Página</translation>
     </message>
     <message>
         <source>User-defined Page Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de página personalizado</translation>
     </message>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura:</translation>
     </message>
     <message>
         <source>inches</source>
-        <translation type="unfinished"></translation>
+        <translation>pulgadas</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura:</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientación</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Portrait 180°</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical 180°</translation>
     </message>
     <message>
         <source>Landscape 180°</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal 180°</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Efectos</translation>
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Espejo</translation>
     </message>
     <message>
         <source>Negative</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativo</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajuste</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre:</translation>
     </message>
     <message>
         <source>Manage...</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionar...</translation>
     </message>
     <message>
         <source>Speed Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes de velocidad</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>Darkness</source>
-        <translation type="unfinished"></translation>
+        <translation>Densidad de impresión</translation>
     </message>
     <message>
         <source>Copyright © 2026 The PropertiesDialog authors</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright © 2026 The PropertiesDialog authors</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajustes</translation>
     </message>
     <message>
         <source>Presets allow you to save your print settings with a name so
 that you can quickly switch between different configurations.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los preajustes guardan sus ajustes de impresión con un nombre
+para cambiar rápidamente entre distintas configuraciones.</translation>
     </message>
     <message>
         <source>Preset List:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de preajustes:</translation>
     </message>
     <message>
         <source>Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción:</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Update...</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar...</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Stock</source>
-        <translation type="unfinished"></translation>
+        <translation>Material</translation>
     </message>
     <message>
         <source>Media Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes del material</translation>
     </message>
     <message>
         <source>MediaType:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de material:</translation>
     </message>
     <message>
         <source>Black Mark Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura de la marca negra:</translation>
     </message>
     <message>
         <source>Black Mark Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición de la marca negra:</translation>
     </message>
     <message>
         <source>Print Method:</source>
-        <translation type="unfinished"></translation>
+        <translation>Método de impresión:</translation>
     </message>
     <message>
         <source>Media Handling</source>
-        <translation type="unfinished"></translation>
+        <translation>Manejo del material</translation>
     </message>
     <message>
         <source>Cut:</source>
-        <translation type="unfinished"></translation>
+        <translation>Corte:</translation>
     </message>
     <message>
         <source>Feed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Avance:</translation>
     </message>
     <message>
         <source>Backfeed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroceso:</translation>
     </message>
     <message>
         <source>dots</source>
-        <translation type="unfinished"></translation>
+        <translation>puntos</translation>
     </message>
     <message>
         <source>Overlap:</source>
-        <translation type="unfinished"></translation>
+        <translation>Solapamiento:</translation>
     </message>
     <message>
         <source>Position Adjustments</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes de posición</translation>
     </message>
     <message>
         <source>Stop Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición de parada:</translation>
     </message>
     <message>
         <source>Start Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición de inicio:</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzado</translation>
     </message>
     <message>
         <source>User Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Órdenes de usuario</translation>
     </message>
     <message>
         <source>Start of Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio del trabajo</translation>
     </message>
     <message>
         <source>Start of Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio de etiqueta</translation>
     </message>
     <message>
         <source>End of Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de etiqueta</translation>
     </message>
     <message>
         <source>End of Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin del trabajo</translation>
     </message>
     <message>
         <source>Position Adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuste de posición</translation>
     </message>
     <message>
         <source>Horizontal Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento horizontal:</translation>
     </message>
     <message>
         <source>Vertical Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento vertical:</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Continuous</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuo</translation>
     </message>
     <message>
         <source>Labels With Gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas con separación</translation>
     </message>
     <message>
         <source>Labels With Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas con marcas</translation>
     </message>
     <message>
         <source>No Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin corte</translation>
     </message>
     <message>
         <source>Cut After Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar tras el trabajo</translation>
     </message>
     <message>
         <source>Cut After Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar tras cada página</translation>
     </message>
     <message>
         <source>Vertical Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento vertical</translation>
     </message>
     <message>
         <source>Stop Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición de parada</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión %1</translation>
     </message>
     <message>
         <source>%1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>Gap Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de la separación</translation>
     </message>
     <message>
         <source>Gap Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición de la separación</translation>
     </message>
     <message>
         <source>Black Mark Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de la marca negra</translation>
     </message>
     <message>
         <source>Black Mark Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición de la marca negra</translation>
     </message>
     <message>
         <source>New Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajuste nuevo</translation>
     </message>
     <message>
         <source>New Preset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajuste nuevo %1</translation>
+    </message>
+    <message>
+        <source>Orientation: %1</source>
+        <translation>Orientación: %1</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, mirrored</source>
+        <translation>Orientación: %1, en espejo</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, negative</source>
+        <translation>Orientación: %1, en negativo</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, mirrored and negative</source>
+        <translation>Orientación: %1, en espejo y en negativo</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra y cambia los ajustes de una impresora de etiquetas.</translation>
     </message>
     <message>
         <source>The queue, instead of the default one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cola, en lugar de la predeterminada.</translation>
     </message>
     <message>
         <source>NAME</source>
-        <translation type="unfinished"></translation>
+        <translation>NOMBRE</translation>
     </message>
     <message>
         <source>Lists the queues, the default one marked with an asterisk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista las colas; la predeterminada se marca con un asterisco.</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>argumento inesperado «%1»</translation>
     </message>
     <message>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe la impresora «%1»; --list indica las que hay</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>This preset contains this driver&apos;s current settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este preajuste contiene los ajustes actuales de este controlador.</translation>
     </message>
     <message>
         <source>This preset contains this driver&apos;s original default settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este preajuste contiene los ajustes predeterminados originales de este controlador.</translation>
     </message>
     <message>
         <source>%1 Printing Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias de impresión de %1</translation>
     </message>
 </context>
 </TS>

@@ -5,502 +5,520 @@
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona lo scostamento di stampa esteso</translation>
     </message>
     <message>
         <source>Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Scostamento:</translation>
     </message>
     <message>
         <source>-0.75mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.75mm</translation>
     </message>
     <message>
         <source>-0.50mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.50mm</translation>
     </message>
     <message>
         <source>-0.25mm</source>
-        <translation type="unfinished"></translation>
+        <translation>-0.25mm</translation>
     </message>
     <message>
         <source> 0.00mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.00mm</translation>
     </message>
     <message>
         <source> 0.25mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.25mm</translation>
     </message>
     <message>
         <source> 0.50mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.50mm</translation>
     </message>
     <message>
         <source> 0.75mm</source>
-        <translation type="unfinished"></translation>
+        <translation> 0.75mm</translation>
     </message>
 </context>
 <context>
     <name>Preset</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviso</translation>
     </message>
     <message>
         <source>%1 cannot be modified.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può essere modificato.</translation>
     </message>
 </context>
 <context>
     <name>Presets</name>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avviso</translation>
     </message>
     <message>
         <source>%1 cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può essere eliminato.</translation>
     </message>
 </context>
 <context>
     <name>Preview</name>
     <message>
         <source>DL</source>
-        <translation type="unfinished"></translation>
+        <translation>DL</translation>
     </message>
 </context>
 <context>
     <name>PrintDialog</name>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Proprietà</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato:</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronta</translation>
     </message>
     <message>
         <source>Use Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Predefinita</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo:</translation>
     </message>
     <message>
         <source>Vantry</source>
-        <translation type="unfinished"></translation>
+        <translation>Vantry</translation>
     </message>
     <message>
         <source>Where:</source>
-        <translation type="unfinished"></translation>
+        <translation>Luogo:</translation>
     </message>
     <message>
         <source>Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui</translation>
     </message>
     <message>
         <source>Print to file</source>
-        <translation type="unfinished"></translation>
+        <translation>Su file</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero di copie:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Richiedi ora il lavoro di stampa</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Do you want to change the current printer to 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Vuoi cambiare la stampante attuale con 
+</translation>
     </message>
     <message>
         <source> ?</source>
-        <translation type="unfinished"></translation>
+        <translation> ?</translation>
     </message>
     <message>
         <source>Printer Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio di stampante</translation>
     </message>
 </context>
 <context>
     <name>PrintPropertiesDialog</name>
     <message>
         <source>PrintPropertiesDialog</source>
-        <translation type="unfinished"></translation>
+        <translation>PrintPropertiesDialog</translation>
     </message>
     <message>
         <source>Page Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta pagina</translation>
     </message>
     <message>
         <source>User-defined Page Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione di pagina personalizzata</translation>
     </message>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Larghezza:</translation>
     </message>
     <message>
         <source>inches</source>
-        <translation type="unfinished"></translation>
+        <translation>pollici</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Altezza:</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteprima</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientamento</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>Verticale</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale</translation>
     </message>
     <message>
         <source>Portrait 180°</source>
-        <translation type="unfinished"></translation>
+        <translation>Verticale 180°</translation>
     </message>
     <message>
         <source>Landscape 180°</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale 180°</translation>
     </message>
     <message>
         <source>Effects</source>
-        <translation type="unfinished"></translation>
+        <translation>Effetti</translation>
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Speculare</translation>
     </message>
     <message>
         <source>Negative</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativo</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Profilo</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>Manage...</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestisci...</translation>
     </message>
     <message>
         <source>Speed Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni di velocità</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>Darkness</source>
-        <translation type="unfinished"></translation>
+        <translation>Densità di stampa</translation>
     </message>
     <message>
         <source>Copyright © 2026 The PropertiesDialog authors</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright © 2026 The PropertiesDialog authors</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Profili</translation>
     </message>
     <message>
         <source>Presets allow you to save your print settings with a name so
 that you can quickly switch between different configurations.</source>
-        <translation type="unfinished"></translation>
+        <translation>I profili salvano le impostazioni di stampa con un nome
+per passare rapidamente da una configurazione all’altra.</translation>
     </message>
     <message>
         <source>Preset List:</source>
-        <translation type="unfinished"></translation>
+        <translation>Elenco dei profili:</translation>
     </message>
     <message>
         <source>Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>Descrizione:</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo</translation>
     </message>
     <message>
         <source>Update...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiorna...</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>Stock</source>
-        <translation type="unfinished"></translation>
+        <translation>Supporto</translation>
     </message>
     <message>
         <source>Media Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni del supporto</translation>
     </message>
     <message>
         <source>MediaType:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo di supporto:</translation>
     </message>
     <message>
         <source>Black Mark Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Larghezza della tacca nera:</translation>
     </message>
     <message>
         <source>Black Mark Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Scostamento della tacca nera:</translation>
     </message>
     <message>
         <source>Print Method:</source>
-        <translation type="unfinished"></translation>
+        <translation>Metodo di stampa:</translation>
     </message>
     <message>
         <source>Media Handling</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestione del supporto</translation>
     </message>
     <message>
         <source>Cut:</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglio:</translation>
     </message>
     <message>
         <source>Feed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzamento:</translation>
     </message>
     <message>
         <source>Backfeed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Arretramento:</translation>
     </message>
     <message>
         <source>dots</source>
-        <translation type="unfinished"></translation>
+        <translation>punti</translation>
     </message>
     <message>
         <source>Overlap:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sovrapposizione:</translation>
     </message>
     <message>
         <source>Position Adjustments</source>
-        <translation type="unfinished"></translation>
+        <translation>Regolazioni della posizione</translation>
     </message>
     <message>
         <source>Stop Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posizione di arresto:</translation>
     </message>
     <message>
         <source>Start Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posizione di partenza:</translation>
     </message>
     <message>
         <source>Advanced</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzate</translation>
     </message>
     <message>
         <source>User Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Comandi utente</translation>
     </message>
     <message>
         <source>Start of Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizio lavoro</translation>
     </message>
     <message>
         <source>Start of Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizio etichetta</translation>
     </message>
     <message>
         <source>End of Label</source>
-        <translation type="unfinished"></translation>
+        <translation>Fine etichetta</translation>
     </message>
     <message>
         <source>End of Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Fine lavoro</translation>
     </message>
     <message>
         <source>Position Adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>Regolazione della posizione</translation>
     </message>
     <message>
         <source>Horizontal Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Scostamento orizzontale:</translation>
     </message>
     <message>
         <source>Vertical Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Scostamento verticale:</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Applica</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aiuto</translation>
     </message>
     <message>
         <source>Continuous</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuo</translation>
     </message>
     <message>
         <source>Labels With Gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichette con spazi</translation>
     </message>
     <message>
         <source>Labels With Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichette con tacche</translation>
     </message>
     <message>
         <source>No Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun taglio</translation>
     </message>
     <message>
         <source>Cut After Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglia dopo il lavoro</translation>
     </message>
     <message>
         <source>Cut After Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglia dopo ogni pagina</translation>
     </message>
     <message>
         <source>Vertical Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Scostamento verticale</translation>
     </message>
     <message>
         <source>Stop Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posizione di arresto</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione %1</translation>
     </message>
     <message>
         <source>%1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>Gap Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione dello spazio</translation>
     </message>
     <message>
         <source>Gap Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Scostamento dello spazio</translation>
     </message>
     <message>
         <source>Black Mark Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione della tacca nera</translation>
     </message>
     <message>
         <source>Black Mark Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Scostamento della tacca nera</translation>
     </message>
     <message>
         <source>New Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo profilo</translation>
     </message>
     <message>
         <source>New Preset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo profilo %1</translation>
+    </message>
+    <message>
+        <source>Orientation: %1</source>
+        <translation>Orientamento: %1</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, mirrored</source>
+        <translation>Orientamento: %1, speculare</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, negative</source>
+        <translation>Orientamento: %1, negativo</translation>
+    </message>
+    <message>
+        <source>Orientation: %1, mirrored and negative</source>
+        <translation>Orientamento: %1, speculare e negativo</translation>
     </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra e modifica le impostazioni di una stampante di etichette.</translation>
     </message>
     <message>
         <source>The queue, instead of the default one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coda, al posto di quella predefinita.</translation>
     </message>
     <message>
         <source>NAME</source>
-        <translation type="unfinished"></translation>
+        <translation>NOME</translation>
     </message>
     <message>
         <source>Lists the queues, the default one marked with an asterisk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elenca le code; quella predefinita è contrassegnata da un asterisco.</translation>
     </message>
     <message>
         <source>unexpected argument &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>argomento inatteso «%1»</translation>
     </message>
     <message>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
-        <translation type="unfinished"></translation>
+        <translation>la stampante «%1» non esiste; --list elenca quelle presenti</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>This preset contains this driver&apos;s current settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo profilo contiene le impostazioni attuali di questo driver.</translation>
     </message>
     <message>
         <source>This preset contains this driver&apos;s original default settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo profilo contiene le impostazioni predefinite originali di questo driver.</translation>
     </message>
     <message>
         <source>%1 Printing Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferenze di stampa di %1</translation>
     </message>
 </context>
 </TS>

@@ -147,8 +147,7 @@ bool Driver::check()
 
     showTab(1);
     good &= compare("Preset's name", presetName, text("nameEdit"));
-    good &= compare("Preset's description", presetDescription,
-                    find<QPlainTextEdit>("descriptionEdit")->toPlainText());
+    good &= compare("Preset's description", presetDescription, find<QPlainTextEdit>("descriptionEdit")->toPlainText());
 
     showTab(2);
     good &= compare("Media type", QString::number(mediaType),
@@ -157,7 +156,12 @@ bool Driver::check()
 
     // One field for all four commands; the others were left empty.
     showTab(3);
-    const struct { const char *what; const char *button; QString text; } commands[] = {
+    const struct
+    {
+        const char *what;
+        const char *button;
+        QString text;
+    } commands[] = {
         {"At the start of jobs", "jobStartRadioButton", QString()},
         {"At the start of labels", "labelStartRadioButton", command},
         {"At the end of labels", "labelEndRadioButton", QString()},
@@ -199,7 +203,8 @@ void Driver::cancel()
     clickButton("cancelButton");
 }
 
-template<class Widget> Widget *Driver::find(const char *name) const
+template<class Widget>
+Widget *Driver::find(const char *name) const
 {
     auto *widget = dialog->findChild<Widget *>(QLatin1String(name));
     expect(widget, QStringLiteral("the dialog has no %1").arg(QLatin1String(name)));

@@ -36,7 +36,8 @@ public:
     void cancel();
 
 private:
-    template<class Widget> Widget *find(const char *name) const;
+    template<class Widget>
+    Widget *find(const char *name) const;
     QWindow *window() const;
     void click(QWidget *widget, QPoint position);
     void click(QWidget *widget);

@@ -234,9 +234,8 @@ cups_option_t *CupsSupport::printerOption(const QString &name) const
     const cups_dest_t *dest = currentDest();
     if (!dest)
         return nullptr;
-    return findRecord(dest->options, dest->num_options, [&name](const cups_option_t &option) {
-        return name == QString::fromUtf8(option.name);
-    });
+    return findRecord(dest->options, dest->num_options,
+                      [&name](const cups_option_t &option) { return name == QString::fromUtf8(option.name); });
 }
 
 int CupsSupport::printerForSelectOption(const char *keyword, const char *value) const
@@ -253,9 +252,8 @@ int CupsSupport::printerForSelectOption(const char *keyword, const char *value) 
 
 ppd_option_t *CupsSupport::ppdOption(const char *keyword) const
 {
-    return findPpdOption(getPpdFile(), [keyword](const ppd_option_t &option) {
-        return qstrcmp(option.keyword, keyword) == 0;
-    });
+    return findPpdOption(getPpdFile(),
+                         [keyword](const ppd_option_t &option) { return qstrcmp(option.keyword, keyword) == 0; });
 }
 
 const char *CupsSupport::getDefaultValue(const char *keyword) const
@@ -393,56 +391,190 @@ QString text(const CupsSupport &cups, const char *keyword)
 CupsSupport::_CupsOrientation knownOrientation(int code)
 {
     return code >= CupsSupport::Portrait && code <= CupsSupport::ReversePortrait
-        ? static_cast<CupsSupport::_CupsOrientation>(code)
-        : CupsSupport::Landscape;
+               ? static_cast<CupsSupport::_CupsOrientation>(code)
+               : CupsSupport::Landscape;
 }
 
 } // namespace
 
-double CupsSupport::getShift() const { return numberOr(0.0, *this, "Shift"); }
-int CupsSupport::setShift(double millimetres) { return setDouble("Shift", millimetres); }
-double CupsSupport::getStart() const { return numberOr(0.0, *this, "Start"); }
-int CupsSupport::setStart(double millimetres) { return setDouble("Start", millimetres); }
-double CupsSupport::getStop() const { return numberOr(0.0, *this, "Stop"); }
-int CupsSupport::setStop(double millimetres) { return setDouble("Stop", millimetres); }
-double CupsSupport::getMarkOffset() const { return numberOr(0.0, *this, "MarkOffset"); }
-int CupsSupport::setMarkOffset(double millimetres) { return setDouble("MarkOffset", millimetres); }
-double CupsSupport::getMarkSize() const { return numberOr(0.0, *this, "MarkSize"); }
-int CupsSupport::setMarkSize(double millimetres) { return setDouble("MarkSize", millimetres); }
-double CupsSupport::getGapOffset() const { return numberOr(0.0, *this, "GapOffset"); }
-int CupsSupport::setGapOffset(double millimetres) { return setDouble("GapOffset", millimetres); }
-double CupsSupport::getGapSize() const { return numberOr(0.0, *this, "GapSize"); }
-int CupsSupport::setGapSize(double millimetres) { return setDouble("GapSize", millimetres); }
-int CupsSupport::getOffsetV() const { return integerOr(0, *this, "OffsetV"); }
-int CupsSupport::setOffsetV(int dots) { return setInt("OffsetV", dots); }
-int CupsSupport::getOffsetH() const { return integerOr(0, *this, "OffsetH"); }
-int CupsSupport::setOffsetH(int dots) { return setInt("OffsetH", dots); }
-int CupsSupport::setCut(int cut) { return setInt("CutMedia", cut); }
-int CupsSupport::getOverlap() const { return integerOr(0, *this, "Overlap"); }
-int CupsSupport::setOverlap(int dots) { return setInt("Overlap", dots); }
-int CupsSupport::getBack() const { return integerOr(0, *this, "Back"); }
-int CupsSupport::setBack(int dots) { return setInt("Back", dots); }
-int CupsSupport::getFeed() const { return integerOr(0, *this, "Feed"); }
-int CupsSupport::setFeed(int dots) { return setInt("Feed", dots); }
-int CupsSupport::setCategory(_Category category) { return setInt("LabelCategory", category); }
-int CupsSupport::getDarkness() const { return integerOr(7, *this, "Darkness"); }
-int CupsSupport::setDarkness(int darkness) { return setInt("Darkness", darkness); }
-int CupsSupport::getSpeed() const { return integerOr(2, *this, "PrintSpeed"); }
-int CupsSupport::setSpeed(int speed) { return setInt("PrintSpeed", speed); }
-bool CupsSupport::getDirect() const { return flag(*this, "Direct"); }
-int CupsSupport::setDirect(bool direct) { return setBool("Direct", direct); }
-bool CupsSupport::getInverse() const { return flag(*this, "NegativePrint"); }
-int CupsSupport::setInverse(bool inverse) { return setBool("NegativePrint", inverse); }
-bool CupsSupport::getMirror() const { return flag(*this, "MirrorPrint"); }
-int CupsSupport::setMirror(bool mirror) { return setBool("MirrorPrint", mirror); }
-QString CupsSupport::getLabelEnd() const { return text(*this, "LabelEnd"); }
-int CupsSupport::setLabelEnd(const QString &command) { return setString("LabelEnd", command); }
-QString CupsSupport::getLabelStart() const { return text(*this, "LabelStart"); }
-int CupsSupport::setLabelStart(const QString &command) { return setString("LabelStart", command); }
-QString CupsSupport::getJobEnd() const { return text(*this, "JobEnd"); }
-int CupsSupport::setJobEnd(const QString &command) { return setString("JobEnd", command); }
-QString CupsSupport::getJobStart() const { return text(*this, "JobStart"); }
-int CupsSupport::setJobStart(const QString &command) { return setString("JobStart", command); }
+// clang-format off: a table
+double CupsSupport::getShift() const
+{
+    return numberOr(0.0, *this, "Shift");
+}
+int CupsSupport::setShift(double millimetres)
+{
+    return setDouble("Shift", millimetres);
+}
+double CupsSupport::getStart() const
+{
+    return numberOr(0.0, *this, "Start");
+}
+int CupsSupport::setStart(double millimetres)
+{
+    return setDouble("Start", millimetres);
+}
+double CupsSupport::getStop() const
+{
+    return numberOr(0.0, *this, "Stop");
+}
+int CupsSupport::setStop(double millimetres)
+{
+    return setDouble("Stop", millimetres);
+}
+double CupsSupport::getMarkOffset() const
+{
+    return numberOr(0.0, *this, "MarkOffset");
+}
+int CupsSupport::setMarkOffset(double millimetres)
+{
+    return setDouble("MarkOffset", millimetres);
+}
+double CupsSupport::getMarkSize() const
+{
+    return numberOr(0.0, *this, "MarkSize");
+}
+int CupsSupport::setMarkSize(double millimetres)
+{
+    return setDouble("MarkSize", millimetres);
+}
+double CupsSupport::getGapOffset() const
+{
+    return numberOr(0.0, *this, "GapOffset");
+}
+int CupsSupport::setGapOffset(double millimetres)
+{
+    return setDouble("GapOffset", millimetres);
+}
+double CupsSupport::getGapSize() const
+{
+    return numberOr(0.0, *this, "GapSize");
+}
+int CupsSupport::setGapSize(double millimetres)
+{
+    return setDouble("GapSize", millimetres);
+}
+int CupsSupport::getOffsetV() const
+{
+    return integerOr(0, *this, "OffsetV");
+}
+int CupsSupport::setOffsetV(int dots)
+{
+    return setInt("OffsetV", dots);
+}
+int CupsSupport::getOffsetH() const
+{
+    return integerOr(0, *this, "OffsetH");
+}
+int CupsSupport::setOffsetH(int dots)
+{
+    return setInt("OffsetH", dots);
+}
+int CupsSupport::setCut(int cut)
+{
+    return setInt("CutMedia", cut);
+}
+int CupsSupport::getOverlap() const
+{
+    return integerOr(0, *this, "Overlap");
+}
+int CupsSupport::setOverlap(int dots)
+{
+    return setInt("Overlap", dots);
+}
+int CupsSupport::getBack() const
+{
+    return integerOr(0, *this, "Back");
+}
+int CupsSupport::setBack(int dots)
+{
+    return setInt("Back", dots);
+}
+int CupsSupport::getFeed() const
+{
+    return integerOr(0, *this, "Feed");
+}
+int CupsSupport::setFeed(int dots)
+{
+    return setInt("Feed", dots);
+}
+int CupsSupport::setCategory(_Category category)
+{
+    return setInt("LabelCategory", category);
+}
+int CupsSupport::getDarkness() const
+{
+    return integerOr(7, *this, "Darkness");
+}
+int CupsSupport::setDarkness(int darkness)
+{
+    return setInt("Darkness", darkness);
+}
+int CupsSupport::getSpeed() const
+{
+    return integerOr(2, *this, "PrintSpeed");
+}
+int CupsSupport::setSpeed(int speed)
+{
+    return setInt("PrintSpeed", speed);
+}
+bool CupsSupport::getDirect() const
+{
+    return flag(*this, "Direct");
+}
+int CupsSupport::setDirect(bool direct)
+{
+    return setBool("Direct", direct);
+}
+bool CupsSupport::getInverse() const
+{
+    return flag(*this, "NegativePrint");
+}
+int CupsSupport::setInverse(bool inverse)
+{
+    return setBool("NegativePrint", inverse);
+}
+bool CupsSupport::getMirror() const
+{
+    return flag(*this, "MirrorPrint");
+}
+int CupsSupport::setMirror(bool mirror)
+{
+    return setBool("MirrorPrint", mirror);
+}
+QString CupsSupport::getLabelEnd() const
+{
+    return text(*this, "LabelEnd");
+}
+int CupsSupport::setLabelEnd(const QString &command)
+{
+    return setString("LabelEnd", command);
+}
+QString CupsSupport::getLabelStart() const
+{
+    return text(*this, "LabelStart");
+}
+int CupsSupport::setLabelStart(const QString &command)
+{
+    return setString("LabelStart", command);
+}
+QString CupsSupport::getJobEnd() const
+{
+    return text(*this, "JobEnd");
+}
+int CupsSupport::setJobEnd(const QString &command)
+{
+    return setString("JobEnd", command);
+}
+QString CupsSupport::getJobStart() const
+{
+    return text(*this, "JobStart");
+}
+int CupsSupport::setJobStart(const QString &command)
+{
+    return setString("JobStart", command);
+}
+// clang-format on
 
 int CupsSupport::getCut() const
 {
@@ -494,8 +626,8 @@ QRect CupsSupport::pageRect(const char *name) const
     if (!size)
         return QRect();
     // The PPD file counts from the bottom left. Each number is rounded on its own.
-    return QRect(roundHalfUp(size->left), roundHalfUp(size->length - size->top),
-                 roundHalfUp(size->right - size->left), roundHalfUp(size->top - size->bottom));
+    return QRect(roundHalfUp(size->left), roundHalfUp(size->length - size->top), roundHalfUp(size->right - size->left),
+                 roundHalfUp(size->top - size->bottom));
 }
 
 QRect CupsSupport::paperRect(const char *name) const
@@ -563,8 +695,8 @@ bool CupsSupport::setOptions(const QStringList &list)
         if (saved)
             dest->num_options = cupsRemoveOption(keyword.constData(), dest->num_options, &dest->options);
         if (!value.isEmpty())
-            dest->num_options = cupsAddOption(keyword.constData(), value.constData(), dest->num_options,
-                                              &dest->options);
+            dest->num_options =
+                cupsAddOption(keyword.constData(), value.constData(), dest->num_options, &dest->options);
         changed = true;
     }
     return changed;
@@ -622,7 +754,7 @@ void CupsSupport::collectMarkedOptions(QStringList &list, const ppd_group_t *gro
 
 void CupsSupport::collectMarkedOptionsHelper(QStringList &list, const ppd_group_t *group) const
 {
-    for (int o = 0; o < group->num_options; ++o) {
+    for (int o = 0; group && o < group->num_options; ++o) {
         const ppd_option_t &option = group->options[o];
         for (int c = 0; c < option.num_choices; ++c) {
             const ppd_choice_t &choice = option.choices[c];
@@ -661,9 +793,11 @@ int CupsSupport::printFiles(const QStringList &fileNames, const QString &title, 
     const JobOptions job(*dest, list);
     // Names outside Latin-1 are as welcome here as in printFile().
     std::vector<QByteArray> names;
+    names.reserve(static_cast<std::size_t>(fileNames.size()));
     for (const QString &fileName : fileNames)
         names.push_back(fileName.toLocal8Bit());
     std::vector<const char *> pointers;
+    pointers.reserve(names.size());
     for (const QByteArray &name : names)
         pointers.push_back(name.constData());
     return cupsPrintFiles2(connection.get(), dest->name, static_cast<int>(pointers.size()), pointers.data(),

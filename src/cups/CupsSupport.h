@@ -38,17 +38,17 @@ class PROPERTIESDIALOG_EXPORT CupsSupport
 public:
     /** The media type, stored under "LabelCategory". Other numbers are passed through as they are. */
     enum _Category : int {
-        Continuous = 0,     ///< endless, without labels
+        Continuous = 0, ///< endless, without labels
         LabelsWithGaps = 1, ///< labels with gaps between them
         LabelsWithMarks = 2 ///< labels with black marks on the back
     };
 
     /** The IPP "orientation-requested" codes. */
     enum _CupsOrientation : int {
-        Portrait = 3,         ///< upright
-        Landscape = 4,        ///< turned by 90 degrees
+        Portrait = 3, ///< upright
+        Landscape = 4, ///< turned by 90 degrees
         ReverseLandscape = 5, ///< landscape, turned by 180 degrees
-        ReversePortrait = 6   ///< portrait, turned by 180 degrees
+        ReversePortrait = 6 ///< portrait, turned by 180 degrees
     };
 
     /**

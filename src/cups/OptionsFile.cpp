@@ -77,8 +77,8 @@ void addServerOption(ipp_attribute_t *attribute, cups_dest_t *dest)
         name.chop(static_cast<int>(std::strlen("-default")));
     else if (name != "printer-mandatory-job-attributes")
         return;
-    dest->num_options = cupsAddOption(name.constData(), valueText(attribute).constData(), dest->num_options,
-                                      &dest->options);
+    dest->num_options =
+        cupsAddOption(name.constData(), valueText(attribute).constData(), dest->num_options, &dest->options);
 }
 
 // The options that the scheduler itself gives each destination. Empty when it does not answer: then all options are saved,
@@ -106,8 +106,8 @@ void fetchServerOptions(FreeDests &server)
             server.count = cupsAddDest(current.name, nullptr, server.count, &server.dests);
             cups_dest_t *dest = cupsGetDest(current.name, nullptr, server.count, server.dests);
             for (int i = 0; i < current.num_options; ++i)
-                dest->num_options = cupsAddOption(current.options[i].name, current.options[i].value,
-                                                  dest->num_options, &dest->options);
+                dest->num_options =
+                    cupsAddOption(current.options[i].name, current.options[i].value, dest->num_options, &dest->options);
         }
         cupsFreeOptions(current.num_options, current.options);
         current = {};

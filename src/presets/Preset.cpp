@@ -242,8 +242,8 @@ bool Preset::save(const QStringList &defaults)
         return false;
 
     parseOptions();
-    const PresetScript::Content content{m_printerName, m_fileName, name(), m_description, m_index, m_options,
-                                        m_userPageSize};
+    const PresetScript::Content content{m_printerName, m_fileName, name(),        m_description,
+                                        m_index,       m_options,  m_userPageSize};
     if (!PresetScript::write(pathName(), PresetScript::text(content, defaults)))
         return false;
     m_state = Clean;

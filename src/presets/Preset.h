@@ -22,11 +22,12 @@
 class PROPERTIESDIALOG_EXPORT Preset
 {
 public:
+    /** How memory and the script compare. */
     enum _State : int {
         NotLoaded = 0, ///< the script has not been read yet
-        Clean = 1,     ///< memory agrees with the script, or there is no script
-        Modified = 2,  ///< changed in memory; the next save() writes the script
-        Deleted = 3    ///< marked for removal; the next save() removes the script
+        Clean = 1, ///< memory agrees with the script, or there is no script
+        Modified = 2, ///< changed in memory; the next save() writes the script
+        Deleted = 3 ///< marked for removal; the next save() removes the script
     };
 
     /**
@@ -39,39 +40,43 @@ public:
      */
     Preset(const QString &printer, const QString &file, const QStringList &options, const QString &name,
            const QString &description, int index);
-    ~Preset();
+    ~Preset(); ///< Drops what was not saved.
 
-    Preset(const Preset &) = delete;
-    Preset &operator=(const Preset &) = delete;
+    Preset(const Preset &) = delete; ///< Not to be copied.
+    Preset &operator=(const Preset &) = delete; ///< Not to be copied.
 
     /** @name Plain accessors, which never read the script */
     /** @{ */
-    QString printerName() const;
-    QString fileName() const;
-    _State state() const;
-    void setState(_State state);
-    /** Width and height, both above 0, are carried by the script; does not change the state. */
+    QString printerName() const; ///< The queue name.
+    QString fileName() const; ///< The script's base name without ".sh"; empty for a preset without a script.
+    _State state() const; ///< How memory and the script compare; see _State.
+    void setState(_State state); ///< Modified or Deleted asks for something at the next save().
+    /**
+     * Sets the user page size, in inches. Where width and height are above 0 the script carries it; keeps the state.
+     */
     void setUserPageSize(const QSizeF &size);
     /** The keywords that presets carry, in the order of the script's items. */
     QStringList getOptionNames() const;
-    /** The path of this preset's script. */
+    /** The path of this preset's script; empty when printer or file name would lead out of $HOME/.cups. */
     QString pathName() const;
-    /** The path of the script @p file of @p printer: $HOME/.cups/PRINTER/FILE.sh. */
+    /**
+     * The path of the script @p file of @p printer, $HOME/.cups/PRINTER/FILE.sh; empty when it would lead out of there.
+     */
     static QString pathName(const QString &printer, const QString &file);
-    /** The script's line that sets the user page size, with its line end. */
+    /** The script's line that sets the user page size, in inches with two decimals, with its line end. */
     QString ppdhack() const;
     /** @} */
 
     /** @name Accessors that read the script first if it has not been read */
     /** @{ */
     QString name(); ///< The name, or the file name where the name is empty.
-    QString description();
-    int index();
+    QString description(); ///< Free text; empty when there is none.
+    int index(); ///< -1 for the user's presets, 0 or more for built-in ones.
     QStringList options(); ///< An option list: keyword, value, ...
-    QSizeF getUserPageSize(); ///< -1 by -1 when there is none.
-    void setName(const QString &name);
-    void setDescription(const QString &description);
-    void setIndex(int index);
+    QSizeF getUserPageSize(); ///< In inches; -1 by -1 when there is none.
+    void setName(const QString &name); ///< A name that differs makes the preset Modified.
+    void setDescription(const QString &description); ///< A text that differs makes the preset Modified.
+    void setIndex(int index); ///< An index that differs makes the preset Modified.
     /** @} */
 
     /**
@@ -97,15 +102,16 @@ public:
      * A built-in preset is not written: the user is told so and the script is read again.
      *
      * @param defaults the printer's default values as an option list; values that equal them become removals.
-     * @return true when there was nothing to do or it was done.
+     * @return true when there was nothing to do or it was done; false when the preset is built in or its file could not
+     *         be written or removed. A file that could not be written stays as it was, and the preset Modified.
      */
     bool save(const QStringList &defaults);
 
     /** @name Readers of the script's parts; they return whether they found it and leave the output alone if not */
     /** @{ */
-    static bool parseAttribute(const QByteArray &data, const QString &key, QString &value);
-    static bool parseOption(const QByteArray &data, const QString &keyword, QString &value);
-    static bool parsePpdhack(const QByteArray &data, QSizeF &size);
+    static bool parseAttribute(const QByteArray &data, const QString &key, QString &value); ///< Of a "#key=value" line.
+    static bool parseOption(const QByteArray &data, const QString &keyword, QString &value); ///< Of an "-o" item.
+    static bool parsePpdhack(const QByteArray &data, QSizeF &size); ///< The user page size, in inches.
     /** @} */
 
 private:
@@ -117,7 +123,6 @@ private:
 
     void loadIfNeeded();
     void parseOptions();
-    void modify();
 
     QString m_printerName;
     QString m_fileName;

@@ -55,24 +55,15 @@ const QStringList extendedOptionNames{
 };
 
 QStringList sharedOptionNames{
-    QStringLiteral("Darkness"),
-    QStringLiteral("Direct"),
-    QStringLiteral("Feed"),
-    QStringLiteral("GapSize"),
-    QStringLiteral("JobEnd"),
-    QStringLiteral("JobStart"),
-    QStringLiteral("LabelCategory"),
-    QStringLiteral("LabelEnd"),
-    QStringLiteral("LabelStart"),
-    QStringLiteral("MarkOffset"),
-    QStringLiteral("MarkSize"),
-    QStringLiteral("MirrorPrint"),
-    QStringLiteral("NegativePrint"),
-    QStringLiteral("OffsetH"),
-    QStringLiteral("OffsetV"),
-    QStringLiteral("orientation-requested"),
-    QStringLiteral("PrintSpeed"),
-    QStringLiteral("Stop"),
+    QStringLiteral("Darkness"),      QStringLiteral("Direct"),
+    QStringLiteral("Feed"),          QStringLiteral("GapSize"),
+    QStringLiteral("JobEnd"),        QStringLiteral("JobStart"),
+    QStringLiteral("LabelCategory"), QStringLiteral("LabelEnd"),
+    QStringLiteral("LabelStart"),    QStringLiteral("MarkOffset"),
+    QStringLiteral("MarkSize"),      QStringLiteral("MirrorPrint"),
+    QStringLiteral("NegativePrint"), QStringLiteral("OffsetH"),
+    QStringLiteral("OffsetV"),       QStringLiteral("orientation-requested"),
+    QStringLiteral("PrintSpeed"),    QStringLiteral("Stop"),
     QStringLiteral("Start"),
 };
 

@@ -27,7 +27,8 @@
 namespace PresetScript {
 
 /** What a script is made of. */
-struct Content {
+struct Content
+{
     QString printerName;
     QString fileName;
     QString name; ///< The name to show.
@@ -38,7 +39,7 @@ struct Content {
 };
 
 /** A larger file is no preset script and is not read. */
-constexpr qint64 sizeLimit = 1024 * 1024; // bytes
+constexpr qint64 sizeLimit = qint64{1024} * 1024; // bytes
 
 /** @name Places */
 /** @{ */

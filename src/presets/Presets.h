@@ -25,11 +25,11 @@ public:
     /** Lists the presets of @p printer, a queue name. */
     explicit Presets(const QString &printer);
 
-    /** Deletes all presets. */
+    /** Deletes all presets; what was not saved is dropped. */
     ~Presets();
 
-    Presets(const Presets &) = delete;
-    Presets &operator=(const Presets &) = delete;
+    Presets(const Presets &) = delete; ///< Not to be copied.
+    Presets &operator=(const Presets &) = delete; ///< Not to be copied.
 
     /** Lists the folder anew, dropping what is in memory. Pointers to presets become invalid. @return always true. */
     bool load();
@@ -51,10 +51,12 @@ public:
      */
     Preset *deletePreset(Preset *preset);
 
-    /** The first preset whose name or file name is @p text, deleted ones included; null when there is none. */
+    /**
+     * The first preset whose name or file name is @p text, deleted ones included; null when there is none. Owned here.
+     */
     Preset *findPreset(const QString &text) const;
 
-    /** The first preset whose file name is @p file; null when there is none. */
+    /** The first preset whose file name is @p file; null when there is none. Owned here. */
     Preset *findPresetByFileName(const QString &file) const;
 
     /** The names to show: built-in presets at the positions of their indexes, then the user's, by file name. */
@@ -71,7 +73,7 @@ public:
     /** The path of the link to the current preset's script. */
     QString linkPathName() const;
 
-    /** Deletes all presets. */
+    /** Deletes all presets in memory; no file is touched. Pointers to them become invalid. */
     void clearPresets();
 
 private:

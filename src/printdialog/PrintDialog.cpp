@@ -74,7 +74,8 @@ void showText(QLabel *label, const QString &text)
 } // namespace
 
 PrintDialog::PrintDialog(QWidget *parent)
-    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint), ui(new Ui_PrintDialog)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint)
+    , ui(new Ui_PrintDialog)
 {
     ui->setupUi(this);
     ui->stackedWidget->setCurrentWidget(ui->page_Simple);
@@ -86,8 +87,10 @@ PrintDialog::PrintDialog(QWidget *parent)
 }
 
 PrintDialog::PrintDialog(QWidget *parent, QPrinter *hostPrinter, CupsSupport *cupsSupport)
-    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint),
-      ui(new Ui_PrintDialog), printer(hostPrinter), cups(cupsSupport)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint)
+    , ui(new Ui_PrintDialog)
+    , printer(hostPrinter)
+    , cups(cupsSupport)
 {
     ui->setupUi(this);
     ui->stackedWidget->setCurrentWidget(ui->page_SelectPrinter);
@@ -226,8 +229,8 @@ void PrintDialog::on_yesButton_2_clicked()
         accept();
         return;
     }
-    const QString question = tr("Do you want to change the current printer to \n") + ui->cboPrinterName->currentText()
-        + tr(" ?");
+    const QString question =
+        tr("Do you want to change the current printer to \n") + ui->cboPrinterName->currentText() + tr(" ?");
     if (QMessageBox::warning(this, tr("Printer Change"), question, QMessageBox::Yes | QMessageBox::No)
         != QMessageBox::Yes) {
         reject();
@@ -275,8 +278,8 @@ void PrintDialog::makeRoom()
 {
     if (ui->stackedWidget->currentWidget() == ui->page_Simple) {
         if (FormRoom::hasLargeFont(*this)) {
-            for (QWidget *widget : std::initializer_list<QWidget *>{ui->numCopies, ui->yesButton, ui->noButton,
-                                                                    ui->propertiesButton}) {
+            for (QWidget *widget :
+                 std::initializer_list<QWidget *>{ui->numCopies, ui->yesButton, ui->noButton, ui->propertiesButton}) {
                 widget->setMinimumHeight(std::max(widget->minimumHeight(), widget->sizeHint().height()));
             }
         }

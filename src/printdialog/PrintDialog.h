@@ -30,7 +30,11 @@ class PROPERTIESDIALOG_EXPORT PrintDialog : public QDialog
     Q_OBJECT
 
 public:
-    /** The short form. */
+    /**
+     * The short form.
+     *
+     * @param parent the parent widget, or null.
+     */
     explicit PrintDialog(QWidget *parent);
 
     /**
@@ -41,7 +45,7 @@ public:
      * @param cups lists the printers and receives the chosen one. Not owned; must outlive the dialog.
      */
     PrintDialog(QWidget *parent, QPrinter *printer, CupsSupport *cups);
-    ~PrintDialog() override;
+    ~PrintDialog() override; ///< Leaves the objects that it was given alone.
 
     /** Sets the question of the short form. */
     void setText(const QString &text);
@@ -49,13 +53,17 @@ public:
     /** Beware: true DISABLES the "Print to file" box, false enables it. */
     void setPrintToFileEnabled(bool enabled);
 
-    /** Whether "Print to file" is ticked. */
+    /** Whether "Print to file" is ticked. The file is the host's to ask for and to write. */
     bool printToFile() const;
 
-    /** The copies of the short form's box, whichever form is shown. The full form has a copies box of its own. */
+    /**
+     * The copies of the short form's box, 1 to 100, whichever form is shown. The full form has a copies box of its own.
+     */
     int numCopies() const;
 
-    /** Sets the copies of the short form's box, whichever form is shown. */
+    /**
+     * Sets the copies of the short form's box, whichever form is shown. Less than 1 gives 1, more than 100 gives 100.
+     */
     void setNumCopies(int copies);
 
     /**
@@ -67,16 +75,17 @@ public:
      */
     int exec2(QDialog &propertiesDialog);
 
-    /** Fills the printer list anew and selects the current printer. */
+    /** Full form only: fills the printer list anew and selects the current printer. */
     void updateForm();
 
-    /** Shows what is known of the printer at @p index of the list; does nothing when there is none. */
+    /** Full form only: shows what is known of the printer at @p index of the list; does nothing when there is none. */
     void updateLabels(int index);
 
     /** Closes with result 0 and undoes a switch to the default printer. */
     void reject() override;
 
 protected:
+    /** Shows the texts anew after a change of language, and makes room for them. */
     void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:

@@ -7,21 +7,26 @@
 #include "ui_ExtDialog.h"
 
 #include <QEvent>
+#include <QStyle>
 
+#include <algorithm>
 #include <array>
 
 namespace {
 
 /** The choices in the order of the list. A leading blank takes the place of a plus sign, so that the texts line up. */
 constexpr std::array<const char *, 7> offsetTexts = {
-    QT_TRANSLATE_NOOP("ExtDialog", "-0.75mm"),
-    QT_TRANSLATE_NOOP("ExtDialog", "-0.50mm"),
-    QT_TRANSLATE_NOOP("ExtDialog", "-0.25mm"),
-    QT_TRANSLATE_NOOP("ExtDialog", " 0.00mm"),
-    QT_TRANSLATE_NOOP("ExtDialog", " 0.25mm"),
-    QT_TRANSLATE_NOOP("ExtDialog", " 0.50mm"),
+    QT_TRANSLATE_NOOP("ExtDialog", "-0.75mm"), QT_TRANSLATE_NOOP("ExtDialog", "-0.50mm"),
+    QT_TRANSLATE_NOOP("ExtDialog", "-0.25mm"), QT_TRANSLATE_NOOP("ExtDialog", " 0.00mm"),
+    QT_TRANSLATE_NOOP("ExtDialog", " 0.25mm"), QT_TRANSLATE_NOOP("ExtDialog", " 0.50mm"),
     QT_TRANSLATE_NOOP("ExtDialog", " 0.75mm"),
 };
+
+/** The form's places, for usual fonts and short words. */
+constexpr QSize formSize(280, 90);
+constexpr QRect labelPlace(10, 10, 91, 31);
+constexpr QRect listPlace(100, 10, 171, 31);
+constexpr QRect buttonsPlace(100, 50, 171, 31);
 
 /** The index of " 0.00mm". */
 constexpr int zeroIndex = 3;
@@ -38,14 +43,16 @@ int dotsPerStep(const CupsSupport &cups)
 } // namespace
 
 ExtDialog::ExtDialog(QWidget *parent, CupsSupport *cupsSupport)
-    : QDialog(parent), ui(new Ui_ExtDialog), cups(cupsSupport)
+    : QDialog(parent)
+    , ui(new Ui_ExtDialog)
+    , cups(cupsSupport)
 {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
     ui->setupUi(this);
     for (const char *text : offsetTexts) {
         ui->offset->addItem(tr(text));
     }
-    setFixedSize(size());
+    makeRoom();
 
     // The division truncates towards zero: an offset between two steps shows the one nearer to zero. An offset past the
     // last step gives an index past the list and so selects nothing, and OK then leaves the stored offset alone.
@@ -60,13 +67,35 @@ ExtDialog::~ExtDialog()
 void ExtDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange) {
-        return;
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        for (int index = 0; index < ui->offset->count(); ++index) {
+            ui->offset->setItemText(index, tr(offsetTexts[static_cast<std::size_t>(index)]));
+        }
+        makeRoom();
+    } else if (event->type() == QEvent::LayoutDirectionChange) {
+        makeRoom();
     }
-    ui->retranslateUi(this);
-    for (int index = 0; index < ui->offset->count(); ++index) {
-        ui->offset->setItemText(index, tr(offsetTexts[static_cast<std::size_t>(index)]));
-    }
+}
+
+/** Moves the form's widgets apart where their texts need it, and to the other side where one reads from the right. */
+void ExtDialog::makeRoom()
+{
+    const QSize label = ui->offsetLabel->sizeHint();
+    const QSize list = ui->offset->sizeHint();
+    const QSize buttons = ui->buttonBox->sizeHint();
+    const int wider = std::max(0, label.width() - (listPlace.left() - labelPlace.left()));
+    const int wider2 = std::max({0, list.width() - listPlace.width(), buttons.width() - buttonsPlace.width()});
+    const int higher = std::max({0, label.height() - labelPlace.height(), list.height() - listPlace.height()});
+    const int higher2 = std::max(0, buttons.height() - buttonsPlace.height());
+    setFixedSize(formSize + QSize(wider + wider2, higher + higher2));
+
+    const auto place = [this](QWidget *widget, const QRect &where) {
+        widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), where));
+    };
+    place(ui->offsetLabel, labelPlace.adjusted(0, 0, wider, higher));
+    place(ui->offset, listPlace.adjusted(wider, 0, wider + wider2, higher));
+    place(ui->buttonBox, buttonsPlace.adjusted(wider, higher, wider + wider2, higher + higher2));
 }
 
 // The button box is connected to accept() and reject() as well, which come first and end exec(). These two then only

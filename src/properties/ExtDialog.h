@@ -15,6 +15,7 @@ class Ui_ExtDialog;
  * Lets the user shift the print position in steps of a quarter millimetre, from -0.75 mm to +0.75 mm.
  *
  * exec() returns 1 after OK, and the offset is then already saved as an option of the current printer; 0 after Cancel.
+ * That it could not be saved is not reported. Needs a QApplication.
  */
 class PROPERTIESDIALOG_EXPORT ExtDialog : public QDialog
 {
@@ -26,9 +27,10 @@ public:
      * @param cups the offset of its current printer is shown and changed. Not owned; must outlive the dialog.
      */
     ExtDialog(QWidget *parent, CupsSupport *cups);
-    ~ExtDialog() override;
+    ~ExtDialog() override; ///< Leaves the objects that it was given alone.
 
 protected:
+    /** Shows the texts anew after a change of language, and makes room for them. */
     void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
@@ -36,6 +38,8 @@ private Q_SLOTS:
     void on_buttonBox_rejected();
 
 private:
+    void makeRoom();
+
     Ui_ExtDialog *ui;
     CupsSupport *cups;
 };

@@ -6,6 +6,8 @@
 #include "CupsSupport.h"
 #include "Rounding.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QImage>
 #include <QPainter>
 #include <QPen>
@@ -14,6 +16,23 @@
 #include <algorithm>
 
 namespace {
+
+QAccessibleInterface *pictureInterface(const QString &, QObject *object)
+{
+    auto *preview = qobject_cast<Preview *>(object);
+    return preview ? new QAccessibleWidget(preview, QAccessible::Graphic) : nullptr;
+}
+
+/** Tells screen readers that a preview is a picture, for as long as the library is loaded. */
+class PictureInterfaces
+{
+public:
+    PictureInterfaces() { QAccessible::installFactory(pictureInterface); }
+    ~PictureInterfaces() { QAccessible::removeFactory(pictureInterface); }
+
+    PictureInterfaces(const PictureInterfaces &) = delete;
+    PictureInterfaces &operator=(const PictureInterfaces &) = delete;
+};
 
 /**
  * Where a label of these proportions goes, @p usable being the size of the widget less a pixel on each side.
@@ -87,6 +106,12 @@ QPolygon arrow(int orientation, const QSize &usable)
 
 } // namespace
 
+Preview::Preview(QWidget *parent)
+    : QWidget(parent)
+{
+    static const PictureInterfaces interfaces;
+}
+
 void Preview::paintEvent(QPaintEvent *)
 {
     const QSize usable = size() - QSize(2, 2);
@@ -97,8 +122,7 @@ void Preview::paintEvent(QPaintEvent *)
     if (!target.isEmpty()) {
         QImage image = labelImage(tr("DL"), target.size(), std::max(1.0, devicePixelRatioF()));
         if (mirror) {
-            const bool leftRight =
-                orientation == CupsSupport::Portrait || orientation == CupsSupport::ReversePortrait;
+            const bool leftRight = orientation == CupsSupport::Portrait || orientation == CupsSupport::ReversePortrait;
             image = image.mirrored(leftRight, !leftRight);
         }
         if (negative)

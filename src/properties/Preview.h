@@ -17,7 +17,7 @@ class Preview : public QWidget
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    explicit Preview(QWidget *parent = nullptr);
 
     /** Width and height in any one unit: only their ratio matters. */
     double labelWidth = 160.0;

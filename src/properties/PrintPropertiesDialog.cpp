@@ -5,6 +5,7 @@
 
 #include "BuildConstants.h"
 #include "DoubleValidator.h"
+#include "FormRoom.h"
 #include "Preset.h"
 #include "PresetScript.h"
 #include "Presets.h"
@@ -23,6 +24,7 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QScopedValueRollback>
+#include <QSignalBlocker>
 #include <QTabBar>
 #include <QTextDocument>
 
@@ -39,7 +41,7 @@ constexpr double pageSizeTop = 1200.0; // inches
 constexpr int decimals = 2;
 constexpr int presetsTabIndex = 1;
 constexpr int builtInPresets = 2; // "<Current Settings>" and "<Default Settings>", always first in the lists
-constexpr int usualFontHeight = 17; // pixels; that of 10 points at 100 dpi
+constexpr int presetListWidth = 180; // pixels; for the names of the built-in presets in a usual font
 constexpr double previewSide = 1200.0; // the preview is square whatever the page size
 
 // Every number that a line edit shows goes through this.
@@ -54,11 +56,8 @@ struct Family
 
 // The first marker that the printer's name contains decides.
 constexpr Family families[] = {
-    {QLatin1String("ORCA"), 3, true},
-    {QLatin1String("KERN"), 1, false},
-    {QLatin1String("LUMA"), 2, false},
-    {QLatin1String("TIK"), 4, true},
-    {QLatin1String("ZED"), 5, true},
+    {QLatin1String("ORCA"), 3, true}, {QLatin1String("KERN"), 1, false}, {QLatin1String("LUMA"), 2, false},
+    {QLatin1String("TIK"), 4, true},  {QLatin1String("ZED"), 5, true},
 };
 
 struct SpeedRange
@@ -94,7 +93,7 @@ bool probeHostSettings()
     const QString path = qEnvironmentVariable("HOME") + QStringLiteral("/.gconf/apps/Dashvane/%gconf.xml");
     QFile file(path);
     return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)
-        && file.readAll().contains("<stringvalue>adobe</stringvalue>");
+           && file.readAll().contains("<stringvalue>adobe</stringvalue>");
 }
 
 // What is no number is not shown: an empty field is skipped when saving, so that what is stored stays.
@@ -204,8 +203,6 @@ PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer_
     on_mediaType_currentIndexChanged(cups->getCategory());
     ui->jobStartRadioButton->setChecked(true);
     setChanged(false);
-    makeRoomForLargeFonts();
-    setFixedSize(size());
 }
 
 PrintPropertiesDialog::~PrintPropertiesDialog()
@@ -255,7 +252,7 @@ void PrintPropertiesDialog::createValidators()
     ui->stop->setValidator(stopValidator);
 
     // In dots.
-    const int limit = isOffsetGroup(modelFamily) ? static_cast<int>(cups->getResolution().height()) : 100;
+    const int limit = isOffsetGroup(modelFamily) ? roundHalfUp(std::trunc(cups->getResolution().height())) : 100;
     for (QLineEdit *edit : {ui->horizontalEdit, ui->verticalEdit}) {
         auto *validator = new QIntValidator(-limit, limit, this);
         validator->setLocale(cLocale());
@@ -265,6 +262,7 @@ void PrintPropertiesDialog::createValidators()
 
 void PrintPropertiesDialog::fillLists()
 {
+    const QSignalBlocker blocker(ui->mediaType); // its handler is called once everything is there
     ui->mediaType->addItems({tr("Continuous"), tr("Labels With Gaps"), tr("Labels With Marks")});
     ui->cut->addItems({tr("No Cut"), tr("Cut After Job"), tr("Cut After Page")});
 }
@@ -273,29 +271,38 @@ void PrintPropertiesDialog::hideUnusedRows()
 {
     // The print method and the start position are never used; backfeed and overlap are carried from load to save.
     for (QWidget *widget : std::initializer_list<QWidget *>{
-             ui->printMethodLabel, ui->printMethod, ui->backLabel, ui->back, ui->backUnits, ui->overlapLabel, ui->overlap,
-             ui->overlapUnits, ui->start, ui->startLabel, ui->startUnits})
+             ui->printMethodLabel, ui->printMethod, ui->backLabel, ui->back, ui->backUnits, ui->overlapLabel,
+             ui->overlap, ui->overlapUnits, ui->start, ui->startLabel, ui->startUnits})
         widget->hide();
 }
 
-// The form's sizes are made for usual fonts and stay as they are with these. With larger ones nothing is to be cut off.
-void PrintPropertiesDialog::makeRoomForLargeFonts()
+// The form's sizes are made for usual fonts and short words. They stay where these fit; nothing is to be cut off.
+void PrintPropertiesDialog::makeRoom()
 {
-    if (fontMetrics().height() <= usualFontHeight)
-        return;
+    widenFields();
+    for (QGroupBox *box : {ui->previewGroupBox, ui->orientationGroupBox, ui->effectsGroupBox})
+        box->setMinimumSize(box->minimumSize().expandedTo(box->minimumSizeHint()));
+    FormRoom::freshenSizeHints(*this);
+    ui->tabs->updateGeometry(); // its pages do not tell it
+    const QMargins margins = layout()->contentsMargins();
+    const int tabsWidth = ui->tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
+    setFixedSize(size().expandedTo(minimumSizeHint()).expandedTo(QSize(tabsWidth, 0)));
+}
+
+void PrintPropertiesDialog::widenFields()
+{
+    const bool hasLargeFont = FormRoom::hasLargeFont(*this);
+    if (hasLargeFont) {
+        for (QComboBox *list : {ui->preset0, ui->preset1})
+            list->setMinimumWidth(presetListWidth * fontMetrics().height() / FormRoom::usualFontHeight);
+    }
     for (QLineEdit *edit : findChildren<QLineEdit *>()) {
         const int frame = edit->minimumSizeHint().width() - edit->fontMetrics().maxWidth();
         const int needed = edit->fontMetrics().horizontalAdvance(QStringLiteral("0.00")) + frame;
-        if (edit->maximumWidth() < needed)
-            edit->setMaximumWidth(needed);
+        if (hasLargeFont)
+            edit->setMaximumWidth(std::max(needed, edit->maximumWidth()));
+        edit->setMinimumWidth(std::min(needed, edit->maximumWidth()));
     }
-    for (QGroupBox *box : {ui->previewGroupBox, ui->orientationGroupBox, ui->effectsGroupBox})
-        box->setMinimumSize(box->minimumSize().expandedTo(box->minimumSizeHint()));
-    const QMargins margins = layout()->contentsMargins();
-    const int tabsWidth = ui->tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
-    const QSize needed = minimumSizeHint().expandedTo(QSize(tabsWidth, 0));
-    setMaximumSize(maximumSize().expandedTo(needed));
-    resize(size().expandedTo(needed));
 }
 
 // The texts that stand in place of the form's.
@@ -306,6 +313,23 @@ void PrintPropertiesDialog::showOwnTexts()
     showGapLabels(ui->mediaType->currentIndex());
     ui->aboutVersionLabel->setText(tr("Version %1").arg(BuildConstants::version));
     ui->aboutDateLabel->setText(tr("%1").arg(BuildConstants::releaseDate));
+}
+
+// What a screen reader says of the picture, and of the one field that means something else with each choice beside it.
+void PrintPropertiesDialog::describeFields()
+{
+    const QRadioButton *const orientations[] = {ui->portraitRadioButton, ui->landscapeRadioButton,
+                                                ui->landscape180RadioButton, ui->portrait180RadioButton};
+    const QString texts[] = {tr("Orientation: %1"), tr("Orientation: %1, mirrored"), tr("Orientation: %1, negative"),
+                             tr("Orientation: %1, mirrored and negative")};
+    const int effects = (preview->mirror ? 1 : 0) + (preview->negative ? 2 : 0);
+    preview->setAccessibleName(ui->previewGroupBox->title());
+    preview->setAccessibleDescription(
+        texts[effects].arg(orientations[preview->orientation - CupsSupport::Portrait]->text()));
+
+    const QRadioButton *const commands[] = {ui->jobStartRadioButton, ui->labelStartRadioButton, ui->labelEndRadioButton,
+                                            ui->jobEndRadioButton};
+    ui->commandEdit->setAccessibleDescription(commands[commandSlot]->text());
 }
 
 // ----- loading -----
@@ -435,8 +459,8 @@ void PrintPropertiesDialog::savePrinter()
     setEngineProperty(printer, cupsPageSizeProperty, custom);
     // The size of the sheet as it is, whatever the orientation.
     const QSizeF points = printer->pageLayout().pageSize().size(QPageSize::Point);
-    const QString pageSize = custom
-        + QStringLiteral(".%1x%2").arg(points.width(), 0, 'f', decimals).arg(points.height(), 0, 'f', decimals);
+    const QString pageSize =
+        custom + QStringLiteral(".%1x%2").arg(points.width(), 0, 'f', decimals).arg(points.height(), 0, 'f', decimals);
     QStringList options = cups->options();
     std::replace(options.begin(), options.end(), custom, pageSize);
     setEngineProperty(printer, cupsOptionsProperty, options);
@@ -602,6 +626,7 @@ void PrintPropertiesDialog::updatePreview()
     preview->mirror = ui->mirroredCheckBox->isChecked();
     preview->negative = ui->inverseCheckBox->isChecked();
     preview->update();
+    describeFields();
 }
 
 void PrintPropertiesDialog::previewChanged(bool isChange)
@@ -612,12 +637,32 @@ void PrintPropertiesDialog::previewChanged(bool isChange)
     setChanged(true);
 }
 
-void PrintPropertiesDialog::on_portraitRadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
-void PrintPropertiesDialog::on_landscapeRadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
-void PrintPropertiesDialog::on_portrait180RadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
-void PrintPropertiesDialog::on_landscape180RadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
-void PrintPropertiesDialog::on_mirroredCheckBox_toggled(bool) { previewChanged(true); }
-void PrintPropertiesDialog::on_inverseCheckBox_toggled(bool) { previewChanged(true); }
+// clang-format off: a table
+void PrintPropertiesDialog::on_portraitRadioButton_toggled(bool bChecked)
+{
+    previewChanged(bChecked);
+}
+void PrintPropertiesDialog::on_landscapeRadioButton_toggled(bool bChecked)
+{
+    previewChanged(bChecked);
+}
+void PrintPropertiesDialog::on_portrait180RadioButton_toggled(bool bChecked)
+{
+    previewChanged(bChecked);
+}
+void PrintPropertiesDialog::on_landscape180RadioButton_toggled(bool bChecked)
+{
+    previewChanged(bChecked);
+}
+void PrintPropertiesDialog::on_mirroredCheckBox_toggled(bool)
+{
+    previewChanged(true);
+}
+void PrintPropertiesDialog::on_inverseCheckBox_toggled(bool)
+{
+    previewChanged(true);
+}
+// clang-format on
 
 void PrintPropertiesDialog::on_stockGroupBox_toggled(bool bChecked)
 {
@@ -640,18 +685,56 @@ void PrintPropertiesDialog::on_darknessSlider_valueChanged(int iValue)
 }
 
 // The values of these are read when saving.
-void PrintPropertiesDialog::on_widthEdit_textChanged(const QString &) { setChanged(true); }
-void PrintPropertiesDialog::on_heightEdit_textChanged(const QString &) { setChanged(true); }
-void PrintPropertiesDialog::on_printMethod_currentIndexChanged(int) { setChanged(true); }
-void PrintPropertiesDialog::on_gapSize_textChanged(const QString &) { setChanged(true); }
-void PrintPropertiesDialog::on_gapOffset_textChanged(const QString &) { setChanged(true); }
-void PrintPropertiesDialog::on_cut_currentIndexChanged(int) { setChanged(true); }
-void PrintPropertiesDialog::on_feed_textChanged(const QString &) { setChanged(true); }
-void PrintPropertiesDialog::on_back_textChanged(const QString &) { setChanged(true); }
-void PrintPropertiesDialog::on_overlap_textChanged(const QString &) { setChanged(true); }
-void PrintPropertiesDialog::on_stop_textChanged(const QString &) { setChanged(true); }
-void PrintPropertiesDialog::on_horizontalEdit_textChanged(const QString &) { setChanged(true); }
-void PrintPropertiesDialog::on_verticalEdit_textChanged(const QString &) { setChanged(true); }
+// clang-format off: a table
+void PrintPropertiesDialog::on_widthEdit_textChanged(const QString &)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_heightEdit_textChanged(const QString &)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_printMethod_currentIndexChanged(int)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_gapSize_textChanged(const QString &)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_gapOffset_textChanged(const QString &)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_cut_currentIndexChanged(int)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_feed_textChanged(const QString &)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_back_textChanged(const QString &)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_overlap_textChanged(const QString &)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_stop_textChanged(const QString &)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_horizontalEdit_textChanged(const QString &)
+{
+    setChanged(true);
+}
+void PrintPropertiesDialog::on_verticalEdit_textChanged(const QString &)
+{
+    setChanged(true);
+}
+// clang-format on
 
 // The gap fields double as the black mark fields. A change of the media type fills them from the stored options and so
 // drops what was typed into them.
@@ -679,6 +762,7 @@ void PrintPropertiesDialog::on_mediaType_currentIndexChanged(int iIndex)
     ui->feed->setVisible(showFeed);
     ui->feedLabel->setVisible(showFeed);
     ui->feedUnits->setVisible(showFeed);
+    makeRoom();
     setChanged(true);
 }
 
@@ -724,12 +808,27 @@ void PrintPropertiesDialog::selectCommand(bool isSelected, int slot)
         return;
     commandSlot = slot;
     showCommand();
+    describeFields();
 }
 
-void PrintPropertiesDialog::on_jobStartRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 0); }
-void PrintPropertiesDialog::on_labelStartRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 1); }
-void PrintPropertiesDialog::on_labelEndRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 2); }
-void PrintPropertiesDialog::on_jobEndRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 3); }
+// clang-format off: a table
+void PrintPropertiesDialog::on_jobStartRadioButton_toggled(bool bChecked)
+{
+    selectCommand(bChecked, 0);
+}
+void PrintPropertiesDialog::on_labelStartRadioButton_toggled(bool bChecked)
+{
+    selectCommand(bChecked, 1);
+}
+void PrintPropertiesDialog::on_labelEndRadioButton_toggled(bool bChecked)
+{
+    selectCommand(bChecked, 2);
+}
+void PrintPropertiesDialog::on_jobEndRadioButton_toggled(bool bChecked)
+{
+    selectCommand(bChecked, 3);
+}
+// clang-format on
 
 void PrintPropertiesDialog::on_commandEdit_textChanged()
 {
@@ -771,6 +870,8 @@ void PrintPropertiesDialog::changeEvent(QEvent *event)
     ui->speedValue->setText(speed);
     ui->darknessValue->setText(darkness);
     showOwnTexts();
+    describeFields();
+    makeRoom();
 }
 
 // ----- presets -----
@@ -907,8 +1008,8 @@ void PrintPropertiesDialog::on_presetNewButton_clicked()
         fileName = QStringLiteral("Preset%1").arg(n);
         name = tr("New Preset %1").arg(n);
     }
-    Preset *preset = presets->addPreset(
-        new Preset(printer->printerName(), fileName, cups->cupsOptions(), name, QString(), -1));
+    Preset *preset =
+        presets->addPreset(new Preset(printer->printerName(), fileName, cups->cupsOptions(), name, QString(), -1));
     preset->setState(Preset::Modified); // to be written even where the printer has no option yet that presets carry
     updatePresets();
     setCurrentPreset(preset);

@@ -41,14 +41,18 @@ public:
      * Both @p printer and @p cups must outlive the dialog.
      */
     PrintPropertiesDialog(QWidget *parent, QPrinter *printer, CupsSupport *cups);
-    ~PrintPropertiesDialog() override;
+    ~PrintPropertiesDialog() override; ///< Leaves the objects that it was given alone.
 
+    /** Keeps the Enter key in the page size fields from closing the dialog. @return true for that key. */
     bool eventFilter(QObject *object, QEvent *event) override;
 
     /** Loads the settings of the current printer into all fields. */
     void updateDialog();
 
-    /** Saves what the fields show. A field that holds no number is skipped: its option keeps its value. */
+    /**
+     * Saves what the fields show: into the QPrinter, the user's options file and, when there are changes, the presets.
+     * A field that holds no number is skipped: its option keeps its value. Failures to write are not reported.
+     */
     void saveValues();
 
     /** Sets whether there are unsaved changes, and with it whether Apply is enabled. */
@@ -66,10 +70,10 @@ public:
     /** Shows orientation and effects in the preview. */
     void updatePreview();
 
-    /** Reads a number with a decimal point. @return false, and 0 in @p out, when @p edit holds none. */
+    /** Reads a number with a decimal point into @p out. @return false, and 0 in @p out, when @p edit holds none. */
     bool getDouble(const QLineEdit *edit, double *out) const;
 
-    /** Reads a whole number. @return false, and 0 in @p out, when @p edit holds none. */
+    /** Reads a whole number into @p out. @return false, and 0 in @p out, when @p edit holds none. */
     bool getInt(const QLineEdit *edit, int *out) const;
 
     /** @name Presets */
@@ -78,22 +82,31 @@ public:
     /** Brings both preset lists up to date. @return whether they were filled anew. */
     bool updatePresets();
 
-    /** Shows @p preset in both lists and its name and description. @return whether the lists moved. */
+    /**
+     * Shows @p preset, or that there is none, in both lists and its name and description.
+     *
+     * @return whether the lists moved.
+     */
     bool updateCurrentPreset(Preset *preset);
 
-    /** Makes @p preset current, applies it to the printer and loads all fields anew. */
+    /**
+     * Makes @p preset, one of those in the lists, current, applies it to the printer's settings in memory and loads all
+     * fields anew. Runs the printer driver's ppdhack, and waits for it, when the preset has a page size.
+     */
     void setCurrentPreset(Preset *preset);
 
     /** The same for the preset with this name or file name; an unknown or empty text does nothing. */
     void setCurrentPreset(const QString &text);
 
-    /** Replaces the printer's options that presets carry by those of @p preset, in the working copy. */
+    /** Replaces the printer's options that presets carry by those of @p preset, in memory. */
     void setCupsOptions(Preset *preset);
 
     /** @} */
 
 protected:
+    /** Loads the settings of the current printer into all fields, and counts them as unchanged. */
     void showEvent(QShowEvent *event) override;
+    /** Shows the texts anew after a change of language, and makes room for them. */
     void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
@@ -141,7 +154,9 @@ private:
     void createValidators();
     void fillLists();
     void hideUnusedRows();
-    void makeRoomForLargeFonts();
+    void makeRoom();
+    void widenFields();
+    void describeFields();
     void showOwnTexts();
     void showDefaultPageSize();
     void showFamily();

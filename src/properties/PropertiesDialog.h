@@ -16,6 +16,8 @@ extern "C" {
  * May be called by any program, from its main thread. Where there is no QApplication yet, one is made for the time of
  * the call, so that a host needs no Qt code at all.
  *
+ * Its texts are in the language of the default locale unless the host has installed translations of its own.
+ *
  * @return 1 after OK; 0 after Cancel or closing the window. 0 as well, without a dialog, where none can be shown: in a
  *         process whose application object has no windows (QCoreApplication, QGuiApplication), or without a display.
  */

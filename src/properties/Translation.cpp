@@ -5,7 +5,7 @@
 
 #include "BuildConstants.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLocale>
 #include <QStandardPaths>
 
@@ -23,8 +23,8 @@ bool isTranslated()
 QStringList folders()
 {
     return QStringList(BuildConstants::translationsDir)
-        + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, BuildConstants::translationsSubdir,
-                                    QStandardPaths::LocateDirectory);
+           + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, BuildConstants::translationsSubdir,
+                                       QStandardPaths::LocateDirectory);
 }
 
 } // namespace
@@ -37,12 +37,25 @@ Translation::Translation()
     for (const QString &folder : candidates) {
         if (translator.load(QLocale(), QStringLiteral("propertiesdialog"), QStringLiteral("_"), folder)) {
             QCoreApplication::installTranslator(&translator);
+            turnAround();
             return;
         }
     }
 }
 
+// Texts that are read from the right are laid out from there. Windows that the host shows already stay as they are.
+void Translation::turnAround()
+{
+    if (QLocale(translator.language()).textDirection() != Qt::RightToLeft || QGuiApplication::isRightToLeft()
+        || !QGuiApplication::topLevelWindows().isEmpty())
+        return;
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    isTurnedAround = true;
+}
+
 Translation::~Translation()
 {
     QCoreApplication::removeTranslator(&translator);
+    if (isTurnedAround)
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }

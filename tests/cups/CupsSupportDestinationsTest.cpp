@@ -40,7 +40,10 @@ int cupsGetDests2(http_t *http, cups_dest_t **dests)
     return count;
 }
 
-static void print(const char *what, const QByteArray &value) { std::printf("%s: %s\n", what, value.constData()); }
+static void print(const char *what, const QByteArray &value)
+{
+    std::printf("%s: %s\n", what, value.constData());
+}
 
 static QByteArray rect(const QRect &r)
 {
@@ -609,7 +612,7 @@ void CupsSupportDestinationsTest::printerForSelectOption()
     QCOMPARE(cups.printerForSelectOption("printer-info", "raw printer"), -1);
     QCOMPARE(cups.printerForSelectOption("printer-info", ""), -1);
     QCOMPARE(cups.printerForSelectOption("Darkness", "4"), int(LP2)); // the first one; LP1 has no such option
-    QCOMPARE(cups.printerForSelectOption("Darkness", "10"), -1);      // the PPD file's default is not a saved option
+    QCOMPARE(cups.printerForSelectOption("Darkness", "10"), -1); // the PPD file's default is not a saved option
     QCOMPARE(cups.printerForSelectOption("NoSuchOption", "4"), -1);
 }
 

@@ -188,7 +188,10 @@ void CupsSupportJobsTest::ppdDefaults()
     QCOMPARE(cups->ppdDefaults(), expected.split(' '));
 }
 
-void CupsSupportJobsTest::ppdDefaultsOfRawQueue() { QCOMPARE(supportFor(LP3)->ppdDefaults(), QStringList()); }
+void CupsSupportJobsTest::ppdDefaultsOfRawQueue()
+{
+    QCOMPARE(supportFor(LP3)->ppdDefaults(), QStringList());
+}
 
 void CupsSupportJobsTest::options()
 {
@@ -435,9 +438,9 @@ void CupsSupportJobsTest::printFileSendsSavedAndGivenOptions()
     const CapturedJob printed = scheduler->job(number);
     QCOMPARE(printed.option("Darkness"), QByteArray("4"));
     QCOMPARE(printed.option("JobStart"), QByteArray("a b"));
-    QCOMPARE(printed.option("Feed"), QByteArray("100"));     // overridden
+    QCOMPARE(printed.option("Feed"), QByteArray("100")); // overridden
     QCOMPARE(printed.option("PrintSpeed"), QByteArray("5")); // the later one
-    QVERIFY(printed.option("CutMedia").isNull());            // has no value
+    QVERIFY(printed.option("CutMedia").isNull()); // has no value
     // For this job only.
     QCOMPARE(cups->cupsOptions(), before);
     QVERIFY(!QFile::exists(optionsPath()));

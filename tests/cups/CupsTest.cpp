@@ -16,7 +16,10 @@ std::unique_ptr<CupsSupport> CupsTest::supportFor(int printer)
     return cups;
 }
 
-QString CupsTest::optionsPath() { return QDir::homePath() + "/.cups/lpoptions"; }
+QString CupsTest::optionsPath()
+{
+    return QDir::homePath() + "/.cups/lpoptions";
+}
 
 QByteArray CupsTest::readOptionsFile()
 {
@@ -68,6 +71,12 @@ void CupsTest::initTestCase()
     QCOMPARE(destCount(), 3);
 }
 
-void CupsTest::init() { QDir(QDir::homePath() + "/.cups").removeRecursively(); }
+void CupsTest::init()
+{
+    QDir(QDir::homePath() + "/.cups").removeRecursively();
+}
 
-void CupsTest::cleanupTestCase() { scheduler.reset(); }
+void CupsTest::cleanupTestCase()
+{
+    scheduler.reset();
+}

@@ -233,9 +233,10 @@ private:
         process.setProcessEnvironment(environment);
         process.start("xdotool", arguments);
         const bool good = process.waitForFinished(patienceMs) && process.exitStatus() == QProcess::NormalExit
-            && process.exitCode() == 0;
+                          && process.exitCode() == 0;
         if (!good && !mayFail) {
-            qFatal("xdotool %s failed: %s", qPrintable(arguments.join(' ')), process.readAllStandardError().constData());
+            qFatal("xdotool %s failed: %s", qPrintable(arguments.join(' ')),
+                   process.readAllStandardError().constData());
         }
     }
 
@@ -247,7 +248,12 @@ private:
 const char *const commandRadios[] = {"jobStartRadioButton", "labelStartRadioButton", "labelEndRadioButton",
                                      "jobEndRadioButton"};
 
-enum Tab { PageSetup, PresetsTab, Stock, Advanced };
+enum Tab {
+    PageSetup,
+    PresetsTab,
+    Stock,
+    Advanced
+};
 
 } // namespace
 
@@ -340,7 +346,8 @@ void EndToEndTest::changedAppliedAndReopened()
     session.showTab(Advanced);
     for (const char *radio : commandRadios) {
         session.mark(radio);
-        session.waitUntilShown("commandEdit", QByteArray(radio) == "labelEndRadioButton" ? "FEED 2\nBEEP #1 'x'\n" : "");
+        session.waitUntilShown("commandEdit",
+                               QByteArray(radio) == "labelEndRadioButton" ? "FEED 2\nBEEP #1 'x'\n" : "");
     }
     QVERIFY(!session.isEnabled("applyButton"));
     session.click("okButton");
@@ -353,7 +360,8 @@ void EndToEndTest::changedAppliedAndReopened()
     }
     QFile script(QDir::homePath() + "/.cups/Label/Preset.sh");
     QVERIFY(script.open(QIODevice::ReadOnly));
-    QVERIFY(script.readAll().startsWith("#!/bin/bash\n#name=Shipping\n#description=Pallets\nlpoptions -pLabel -oDarkness=4 "));
+    QVERIFY(script.readAll().startsWith(
+        "#!/bin/bash\n#name=Shipping\n#description=Pallets\nlpoptions -pLabel -oDarkness=4 "));
 }
 
 void EndToEndTest::cancelledAndReopened()

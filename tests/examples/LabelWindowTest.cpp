@@ -85,8 +85,9 @@ private:
 void LabelWindowTest::initTestCase()
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    const QString fileModel = scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
-                                                  {{"*NickName: \"Sample Label label 203dpi\"", "*NickName: \"Quillon Vantry\""}});
+    const QString fileModel =
+        scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
+                            {{"*NickName: \"Sample Label label 203dpi\"", "*NickName: \"Quillon Vantry\""}});
     scheduler.addQueue("Desk", fileModel, "Printer on the desk");
     scheduler.addQueue("Store", PrivateScheduler::samplePpd("label-203"), "Printer in the store");
     scheduler.setServerDefault("Desk");

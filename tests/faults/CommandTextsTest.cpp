@@ -16,8 +16,8 @@
 
 namespace {
 
-const char *const radios[] = { "jobStartRadioButton", "labelStartRadioButton", "labelEndRadioButton",
-                               "jobEndRadioButton" };
+const char *const radios[] = {"jobStartRadioButton", "labelStartRadioButton", "labelEndRadioButton",
+                              "jobEndRadioButton"};
 const int slots_ = 4;
 const int queues = 20;
 const int textsPerRound = queues * slots_;
@@ -44,9 +44,10 @@ QByteArray optionsFile()
 
 QChar randomCharacter(QRandomGenerator &random, int alphabet)
 {
-    static const QString beyond(QString::fromUtf8("\u0100\u0152\u0178\u03a9\u0416\u20ac\u2013\u201c\u2028\u2029\u202e\u4e00"
-                                                  "\ufdd0\ufdd1\ufeff\ufffc\U0001f600")
-                                + QChar(0xd800));
+    static const QString beyond(
+        QString::fromUtf8("\u0100\u0152\u0178\u03a9\u0416\u20ac\u2013\u201c\u2028\u2029\u202e\u4e00"
+                          "\ufdd0\ufdd1\ufeff\ufffc\U0001f600")
+        + QChar(0xd800));
     static const QString special("\n\n\t #'\"\\\\{}[]()<>,;:=!$&*?%|~^`-rnt");
     switch (alphabet) {
     case 0: // what means something to somebody who reads the file
@@ -73,7 +74,7 @@ int lengthInFile(const QString &text)
 
 QString randomText(QRandomGenerator &random, int room)
 {
-    const int sizes[] = { 0, 10, 80, 400, 3500 };
+    const int sizes[] = {0, 10, 80, 400, 3500};
     const int size = random.bounded(sizes[random.bounded(5)] + 1);
     const int alphabet = random.bounded(5);
     QString text;
@@ -128,11 +129,12 @@ QtMessageHandler handlerBefore = nullptr;
 // No machine has fonts for everything that is typed here.
 void ignoreMissingFonts()
 {
-    handlerBefore = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &message) {
-        if (!message.contains("OpenType support missing")) {
-            handlerBefore(type, context, message);
-        }
-    });
+    handlerBefore =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &message) {
+            if (!message.contains("OpenType support missing")) {
+                handlerBefore(type, context, message);
+            }
+        });
 }
 
 // A text that no line of the file could hold: then the file stays what it was.
@@ -233,7 +235,7 @@ void CommandTextsTest::roundTrip()
     int longest = 0;
     for (; count < wantedCount; count += textsPerRound) {
         const QString roundSeed = QString::number(random.generate());
-        QCOMPARE(TestMain::runChild("apply", { roundSeed }).exitCode, 0);
+        QCOMPARE(TestMain::runChild("apply", {roundSeed}).exitCode, 0);
         QCOMPARE(TestMain::runChild("read").exitCode, 0);
         QStringList applied;
         QStringList found;

@@ -38,15 +38,42 @@ struct Member
 
 namespace CupsMembers {
 
-inline QString text(const QStringList &list) { return list.join(' '); }
-inline QString text(const char *bytes) { return bytes != nullptr ? QString::fromLatin1(bytes) : QString("null"); }
-inline QString text(const QString &string) { return string.isNull() ? QString("null") : string; }
-inline QString text(const void *pointer) { return pointer != nullptr ? "something" : "null"; }
-inline QString text(bool flag) { return flag ? "true" : "false"; }
-inline QString text(int number) { return QString::number(number); }
-inline QString text(double number) { return QString::number(number); }
-inline QString text(const QSize &size) { return QString("%1 %2").arg(size.width()).arg(size.height()); }
-inline QString text(const QSizeF &size) { return QString("%1 %2").arg(size.width()).arg(size.height()); }
+inline QString text(const QStringList &list)
+{
+    return list.join(' ');
+}
+inline QString text(const char *bytes)
+{
+    return bytes != nullptr ? QString::fromLatin1(bytes) : QString("null");
+}
+inline QString text(const QString &string)
+{
+    return string.isNull() ? QString("null") : string;
+}
+inline QString text(const void *pointer)
+{
+    return pointer != nullptr ? "something" : "null";
+}
+inline QString text(bool flag)
+{
+    return flag ? "true" : "false";
+}
+inline QString text(int number)
+{
+    return QString::number(number);
+}
+inline QString text(double number)
+{
+    return QString::number(number);
+}
+inline QString text(const QSize &size)
+{
+    return QString("%1 %2").arg(size.width()).arg(size.height());
+}
+inline QString text(const QSizeF &size)
+{
+    return QString("%1 %2").arg(size.width()).arg(size.height());
+}
 inline QString text(const QRect &rect)
 {
     return QString("%1 %2 ").arg(rect.x()).arg(rect.y()) + text(rect.size());
@@ -61,51 +88,61 @@ inline QString document()
 /** Every member of CupsSupport but the constructor and the destructor. */
 inline const QList<Member> &all()
 {
-#define GETTER(name) { #name, [](CupsSupport &cups) { return text(cups.name()); } }
-#define SETTER(name, value) { #name, [](CupsSupport &cups) { return text(cups.name(value)); } }
-    static const QList<Member> members {
+#define GETTER(name)                                                                                                   \
+    {                                                                                                                  \
+#name, [](CupsSupport & cups) { return text(cups.name()); }                                                    \
+    }
+#define SETTER(name, value)                                                                                            \
+    {                                                                                                                  \
+#name, [](CupsSupport & cups) { return text(cups.name(value)); }                                               \
+    }
+    static const QList<Member> members{
         GETTER(getDefaultPrinter),
-        { "setCurrentPrinter", [](CupsSupport &cups) { return cups.setCurrentPrinter(0), QString(); } },
+        {"setCurrentPrinter", [](CupsSupport &cups) { return cups.setCurrentPrinter(0), QString(); }},
         GETTER(getCurrentIndex),
         GETTER(getDestCount),
         SETTER(getQueueName, 0),
         GETTER(getCurrentQueueName),
         GETTER(getCurrentPrinterName),
-        { "getPpdFile", [](CupsSupport &cups) { return text(static_cast<const void *>(cups.getPpdFile())); } },
-        { "closePpdFile", [](CupsSupport &cups) { return cups.closePpdFile(), QString(); } },
+        {"getPpdFile", [](CupsSupport &cups) { return text(static_cast<const void *>(cups.getPpdFile())); }},
+        {"closePpdFile", [](CupsSupport &cups) { return cups.closePpdFile(), QString(); }},
         GETTER(setDests),
-        { "getCupsError", [](CupsSupport &) { return CupsSupport::getCupsError() != nullptr ? "text" : "null"; } },
-        { "printerOption", [](CupsSupport &cups) {
+        {"getCupsError", [](CupsSupport &) { return CupsSupport::getCupsError() != nullptr ? "text" : "null"; }},
+        {"printerOption",
+         [](CupsSupport &cups) {
              const cups_option_t *option = cups.printerOption("Darkness");
              return text(option != nullptr ? option->value : nullptr);
-         } },
-        { "printerForSelectOption",
-          [](CupsSupport &cups) { return text(cups.printerForSelectOption("printer-info", "Second Printer")); } },
+         }},
+        {"printerForSelectOption",
+         [](CupsSupport &cups) { return text(cups.printerForSelectOption("printer-info", "Second Printer")); }},
         SETTER(getDefaultValue, "Darkness"),
         SETTER(getValue, "PrintSpeed"),
-        { "setValue", [](CupsSupport &cups) { return text(cups.setValue("Darkness", "12")); } },
-        { "setDouble", [](CupsSupport &cups) { return text(cups.setDouble("Shift", 1.25)); } },
-        { "setInt", [](CupsSupport &cups) { return text(cups.setInt("Darkness", 12)); } },
-        { "setBool", [](CupsSupport &cups) { return text(cups.setBool("MirrorPrint", true)); } },
-        { "getDouble", [](CupsSupport &cups) {
+        {"setValue", [](CupsSupport &cups) { return text(cups.setValue("Darkness", "12")); }},
+        {"setDouble", [](CupsSupport &cups) { return text(cups.setDouble("Shift", 1.25)); }},
+        {"setInt", [](CupsSupport &cups) { return text(cups.setInt("Darkness", 12)); }},
+        {"setBool", [](CupsSupport &cups) { return text(cups.setBool("MirrorPrint", true)); }},
+        {"getDouble",
+         [](CupsSupport &cups) {
              double value = 0.0;
              return text(cups.getDouble("GapSize", &value)) + ' ' + text(value);
-         } },
-        { "getInt", [](CupsSupport &cups) {
+         }},
+        {"getInt",
+         [](CupsSupport &cups) {
              int value = 0;
              return text(cups.getInt("Darkness", &value)) + ' ' + text(value);
-         } },
-        { "getBool", [](CupsSupport &cups) {
+         }},
+        {"getBool",
+         [](CupsSupport &cups) {
              bool value = false;
              return text(cups.getBool("MirrorPrint", &value)) + ' ' + text(value);
-         } },
-        { "getString", [](CupsSupport &cups) {
+         }},
+        {"getString",
+         [](CupsSupport &cups) {
              QString value;
              return text(cups.getString("JobStart", &value)) + ' ' + text(value);
-         } },
-        { "setString", [](CupsSupport &cups) { return text(cups.setString("JobStart", "other")); } },
-        { "ppdOption",
-          [](CupsSupport &cups) { return text(static_cast<const void *>(cups.ppdOption("Darkness"))); } },
+         }},
+        {"setString", [](CupsSupport &cups) { return text(cups.setString("JobStart", "other")); }},
+        {"ppdOption", [](CupsSupport &cups) { return text(static_cast<const void *>(cups.ppdOption("Darkness"))); }},
         GETTER(getShift),
         SETTER(setShift, 1.25),
         GETTER(getStart),
@@ -160,25 +197,30 @@ inline const QList<Member> &all()
         GETTER(getResolution),
         GETTER(getExtendedOffset),
         SETTER(setExtendedOffset, 13),
-        { "setOptions", [](CupsSupport &cups) { return text(cups.setOptions({ "Darkness", "14" })); } },
-        { "deleteOptions", [](CupsSupport &cups) { return cups.deleteOptions({ "Darkness" }), QString(); } },
+        {"setOptions",
+         [](CupsSupport &cups) {
+             return text(cups.setOptions({"Darkness", "14"}));
+         }},
+        {"deleteOptions", [](CupsSupport &cups) { return cups.deleteOptions({"Darkness"}), QString(); }},
         GETTER(options),
         GETTER(cupsOptions),
         GETTER(ppdDefaults),
-        { "collectMarkedOptions", [](CupsSupport &cups) {
+        {"collectMarkedOptions",
+         [](CupsSupport &cups) {
              QStringList list;
              cups.collectMarkedOptions(list, nullptr);
              return text(list);
-         } },
-        { "collectMarkedOptionsHelper", [](CupsSupport &cups) {
+         }},
+        {"collectMarkedOptionsHelper",
+         [](CupsSupport &cups) {
              QStringList list;
              if (const ppd_file_t *ppd = cups.getPpdFile()) {
                  cups.collectMarkedOptionsHelper(list, ppd->groups);
              }
              return text(list);
-         } },
-        { "printFile", [](CupsSupport &cups) { return text(cups.printFile(document(), "", "title", {}) > 0); } },
-        { "printFiles", [](CupsSupport &cups) { return text(cups.printFiles({ document() }, "title", {}) > 0); } },
+         }},
+        {"printFile", [](CupsSupport &cups) { return text(cups.printFile(document(), "", "title", {}) > 0); }},
+        {"printFiles", [](CupsSupport &cups) { return text(cups.printFiles({document()}, "title", {}) > 0); }},
     };
 #undef GETTER
 #undef SETTER
@@ -209,8 +251,8 @@ inline Outcomes callEach(CupsSupport &cups, const std::function<void(CupsSupport
             int status = 0;
             waitpid(copy.first, &status, 0);
             const bool crashed = !WIFEXITED(status) || WEXITSTATUS(status) != 0;
-            outcomes[name] = { crashed ? "crashed" : QString::fromUtf8(said.mid(said.indexOf('|') + 1)),
-                               said.left(said.indexOf('|')).toLongLong() };
+            outcomes[name] = {crashed ? "crashed" : QString::fromUtf8(said.mid(said.indexOf('|') + 1)),
+                              said.left(said.indexOf('|')).toLongLong()};
         }
         running.clear();
     };

@@ -32,7 +32,7 @@ class LoggedPrograms
 public:
     LoggedPrograms()
     {
-        for (const char *name : { "bash", "sh", "env", "lp", "lpoptions", "lpadmin", "touch", "ppdhack", "ppdhackX" }) {
+        for (const char *name : {"bash", "sh", "env", "lp", "lpoptions", "lpadmin", "touch", "ppdhack", "ppdhackX"}) {
             writeFile(folder.filePath(name), "#!/bin/sh\necho \"${0##*/} $*\" >> \"${0%/*}/log\"\n");
             QFile::setPermissions(folder.filePath(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         }
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    QTemporaryDir folder { "/tmp/pd-XXXXXX" };
+    QTemporaryDir folder{"/tmp/pd-XXXXXX"};
     QByteArray pathBefore = qgetenv("PATH");
 };
 
@@ -67,8 +67,8 @@ QString marker()
 QByteArray scriptWith(const QByteArray &line)
 {
     return "#!/bin/bash\n/usr/bin/touch " + QFile::encodeName(marker())
-        + "\n#name=Foreign\n#description=$(/usr/bin/touch " + QFile::encodeName(marker())
-        + ")\nlpoptions -pLP1 -oDarkness=3\n" + line + "\n";
+           + "\n#name=Foreign\n#description=$(/usr/bin/touch " + QFile::encodeName(marker())
+           + ")\nlpoptions -pLP1 -oDarkness=3\n" + line + "\n";
 }
 
 // ----- things that are no scripts -----
@@ -119,17 +119,17 @@ MakeFile linkTo(const MakeFile &makeTarget)
 
 const QList<std::pair<const char *, MakeFile>> &kinds()
 {
-    static const QList<std::pair<const char *, MakeFile>> list {
-        { "pipe", makePipe },
-        { "socket", makeSocket },
-        { "folder", [](const QByteArray &path) { check(mkdir(path.constData(), 0700) == 0, "folder"); } },
-        { "10 MiB", makeHugeFile },
-        { "link to a pipe", linkTo(makePipe) },
-        { "link to 10 MiB", linkTo(makeHugeFile) },
-        { "link to an endless device", [](const QByteArray &path) { makeLink("/dev/zero", path); } },
-        { "link to a terminal", [](const QByteArray &path) { makeLink("/dev/tty", path); } },
-        { "link to nothing", [](const QByteArray &path) { makeLink("missing/script", path); } },
-        { "link to itself", [](const QByteArray &path) { makeLink(path, path); } },
+    static const QList<std::pair<const char *, MakeFile>> list{
+        {"pipe", makePipe},
+        {"socket", makeSocket},
+        {"folder", [](const QByteArray &path) { check(mkdir(path.constData(), 0700) == 0, "folder"); }},
+        {"10 MiB", makeHugeFile},
+        {"link to a pipe", linkTo(makePipe)},
+        {"link to 10 MiB", linkTo(makeHugeFile)},
+        {"link to an endless device", [](const QByteArray &path) { makeLink("/dev/zero", path); }},
+        {"link to a terminal", [](const QByteArray &path) { makeLink("/dev/tty", path); }},
+        {"link to nothing", [](const QByteArray &path) { makeLink("missing/script", path); }},
+        {"link to itself", [](const QByteArray &path) { makeLink(path, path); }},
     };
     return list;
 }
@@ -162,7 +162,7 @@ private:
 
 void ForeignTest::initTestCase()
 {
-    for (const char *queue : { "LP1", "..", "$(id)" }) {
+    for (const char *queue : {"LP1", "..", "$(id)"}) {
         scheduler.addQueue(queue);
     }
 }
@@ -187,10 +187,10 @@ void ForeignTest::lookingRunsNothing()
     }
     QCOMPARE(open.find<QComboBox>("preset0")->count(), 4);
     Presets presets("LP1");
-    for (const char *file : { "A", "B" }) {
+    for (const char *file : {"A", "B"}) {
         Preset *preset = presets.findPresetByFileName(file);
         QVERIFY(preset);
-        QCOMPARE(preset->options(), QStringList({ "Darkness", "3" }));
+        QCOMPARE(preset->options(), QStringList({"Darkness", "3"}));
         QCOMPARE(preset->getUserPageSize(), QSizeF(4, 3));
     }
     open.click("cancelButton");
@@ -202,12 +202,12 @@ void ForeignTest::choosing_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<QByteArray>("calls");
-    for (const char *line : { "ppdhack 4.00 3.00 LP1", "ppdhack $(touch x) `touch x` ; touch x & touch x | bash > x" }) {
+    for (const char *line : {"ppdhack 4.00 3.00 LP1", "ppdhack $(touch x) `touch x` ; touch x & touch x | bash > x"}) {
         QTest::newRow(line) << QByteArray(line) << QByteArray(line) + '\n';
     }
     for (const char *line :
-         { "ppdhackX 4.00 3.00 LP1", "ppdhack;touch x", "ppdhack/../bash -c x", "./ppdhack 4.00 3.00 LP1", "/bin/touch x",
-           "bash -c ppdhack", " ppdhack 4.00 3.00 LP1", "lpoptions -d LP1", "PPDHACK 4.00 3.00 LP1" }) {
+         {"ppdhackX 4.00 3.00 LP1", "ppdhack;touch x", "ppdhack/../bash -c x", "./ppdhack 4.00 3.00 LP1",
+          "/bin/touch x", "bash -c ppdhack", " ppdhack 4.00 3.00 LP1", "lpoptions -d LP1", "PPDHACK 4.00 3.00 LP1"}) {
         QTest::newRow(line) << QByteArray(line) << QByteArray();
     }
 }
@@ -315,8 +315,8 @@ void ForeignTest::printerName()
     QStringList found = home.entryList(everything);
     found.sort();
     QCOMPARE(found, expected);
-    QCOMPARE(QDir(cupsFolder()).entryList(everything), hasPresets ? QStringList({ queue, "lpoptions" })
-                                                                  : QStringList("lpoptions"));
+    QCOMPARE(QDir(cupsFolder()).entryList(everything),
+             hasPresets ? QStringList({queue, "lpoptions"}) : QStringList("lpoptions"));
     QCOMPARE(storedOptions(queue.toLatin1()).value("Darkness"), QByteArray("12"));
     // The driver gets the name as it is.
     QCOMPARE(programs.calls(), "ppdhack 4.00 3.00 " + queue.toLatin1() + '\n');

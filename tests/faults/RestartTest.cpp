@@ -42,8 +42,8 @@ void RestartTest::initTestCase()
     scheduler.addQueue("LP1", PrivateScheduler::samplePpd("every-option"), "First Printer");
     scheduler.addQueue("LP2", PrivateScheduler::samplePpd("label-300"), "Second Printer");
     scheduler.addQueue("LP3", QString(), "Raw Printer");
-    for (const char *queue : { "LP1", "LP3" }) {
-        scheduler.setUserOptions(queue, { "Darkness=5", "GapSize=4.5", "JobStart=begin", "Back=30" });
+    for (const char *queue : {"LP1", "LP3"}) {
+        scheduler.setUserOptions(queue, {"Darkness=5", "GapSize=4.5", "JobStart=begin", "Back=30"});
     }
     QFile file(document());
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("text\n") > 0);
@@ -118,7 +118,7 @@ void RestartTest::queueIsGone()
     scheduler.removeQueue("LP2");
     killScheduler(scheduler);
     scheduler.start();
-    for (const Outcomes &outcomes : { callEach(cups), callEach(cups, [](CupsSupport &c) { c.closePpdFile(); }) }) {
+    for (const Outcomes &outcomes : {callEach(cups), callEach(cups, [](CupsSupport &c) { c.closePpdFile(); })}) {
         for (auto it = outcomes.begin(); it != outcomes.end(); ++it) {
             QVERIFY2(it.value().result != "crashed", qPrintable(it.key()));
         }

@@ -48,7 +48,8 @@ const QByteArray longValue(600, 'x');
 
 const uid_t nobody = 65534;
 
-const QByteArray earlierOptions = "Dest Gone Darkness=3 JobStart=\"a b\"\nDest LP1 Darkness=5\nDefault LP2 Darkness=4\n";
+const QByteArray earlierOptions =
+    "Dest Gone Darkness=3 JobStart=\"a b\"\nDest LP1 Darkness=5\nDefault LP2 Darkness=4\n";
 const QByteArray earlierScript = "#!/bin/bash\nlpoptions -pLP1 -oDarkness=5\n";
 
 QString folder()
@@ -75,7 +76,8 @@ QByteArray content(const QString &path)
 void write(const QString &path, const QByteArray &data)
 {
     QFile file(path);
-    if (!QDir().mkpath(path.section('/', 0, -2)) || !file.open(QIODevice::WriteOnly) || file.write(data) != data.size()) {
+    if (!QDir().mkpath(path.section('/', 0, -2)) || !file.open(QIODevice::WriteOnly)
+        || file.write(data) != data.size()) {
         qFatal("cannot write %s", qPrintable(path));
     }
 }
@@ -98,7 +100,7 @@ void check(bool good, const char *what)
 void limitFileSize()
 {
     std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit size { limit, limit };
+    const rlimit size{limit, limit};
     check(setrlimit(RLIMIT_FSIZE, &size) == 0, "setrlimit");
 }
 
@@ -109,12 +111,14 @@ struct Condition
     unsigned short comparison;
     unsigned value;
 };
-const Condition always { 0, BPF_JGE, 0 };
+const Condition always{0, BPF_JGE, 0};
 
 void failCalls(const QList<int> &calls, int error, const Condition &condition)
 {
     QVector<sock_filter> filter;
-    const auto load = [](std::size_t offset) { return sock_filter BPF_STMT(BPF_LD | BPF_W | BPF_ABS, unsigned(offset)); };
+    const auto load = [](std::size_t offset) {
+        return sock_filter BPF_STMT(BPF_LD | BPF_W | BPF_ABS, unsigned(offset));
+    };
     for (const int call : calls) {
         filter << load(offsetof(seccomp_data, nr));
         filter << sock_filter BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, unsigned(call), 0, 3);
@@ -123,7 +127,7 @@ void failCalls(const QList<int> &calls, int error, const Condition &condition)
         filter << sock_filter BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | unsigned(error));
     }
     filter << sock_filter BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW);
-    const sock_fprog program { static_cast<unsigned short>(filter.size()), filter.data() };
+    const sock_fprog program{static_cast<unsigned short>(filter.size()), filter.data()};
     check(prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0, "no new privileges");
     check(prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0, "seccomp");
 }
@@ -131,8 +135,9 @@ void failCalls(const QList<int> &calls, int error, const Condition &condition)
 // What makes open() create a file, with a name or without.
 const unsigned creating = unsigned(O_CREAT | (O_TMPFILE & ~O_DIRECTORY));
 
-const QList<int> renameCalls {
-    SYS_renameat2, SYS_renameat,
+const QList<int> renameCalls{
+    SYS_renameat2,
+    SYS_renameat,
 #ifdef SYS_rename
     SYS_rename,
 #endif
@@ -144,7 +149,8 @@ void giveFilesAway()
     if (geteuid() != 0) {
         return;
     }
-    for (const QString &path : { QDir::homePath(), folder(), optionsPath(), scriptPath().section('/', 0, -2), scriptPath() }) {
+    for (const QString &path :
+         {QDir::homePath(), folder(), optionsPath(), scriptPath().section('/', 0, -2), scriptPath()}) {
         check(chown(QFile::encodeName(path).constData(), nobody, nobody) == 0, "chown");
     }
     check(setgroups(0, nullptr) == 0 && setgid(nobody) == 0 && setuid(nobody) == 0, "setuid");
@@ -160,14 +166,26 @@ std::function<void()> asUserWithMode(const std::function<QString()> &path, mode_
 
 using Fault = std::function<void()>;
 
-const QList<std::pair<const char *, Fault>> writeFaults {
-    { "file size limit", limitFileSize },
-    { "disk full", [] { failCalls({ SYS_write, SYS_pwrite64, SYS_writev }, ENOSPC, { 2, BPF_JGE, limit }); } },
-    { "quota", [] { failCalls({ SYS_write, SYS_pwrite64, SYS_writev }, EDQUOT, { 2, BPF_JGE, limit }); } },
-    { "no room for a new file", [] { failCalls({ SYS_openat }, ENOSPC, { 2, BPF_JSET, creating }); } },
+const QList<std::pair<const char *, Fault>> writeFaults{
+    {"file size limit", limitFileSize},
+    {"disk full",
+     [] {
+         failCalls({SYS_write, SYS_pwrite64, SYS_writev}, ENOSPC, {2, BPF_JGE, limit});
+     }},
+    {"quota",
+     [] {
+         failCalls({SYS_write, SYS_pwrite64, SYS_writev}, EDQUOT, {2, BPF_JGE, limit});
+     }},
+    {"no room for a new file",
+     [] {
+         failCalls({SYS_openat}, ENOSPC, {2, BPF_JSET, creating});
+     }},
     // A disk may notice late that it has no room.
-    { "disk full when synchronizing", [] { failCalls({ SYS_fsync, SYS_fdatasync }, ENOSPC, always); } },
-    { "cannot be renamed", [] { failCalls(renameCalls, EIO, always); } },
+    {"disk full when synchronizing",
+     [] {
+         failCalls({SYS_fsync, SYS_fdatasync}, ENOSPC, always);
+     }},
+    {"cannot be renamed", [] { failCalls(renameCalls, EIO, always); }},
 };
 
 // ----- what is saved -----
@@ -182,23 +200,23 @@ void setState(CupsSupport &cups, int state)
 
 void setState(Preset &preset, int state)
 {
-    preset.setOptions({ "Darkness", state == 0 ? "7" : "9", "JobStart", state == 0 ? "short" : longValue, "LabelEnd",
-                        longValue });
+    preset.setOptions(
+        {"Darkness", state == 0 ? "7" : "9", "JobStart", state == 0 ? "short" : longValue, "LabelEnd", longValue});
     preset.setState(Preset::Modified);
 }
 
 // What the copies of this process tell us.
 struct Progress
 {
-    std::atomic<int> saved { 0 };
-    std::atomic<bool> isSaving { false };
+    std::atomic<int> saved{0};
+    std::atomic<bool> isSaving{false};
 };
 
 std::unique_ptr<Progress, void (*)(Progress *)> sharedProgress()
 {
     void *memory = mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     check(memory != MAP_FAILED, "mmap");
-    return { new (memory) Progress, [](Progress *progress) { munmap(progress, sizeof(Progress)); } };
+    return {new (memory) Progress, [](Progress *progress) { munmap(progress, sizeof(Progress)); }};
 }
 
 // Gives the copy of this process in which it is called a disk of its own at this path, of 64 KiB.
@@ -217,7 +235,7 @@ bool mountSmallDisk(const QString &path)
         return false;
     }
     return mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0
-        && mount("tmpfs", QFile::encodeName(path).constData(), "tmpfs", 0, "size=64k") == 0;
+           && mount("tmpfs", QFile::encodeName(path).constData(), "tmpfs", 0, "size=64k") == 0;
 }
 
 void fillDisk(const QString &path)
@@ -291,7 +309,7 @@ void SavingFaultsTest::init()
 // Of the folders that were given away.
 void SavingFaultsTest::cleanup()
 {
-    for (const QString &path : { QDir::homePath(), folder() }) {
+    for (const QString &path : {QDir::homePath(), folder()}) {
         QVERIFY(chown(QFile::encodeName(path).constData(), geteuid(), getegid()) == 0);
         QVERIFY(chmod(QFile::encodeName(path).constData(), 0700) == 0);
     }

@@ -123,30 +123,30 @@ struct Action
 // LP1 is the default printer; its presets are Plain and Sized, of which the second has a user page size.
 const QList<Action> &actions()
 {
-    static const QList<Action> list {
-        { "Apply", [](OpenDialog &open) { open.click("applyButton"); } },
-        { "OK", [](OpenDialog &open) { open.click("okButton"); } },
-        { "Cancel", [](OpenDialog &open) { open.click("cancelButton"); } },
-        { "choose a preset", [](OpenDialog &open) { open.choose("preset0", 3); } },
-        { "choose a preset with a page size", [](OpenDialog &open) { open.choose("preset0", 4); } },
-        { "choose a preset with a page size, and apply",
-          [](OpenDialog &open) {
-              open.choose("preset0", 4);
-              open.click("applyButton");
-          } },
-        { "new preset, and apply",
-          [](OpenDialog &open) {
-              open.click("presetNewButton");
-              open.click("applyButton");
-          } },
-        { "show again",
-          [](OpenDialog &open) {
-              open.dialog.hide();
-              open.cups.closePpdFile();
-              open.dialog.show();
-          } },
-        { "media type", [](OpenDialog &open) { open.choose("mediaType", 2); } },
-        { "print", [](OpenDialog &open) { open.cups.printFile(document(), "", "title", {}); } },
+    static const QList<Action> list{
+        {"Apply", [](OpenDialog &open) { open.click("applyButton"); }},
+        {"OK", [](OpenDialog &open) { open.click("okButton"); }},
+        {"Cancel", [](OpenDialog &open) { open.click("cancelButton"); }},
+        {"choose a preset", [](OpenDialog &open) { open.choose("preset0", 3); }},
+        {"choose a preset with a page size", [](OpenDialog &open) { open.choose("preset0", 4); }},
+        {"choose a preset with a page size, and apply",
+         [](OpenDialog &open) {
+             open.choose("preset0", 4);
+             open.click("applyButton");
+         }},
+        {"new preset, and apply",
+         [](OpenDialog &open) {
+             open.click("presetNewButton");
+             open.click("applyButton");
+         }},
+        {"show again",
+         [](OpenDialog &open) {
+             open.dialog.hide();
+             open.cups.closePpdFile();
+             open.dialog.show();
+         }},
+        {"media type", [](OpenDialog &open) { open.choose("mediaType", 2); }},
+        {"print", [](OpenDialog &open) { open.cups.printFile(document(), "", "title", {}); }},
     };
     return list;
 }
@@ -193,8 +193,9 @@ int changePrinter(int &argc, char **argv)
 }
 const TestMain::ChildFunction changePrinterFunction("change-printer", changePrinter);
 
-const QByteArray storedBefore = "Dest Gone Darkness=3\nDest LP1 Darkness=5 Back=30 CutMedia=2 JobEnd=end Overlap=9 Stop=7.000\n"
-                                "Dest LP2 Darkness=4\n";
+const QByteArray storedBefore =
+    "Dest Gone Darkness=3\nDest LP1 Darkness=5 Back=30 CutMedia=2 JobEnd=end Overlap=9 Stop=7.000\n"
+    "Dest LP2 Darkness=4\n";
 
 } // namespace
 
@@ -220,7 +221,7 @@ private:
     void runsInTime(const char *function, const QStringList &arguments, const QMap<QString, QString> &environment = {});
 
     PrivateScheduler scheduler;
-    QTemporaryDir folder { "/tmp/pd-XXXXXX" };
+    QTemporaryDir folder{"/tmp/pd-XXXXXX"};
     Outcomes running;
     Outcomes silent;
     Outcomes noPrinter;
@@ -233,8 +234,8 @@ void SilentSchedulerTest::initTestCase()
     scheduler.addQueue("LP2", PrivateScheduler::samplePpd("label-300"), "Second Printer");
     scheduler.addQueue("LP3", QString(), "Raw Printer");
     scheduler.setServerDefault("LP1");
-    for (const char *queue : { "LP1", "LP3" }) {
-        scheduler.setUserOptions(queue, { "Darkness=5", "GapSize=4.5", "JobStart=begin", "Back=30" });
+    for (const char *queue : {"LP1", "LP3"}) {
+        scheduler.setUserOptions(queue, {"Darkness=5", "GapSize=4.5", "JobStart=begin", "Back=30"});
     }
     writeFile(document(), "text\n");
 
@@ -296,8 +297,8 @@ void SilentSchedulerTest::fromTheStart()
 {
     QFETCH(FaultyScheduler::Fault, fault);
     const FaultyScheduler faulty(folder.filePath("sock"), fault);
-    const QMap<QString, QString> environment { { "CUPS_SERVER", folder.filePath("sock") } };
-    for (const char *function : { "all-members", "whole-dialog", "print-dialog" }) {
+    const QMap<QString, QString> environment{{"CUPS_SERVER", folder.filePath("sock")}};
+    for (const char *function : {"all-members", "whole-dialog", "print-dialog"}) {
         runsInTime(function, {}, environment);
     }
 }
@@ -318,7 +319,7 @@ void SilentSchedulerTest::whileOpen()
     writeFile(cupsFolder() + "/LP1/Plain.sh", "#!/bin/bash\nlpoptions -pLP1 -oDarkness=3\n");
     writeFile(cupsFolder() + "/LP1/Sized.sh", "#!/bin/bash\nlpoptions -pLP1 -oDarkness=3\nppdhack 4.00 3.00 LP1\n");
     const DriverCommand ppdhack("exit 0\n");
-    runsInTime("fall-silent", { QString::number(processOf(scheduler)), QString::number(action) });
+    runsInTime("fall-silent", {QString::number(processOf(scheduler)), QString::number(action)});
 
     // Whether something was saved or not, what was stored still is.
     const QByteArray stored = fileContent(options);
@@ -329,8 +330,8 @@ void SilentSchedulerTest::whileOpen()
     const bool isPreset = name.contains("preset");
     const bool isSaved = name.contains("apply", Qt::CaseInsensitive) || name == "OK";
     // Of the options that a preset carries, those of the chosen one take their place.
-    for (const auto &[keyword, value] : QList<std::pair<const char *, const char *>> {
-             { "Back", "30" }, { "CutMedia", "2" }, { "Overlap", "9" } }) {
+    for (const auto &[keyword, value] :
+         QList<std::pair<const char *, const char *>>{{"Back", "30"}, {"CutMedia", "2"}, {"Overlap", "9"}}) {
         QCOMPARE(found.value(keyword), QByteArray(value));
     }
     if (!isPreset) {
@@ -345,7 +346,7 @@ void SilentSchedulerTest::whileOpen()
 
 void SilentSchedulerTest::printerIsChanged()
 {
-    runsInTime("change-printer", { QString::number(processOf(scheduler)) });
+    runsInTime("change-printer", {QString::number(processOf(scheduler))});
 }
 
 // It is asked again once it had time to recover.

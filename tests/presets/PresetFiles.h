@@ -47,7 +47,7 @@ inline bool writeFile(const QString &path, const QByteArray &content)
 {
     QFile file(path);
     return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly)
-        && file.write(content) == content.size();
+           && file.write(content) == content.size();
 }
 
 inline QByteArray readFile(const QString &path)
@@ -99,7 +99,7 @@ public:
             m_titles << box->windowTitle();
             m_texts << box->text();
             m_areWarnings = m_areWarnings && box->icon() == QMessageBox::Warning && !box->parent()
-                && box->standardButtons() == QMessageBox::Ok;
+                            && box->standardButtons() == QMessageBox::Ok;
             box->button(QMessageBox::Ok)->click();
         });
         m_timer.start(1);

@@ -201,7 +201,8 @@ void PresetScriptTest::rootOfHome_data()
     QTest::addColumn<QString>("home");
     QTest::addColumn<QString>("path");
     QTest::newRow("unset") << QString() << "/.cups/LP1/file.sh";
-    QTest::newRow("separator kept") << "/tmp/h/" << "/tmp/h//.cups/LP1/file.sh";
+    QTest::newRow("separator kept") << "/tmp/h/"
+                                    << "/tmp/h//.cups/LP1/file.sh";
     QTest::newRow("UTF-8") << QString::fromUtf8("/tmp/hé") << QString::fromUtf8("/tmp/hé/.cups/LP1/file.sh");
 }
 
@@ -250,11 +251,16 @@ void PresetScriptTest::ppdhack_data()
     QTest::addColumn<QSizeF>("size");
     QTest::addColumn<QString>("printer");
     QTest::addColumn<QString>("line");
-    QTest::newRow("fractions") << QSizeF(101.6, 152.4) << "LP1" << "ppdhack 101.60 152.40 LP1\n";
-    QTest::newRow("rounded") << QSizeF(1.006, 1.004) << "LP1" << "ppdhack 1.01 1.00 LP1\n";
-    QTest::newRow("large") << QSizeF(1234567.5, 1e7) << "LP1" << "ppdhack 1234567.50 10000000.00 LP1\n";
-    QTest::newRow("none") << QSizeF(-1, -1) << "LP1" << "ppdhack -1.00 -1.00 LP1\n";
-    QTest::newRow("percent") << QSizeF(1, 2) << "LP%1%2" << "ppdhack 1.00 2.00 LP%1%2\n";
+    QTest::newRow("fractions") << QSizeF(101.6, 152.4) << "LP1"
+                               << "ppdhack 101.60 152.40 LP1\n";
+    QTest::newRow("rounded") << QSizeF(1.006, 1.004) << "LP1"
+                             << "ppdhack 1.01 1.00 LP1\n";
+    QTest::newRow("large") << QSizeF(1234567.5, 1e7) << "LP1"
+                           << "ppdhack 1234567.50 10000000.00 LP1\n";
+    QTest::newRow("none") << QSizeF(-1, -1) << "LP1"
+                          << "ppdhack -1.00 -1.00 LP1\n";
+    QTest::newRow("percent") << QSizeF(1, 2) << "LP%1%2"
+                             << "ppdhack 1.00 2.00 LP%1%2\n";
 }
 
 void PresetScriptTest::ppdhack()
@@ -270,14 +276,22 @@ void PresetScriptTest::header_data()
     QTest::addColumn<QString>("description");
     QTest::addColumn<int>("index");
     QTest::addColumn<QByteArray>("lines");
-    QTest::newRow("nothing") << "Wide" << "" << -1 << QByteArray();
-    QTest::newRow("name") << "Wide labels" << "" << -1 << QByteArray("#name=Wide labels\n");
-    QTest::newRow("name in other case") << "wide" << "" << -1 << QByteArray("#name=wide\n");
-    QTest::newRow("description") << "Wide" << "For %1" << -1 << QByteArray("#description=For %1\n");
-    QTest::newRow("lines of description") << "Wide" << "one\ntwo" << -1 << QByteArray("#description=one\ntwo\n");
-    QTest::newRow("index 0") << "Wide" << "" << 0 << QByteArray("#index=0\n");
-    QTest::newRow("index 1234") << "Wide" << "" << 1234 << QByteArray("#index=1234\n");
-    QTest::newRow("order") << "n" << "d" << 7 << QByteArray("#name=n\n#description=d\n#index=7\n");
+    QTest::newRow("nothing") << "Wide"
+                             << "" << -1 << QByteArray();
+    QTest::newRow("name") << "Wide labels"
+                          << "" << -1 << QByteArray("#name=Wide labels\n");
+    QTest::newRow("name in other case") << "wide"
+                                        << "" << -1 << QByteArray("#name=wide\n");
+    QTest::newRow("description") << "Wide"
+                                 << "For %1" << -1 << QByteArray("#description=For %1\n");
+    QTest::newRow("lines of description") << "Wide"
+                                          << "one\ntwo" << -1 << QByteArray("#description=one\ntwo\n");
+    QTest::newRow("index 0") << "Wide"
+                             << "" << 0 << QByteArray("#index=0\n");
+    QTest::newRow("index 1234") << "Wide"
+                                << "" << 1234 << QByteArray("#index=1234\n");
+    QTest::newRow("order") << "n"
+                           << "d" << 7 << QByteArray("#name=n\n#description=d\n#index=7\n");
 }
 
 void PresetScriptTest::header()
@@ -378,8 +392,9 @@ void PresetScriptTest::pageSizeLine()
 void PresetScriptTest::wholeScript()
 {
     const PresetScript::Content preset{
-        "LP1/draft", "Preset2", "New Preset 2", "Two inches", -1,
-        {"Darkness", "12", "Direct", "True", "Feed", "0", "Start", "1.000"}, QSizeF(4, 2.25)};
+        "LP1/draft",    "Preset2", "New Preset 2",
+        "Two inches",   -1,        {"Darkness", "12", "Direct", "True", "Feed", "0", "Start", "1.000"},
+        QSizeF(4, 2.25)};
     QCOMPARE(PresetScript::text(preset, {"PageSize", "w288h144", "Feed", "0", "GapSize", "3.000"}),
              QByteArray("#!/bin/bash\n"
                         "#name=New Preset 2\n"
@@ -392,7 +407,9 @@ void PresetScriptTest::latin1_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("within") << QString::fromUtf8("Größe") << QByteArray("Gr\xf6\xdf" "e");
+    QTest::newRow("within") << QString::fromUtf8("Größe")
+                            << QByteArray("Gr\xf6\xdf"
+                                          "e");
     QTest::newRow("last") << QString(QChar(0xff)) << QByteArray("\xff");
     QTest::newRow("beyond") << QString::fromUtf8("5 €") << QByteArray("5 ?");
 }
@@ -576,8 +593,8 @@ void PresetScriptTest::readWithinLimit()
 void PresetScriptTest::readRefused_data()
 {
     QTest::addColumn<QString>("file");
-    for (const char *name : {"missing", "large", "larger", "dangling", "folder", "folderlink", "pipe", "pipelink",
-                             "socket", "device"})
+    for (const char *name :
+         {"missing", "large", "larger", "dangling", "folder", "folderlink", "pipe", "pipelink", "socket", "device"})
         QTest::newRow(name) << name;
 }
 
@@ -641,10 +658,23 @@ void PresetScriptTest::parseAttribute_data()
     row("equals sign and mark", "#name=a=#b\n", "a=#b");
     row("tabulator", "#name=a\tb\n", "a");
     row("carriage return", "#name=a\r\n", "a");
-    row("last control character", "#name=a\x1f" "b\n", "a");
-    row("delete", "#name=a\x7f" "b\n", "a\x7f" "b");
-    row("0x80", "#name=a\x80" "b\n", "a");
-    row("0xff", "#name=a\xff" "b\n", "a");
+    row("last control character",
+        "#name=a\x1f"
+        "b\n",
+        "a");
+    row("delete",
+        "#name=a\x7f"
+        "b\n",
+        "a\x7f"
+        "b");
+    row("0x80",
+        "#name=a\x80"
+        "b\n",
+        "a");
+    row("0xff",
+        "#name=a\xff"
+        "b\n",
+        "a");
     row("NUL", QByteArray("#name=a\0b\n", 10), "a");
     row("behind a NUL", QByteArray("\0#name=a\n", 9), "a");
     row("longer key first", "#names=one\n#name=two\n", "two");
@@ -683,9 +713,19 @@ void PresetScriptTest::parseOption_data()
     row("equals sign", " -oStop=a=b\n", "a=b");
     row("tabulator", " -oStop=a\tb\n", "a");
     row("first that is no blank", " -oStop=a!b\n", "a!b");
-    row("delete", " -oStop=a\x7f" "b\n", "a\x7f" "b");
-    row("0x80", " -oStop=a\x80" "b\n", "a");
-    row("0xff", " -oStop=a\xff" "b\n", "a");
+    row("delete",
+        " -oStop=a\x7f"
+        "b\n",
+        "a\x7f"
+        "b");
+    row("0x80",
+        " -oStop=a\x80"
+        "b\n",
+        "a");
+    row("0xff",
+        " -oStop=a\xff"
+        "b\n",
+        "a");
     row("NUL", QByteArray(" -oStop=a\0b\n", 12), "a");
     row("one backslash", " -oStop=a\\r\n", "a\\r");
     row("two backslashes", " -oStop=C:\\\\dir\n", "C:\\\\dir");

@@ -153,8 +153,8 @@ void PresetTest::constructedWithOptions_data()
     QTest::newRow("existing, same") << "Wide" << QByteArray(scriptText) << QStringList{"Darkness", "12"}
                                     << Preset::Clean << "Wide labels"
                                     << QStringList{"Darkness", "12", "Direct", "True"};
-    QTest::newRow("new, nothing carried") << "Wide" << QByteArray() << QStringList{"PageSize", "x"} << Preset::NotLoaded
-                                          << "Wide" << QStringList();
+    QTest::newRow("new, nothing carried")
+        << "Wide" << QByteArray() << QStringList{"PageSize", "x"} << Preset::NotLoaded << "Wide" << QStringList();
 }
 
 void PresetTest::constructedWithOptions()
@@ -273,21 +273,48 @@ void PresetTest::setters_data()
     const auto row = [](const char *name, const std::function<void(Preset &)> &set, Preset::_State state) {
         QTest::newRow(name) << set << state;
     };
-    row("same name", [](Preset &p) { p.setName("Wide labels"); }, Preset::Clean);
-    row("same description", [](Preset &p) { p.setDescription("Four inches"); }, Preset::Clean);
-    row("same index", [](Preset &p) { p.setIndex(-1); }, Preset::Clean);
-    const auto name = [](Preset &p) { p.setName("Other"); QCOMPARE(p.name(), QString("Other")); };
+    row(
+        "same name", [](Preset &p) { p.setName("Wide labels"); }, Preset::Clean);
+    row(
+        "same description", [](Preset &p) { p.setDescription("Four inches"); }, Preset::Clean);
+    row(
+        "same index", [](Preset &p) { p.setIndex(-1); }, Preset::Clean);
+    const auto name = [](Preset &p) {
+        p.setName("Other");
+        QCOMPARE(p.name(), QString("Other"));
+    };
     row("name", name, Preset::Modified);
-    const auto noName = [](Preset &p) { p.setName(""); QCOMPARE(p.name(), QString("Wide")); };
+    const auto noName = [](Preset &p) {
+        p.setName("");
+        QCOMPARE(p.name(), QString("Wide"));
+    };
     row("no name", noName, Preset::Modified);
-    const auto description = [](Preset &p) { p.setDescription("x\ny"); QCOMPARE(p.description(), QString("x\ny")); };
+    const auto description = [](Preset &p) {
+        p.setDescription("x\ny");
+        QCOMPARE(p.description(), QString("x\ny"));
+    };
     row("description", description, Preset::Modified);
-    row("no description", [](Preset &p) { p.setDescription(""); }, Preset::Modified);
-    row("index", [](Preset &p) { p.setIndex(0); QCOMPARE(p.index(), 0); }, Preset::Modified);
+    row(
+        "no description", [](Preset &p) { p.setDescription(""); }, Preset::Modified);
+    row(
+        "index",
+        [](Preset &p) {
+            p.setIndex(0);
+            QCOMPARE(p.index(), 0);
+        },
+        Preset::Modified);
     // The name that is shown is the present one, also where it is the file's.
-    const auto fileName = [](Preset &p) { p.setName(""); p.setState(Preset::Clean); p.setName("Wide"); };
+    const auto fileName = [](Preset &p) {
+        p.setName("");
+        p.setState(Preset::Clean);
+        p.setName("Wide");
+    };
     row("file name", fileName, Preset::Clean);
-    const auto stillNoName = [](Preset &p) { p.setName(""); p.setState(Preset::Clean); p.setName(""); };
+    const auto stillNoName = [](Preset &p) {
+        p.setName("");
+        p.setState(Preset::Clean);
+        p.setName("");
+    };
     row("still no name", stillNoName, Preset::Clean);
 }
 
@@ -538,7 +565,9 @@ void PresetTest::saveWritesReadableScript_data()
     QTest::addColumn<QString>("descriptionRead");
     QTest::addColumn<QStringList>("optionsRead");
     const auto row = [](const char *name, const QString &value, const QStringList &options) {
-        QTest::newRow(name) << "Name" << "Text" << value << "Name" << "Text" << options;
+        QTest::newRow(name) << "Name"
+                            << "Text" << value << "Name"
+                            << "Text" << options;
     };
     row("usual", "^XA", {"JobStart", "^XA"});
     row("true", "TRUE", {"JobStart", "True"});
@@ -549,9 +578,21 @@ void PresetTest::saveWritesReadableScript_data()
     row("backslash", "C:\\dir", {"JobStart", "C:\\\\dir"});
     row("blank", "a b", {"JobStart", "'a"});
     row("beyond ASCII", QString::fromUtf8("aä"), {"JobStart", "a"});
-    QTest::newRow("file name") << "Wide" << "" << "1" << "Wide" << "" << QStringList{"JobStart", "1"};
-    QTest::newRow("lines") << "Name" << "one\ntwo" << "1" << "Name" << "one" << QStringList{"JobStart", "1"};
-    QTest::newRow("percent") << "100 %1" << "%2%L1" << "%1" << "100 %1" << "%2%L1" << QStringList{"JobStart", "%1"};
+    QTest::newRow("file name") << "Wide"
+                               << ""
+                               << "1"
+                               << "Wide"
+                               << "" << QStringList{"JobStart", "1"};
+    QTest::newRow("lines") << "Name"
+                           << "one\ntwo"
+                           << "1"
+                           << "Name"
+                           << "one" << QStringList{"JobStart", "1"};
+    QTest::newRow("percent") << "100 %1"
+                             << "%2%L1"
+                             << "%1"
+                             << "100 %1"
+                             << "%2%L1" << QStringList{"JobStart", "%1"};
 }
 
 void PresetTest::saveWritesReadableScript()

@@ -260,11 +260,16 @@ void PresetsTest::linkNamesCurrent_data()
     QTest::addColumn<QString>("target");
     QTest::addColumn<QString>("current");
     QTest::newRow("path") << script("LP1", "b") << "b";
-    QTest::newRow("relative") << "b.sh" << "b";
-    QTest::newRow("relative path") << "../LP1/b.sh" << "b";
-    QTest::newRow("other folder") << "/nowhere/b.sh" << "b";
-    QTest::newRow("suffix twice") << "/nowhere/b.sh.sh" << "b";
-    QTest::newRow("no suffix") << "/nowhere/b" << "b";
+    QTest::newRow("relative") << "b.sh"
+                              << "b";
+    QTest::newRow("relative path") << "../LP1/b.sh"
+                                   << "b";
+    QTest::newRow("other folder") << "/nowhere/b.sh"
+                                  << "b";
+    QTest::newRow("suffix twice") << "/nowhere/b.sh.sh"
+                                  << "b";
+    QTest::newRow("no suffix") << "/nowhere/b"
+                               << "b";
     QTest::newRow("missing script") << script("LP1", "c") << "(none)";
     QTest::newRow("hidden preset") << script("LP1", "_current") << "(none)";
     QTest::newRow("no file name") << script("LP1", "") << "(none)";
@@ -339,16 +344,25 @@ void PresetsTest::findPreset_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("file");
-    QTest::newRow("empty") << "" << "(none)";
-    QTest::newRow("name") << "Second" << "two";
-    QTest::newRow("file name") << "two" << "two";
-    QTest::newRow("name as the file") << "plain" << "plain";
-    QTest::newRow("deleted") << "Gone" << "gone";
+    QTest::newRow("empty") << ""
+                           << "(none)";
+    QTest::newRow("name") << "Second"
+                          << "two";
+    QTest::newRow("file name") << "two"
+                               << "two";
+    QTest::newRow("name as the file") << "plain"
+                                      << "plain";
+    QTest::newRow("deleted") << "Gone"
+                             << "gone";
     // The first that fits in either way, not the first whose name fits.
-    QTest::newRow("file of one, name of a later") << "one" << "one";
-    QTest::newRow("name of one, file of a later") << "two again" << "one more";
-    QTest::newRow("case") << "second" << "(none)";
-    QTest::newRow("part") << "Seco" << "(none)";
+    QTest::newRow("file of one, name of a later") << "one"
+                                                  << "one";
+    QTest::newRow("name of one, file of a later") << "two again"
+                                                  << "one more";
+    QTest::newRow("case") << "second"
+                          << "(none)";
+    QTest::newRow("part") << "Seco"
+                          << "(none)";
 }
 
 void PresetsTest::findPreset()
@@ -370,12 +384,18 @@ void PresetsTest::findPresetByFileName_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("name");
-    QTest::newRow("empty") << "" << "(none)";
-    QTest::newRow("file name") << "two" << "Second";
-    QTest::newRow("first of two") << "one" << "First";
-    QTest::newRow("deleted") << "gone" << "Gone";
-    QTest::newRow("name") << "Second" << "(none)";
-    QTest::newRow("case") << "Two" << "(none)";
+    QTest::newRow("empty") << ""
+                           << "(none)";
+    QTest::newRow("file name") << "two"
+                               << "Second";
+    QTest::newRow("first of two") << "one"
+                                  << "First";
+    QTest::newRow("deleted") << "gone"
+                             << "Gone";
+    QTest::newRow("name") << "Second"
+                          << "(none)";
+    QTest::newRow("case") << "Two"
+                          << "(none)";
 }
 
 void PresetsTest::findPresetByFileName()

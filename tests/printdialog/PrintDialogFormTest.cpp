@@ -171,12 +171,18 @@ void PrintDialogFormTest::layoutsAreNested_data()
     QTest::addColumn<QString>("layoutName");
     QTest::addColumn<QString>("widgetName");
 
-    QTest::newRow("8") << "gridLayout_8" << "layoutWidget";
-    QTest::newRow("7") << "gridLayout_7" << "frame_0";
-    QTest::newRow("4") << "gridLayout_4" << "frame_1";
-    QTest::newRow("6") << "gridLayout_6" << "frame_2";
-    QTest::newRow("5") << "gridLayout_5" << "frame_3";
-    QTest::newRow("2") << "gridLayout_2" << "page_Simple";
+    QTest::newRow("8") << "gridLayout_8"
+                       << "layoutWidget";
+    QTest::newRow("7") << "gridLayout_7"
+                       << "frame_0";
+    QTest::newRow("4") << "gridLayout_4"
+                       << "frame_1";
+    QTest::newRow("6") << "gridLayout_6"
+                       << "frame_2";
+    QTest::newRow("5") << "gridLayout_5"
+                       << "frame_3";
+    QTest::newRow("2") << "gridLayout_2"
+                       << "page_Simple";
 }
 
 void PrintDialogFormTest::layoutsAreNested()
@@ -225,7 +231,7 @@ void PrintDialogFormTest::widgetsAreInTheirCells()
 
 void PrintDialogFormTest::nothingElseIsThere()
 {
-    QStringList expected {"stackedWidget", "page_SelectPrinter", "layoutWidget", "page_Simple"};
+    QStringList expected{"stackedWidget", "page_SelectPrinter", "layoutWidget", "page_Simple"};
     for (const Cell &cell : cells) {
         expected << cell.name;
     }

@@ -88,7 +88,7 @@ QString schedulerStatus(const QString &queue)
         ippDelete(response);
         return cupsLastErrorString();
     }
-    static const QMap<int, QString> words {
+    static const QMap<int, QString> words{
         {IPP_PSTATE_IDLE, "Idle"}, {IPP_PSTATE_PROCESSING, "Printing"}, {IPP_PSTATE_STOPPED, "Stopped"}};
     QStringList list;
     for (int i = 0; i < ippGetCount(reasons); ++i) {
@@ -138,7 +138,11 @@ QList<Question> clickOk(PrintDialog &dialog, QMessageBox::StandardButton answer 
 class Clicker : public QObject
 {
 public:
-    Clicker(QDialog &watched, const QStringList &names) : buttons(names) { watched.installEventFilter(this); }
+    Clicker(QDialog &watched, const QStringList &names)
+        : buttons(names)
+    {
+        watched.installEventFilter(this);
+    }
 
     bool eventFilter(QObject *dialog, QEvent *event) override
     {
@@ -319,9 +323,9 @@ void PrintDialogTest::addSlowQueue(const QString &name, const QString &reason)
 
 void PrintDialogTest::initTestCase()
 {
-    const QString vantry
-        = scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
-                              {{"*NickName: \"Sample Label label 203dpi\"", "*NickName: \"Quillon Vantry\""}});
+    const QString vantry =
+        scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
+                            {{"*NickName: \"Sample Label label 203dpi\"", "*NickName: \"Quillon Vantry\""}});
     scheduler.addQueue("aisle", PrivateScheduler::samplePpd("label-203"), "Aisle Printer", "Hall 1");
     scheduler.addQueue("bare");
     scheduler.addQueue("kitchen", PrivateScheduler::samplePpd("label-300"), "Kitchen Labels", "Küche, Süd");
@@ -490,11 +494,13 @@ void PrintDialogTest::shortFormAsksTheHostsQuestion()
 void PrintDialogTest::printersAreListed()
 {
     // By description, in the order of the destinations. Descriptions are read byte by byte.
-    const QMap<QString, QString> descriptions {
-        {"aisle", "Aisle Printer"}, {"kitchen", "Kitchen Labels"}, {"markup", "Markup"}, {"mimic", "aisle"},
-        {"nameless", ""}, {"office", QString::fromLatin1("B\xc3\xbcro")}, {"stopped", "Stopped one"},
-        {"twin1", "Twin"}, {"twin1/small", "Twin"}, {"twin2", "Twin"}, {"vantry", "Vantry One"},
-        {"yard", "AISLE"}};
+    const QMap<QString, QString> descriptions{
+        {"aisle", "Aisle Printer"}, {"kitchen", "Kitchen Labels"},
+        {"markup", "Markup"},       {"mimic", "aisle"},
+        {"nameless", ""},           {"office", QString::fromLatin1("B\xc3\xbcro")},
+        {"stopped", "Stopped one"}, {"twin1", "Twin"},
+        {"twin1/small", "Twin"},    {"twin2", "Twin"},
+        {"vantry", "Vantry One"},   {"yard", "AISLE"}};
     QStringList expected;
     for (const QString &name : destinations()) {
         expected << descriptions.value(name, name);
@@ -531,13 +537,24 @@ void PrintDialogTest::printerIsDescribed_data()
     QTest::addColumn<QString>("location");
 
     const QString label = "Sample Label label 203dpi";
-    QTest::newRow("idle") << "mimic" << label << "Idle" << "Hall 2";
-    QTest::newRow("without location") << "bare" << label << "Idle" << "";
-    QTest::newRow("location outside ASCII") << "kitchen" << "Sample Label label 300x305dpi" << "Idle" << "Küche, Süd";
-    QTest::newRow("printing") << "busy" << label << "Printing" << "";
-    QTest::newRow("printing with a reason") << "hungry" << label << "Printing: media-empty-warning" << "";
-    QTest::newRow("stopped") << "stopped" << label << "Stopped: paused" << "";
-    QTest::newRow("model") << "vantry" << "Quillon Vantry" << "Idle" << "";
+    QTest::newRow("idle") << "mimic" << label << "Idle"
+                          << "Hall 2";
+    QTest::newRow("without location") << "bare" << label << "Idle"
+                                      << "";
+    QTest::newRow("location outside ASCII") << "kitchen"
+                                            << "Sample Label label 300x305dpi"
+                                            << "Idle"
+                                            << "Küche, Süd";
+    QTest::newRow("printing") << "busy" << label << "Printing"
+                              << "";
+    QTest::newRow("printing with a reason") << "hungry" << label << "Printing: media-empty-warning"
+                                            << "";
+    QTest::newRow("stopped") << "stopped" << label << "Stopped: paused"
+                             << "";
+    QTest::newRow("model") << "vantry"
+                           << "Quillon Vantry"
+                           << "Idle"
+                           << "";
 }
 
 void PrintDialogTest::printerIsDescribed()
@@ -576,20 +593,48 @@ void PrintDialogTest::stateIsPutIntoWords_data()
     QTest::addColumn<QString>("reasons");
     QTest::addColumn<QString>("status");
 
-    QTest::newRow("idle") << "3" << "none" << "Idle";
-    QTest::newRow("printing") << "4" << "none" << "Printing";
-    QTest::newRow("stopped") << "5" << "none" << "Stopped";
-    QTest::newRow("no reasons") << "3" << "" << "Idle";
-    QTest::newRow("reason") << "5" << "media-empty-error" << "Stopped: media-empty-error";
-    QTest::newRow("reasons") << "5" << "media-empty-error,paused" << "Stopped: media-empty-error,paused";
-    QTest::newRow("reason of an idle one") << "3" << "offline-report" << "Idle: offline-report";
-    QTest::newRow("reason of none") << "3" << "nonesuch" << "Idle: nonesuch";
-    QTest::newRow("below") << "2" << "none" << "Invalid";
-    QTest::newRow("beyond") << "6" << "none" << "Invalid";
-    QTest::newRow("beyond with a reason") << "6" << "paused" << "Invalid: paused";
-    QTest::newRow("missing") << "" << "none" << "Invalid";
-    QTest::newRow("no number") << "idle" << "none" << "Invalid";
-    QTest::newRow("no decimal number") << "0x3" << "none" << "Invalid";
+    QTest::newRow("idle") << "3"
+                          << "none"
+                          << "Idle";
+    QTest::newRow("printing") << "4"
+                              << "none"
+                              << "Printing";
+    QTest::newRow("stopped") << "5"
+                             << "none"
+                             << "Stopped";
+    QTest::newRow("no reasons") << "3"
+                                << ""
+                                << "Idle";
+    QTest::newRow("reason") << "5"
+                            << "media-empty-error"
+                            << "Stopped: media-empty-error";
+    QTest::newRow("reasons") << "5"
+                             << "media-empty-error,paused"
+                             << "Stopped: media-empty-error,paused";
+    QTest::newRow("reason of an idle one") << "3"
+                                           << "offline-report"
+                                           << "Idle: offline-report";
+    QTest::newRow("reason of none") << "3"
+                                    << "nonesuch"
+                                    << "Idle: nonesuch";
+    QTest::newRow("below") << "2"
+                           << "none"
+                           << "Invalid";
+    QTest::newRow("beyond") << "6"
+                            << "none"
+                            << "Invalid";
+    QTest::newRow("beyond with a reason") << "6"
+                                          << "paused"
+                                          << "Invalid: paused";
+    QTest::newRow("missing") << ""
+                             << "none"
+                             << "Invalid";
+    QTest::newRow("no number") << "idle"
+                               << "none"
+                               << "Invalid";
+    QTest::newRow("no decimal number") << "0x3"
+                                       << "none"
+                                       << "Invalid";
 }
 
 void PrintDialogTest::stateIsPutIntoWords()
@@ -868,17 +913,37 @@ void PrintDialogTest::chosenQueueGetsWhatIsPrinted_data()
     QTest::addColumn<QString>("chosen");
     QTest::addColumn<QString>("queue");
 
-    QTest::newRow("unknown to Qt by its description") << "aisle" << "kitchen" << "kitchen";
-    QTest::newRow("described by its own name") << "aisle" << "bare" << "bare";
-    QTest::newRow("described by the name of the one before") << "aisle" << "mimic" << "mimic";
-    QTest::newRow("described by the name of a third one") << "kitchen" << "mimic" << "mimic";
+    QTest::newRow("unknown to Qt by its description") << "aisle"
+                                                      << "kitchen"
+                                                      << "kitchen";
+    QTest::newRow("described by its own name") << "aisle"
+                                               << "bare"
+                                               << "bare";
+    QTest::newRow("described by the name of the one before") << "aisle"
+                                                             << "mimic"
+                                                             << "mimic";
+    QTest::newRow("described by the name of a third one") << "kitchen"
+                                                          << "mimic"
+                                                          << "mimic";
     // To the scheduler names in upper and lower case are the same.
-    QTest::newRow("described by the name of a third one in capitals") << "kitchen" << "yard" << "yard";
-    QTest::newRow("not described") << "aisle" << "nameless" << "nameless";
-    QTest::newRow("described in umlauts") << "aisle" << "office" << "office";
-    QTest::newRow("first of the same description") << "aisle" << "twin1" << "twin1";
-    QTest::newRow("second of the same description") << "aisle" << "twin2" << "twin2";
-    QTest::newRow("instance") << "aisle" << "twin1/small" << "twin1";
+    QTest::newRow("described by the name of a third one in capitals") << "kitchen"
+                                                                      << "yard"
+                                                                      << "yard";
+    QTest::newRow("not described") << "aisle"
+                                   << "nameless"
+                                   << "nameless";
+    QTest::newRow("described in umlauts") << "aisle"
+                                          << "office"
+                                          << "office";
+    QTest::newRow("first of the same description") << "aisle"
+                                                   << "twin1"
+                                                   << "twin1";
+    QTest::newRow("second of the same description") << "aisle"
+                                                    << "twin2"
+                                                    << "twin2";
+    QTest::newRow("instance") << "aisle"
+                              << "twin1/small"
+                              << "twin1";
 }
 
 void PrintDialogTest::chosenQueueGetsWhatIsPrinted()
@@ -948,13 +1013,13 @@ void PrintDialogTest::exec2RunsThePropertiesDialog_data()
     QTest::addColumn<int>("result");
     QTest::addColumn<int>("runs");
 
-    QTest::newRow("ok") << true << QStringList {"yesButton_2"} << 1 << 0;
-    QTest::newRow("cancel") << true << QStringList {"noButton_2"} << 0 << 0;
-    QTest::newRow("properties, ok") << true << QStringList {"propertiesButton_2", "yesButton_2"} << 1 << 1;
+    QTest::newRow("ok") << true << QStringList{"yesButton_2"} << 1 << 0;
+    QTest::newRow("cancel") << true << QStringList{"noButton_2"} << 0 << 0;
+    QTest::newRow("properties, ok") << true << QStringList{"propertiesButton_2", "yesButton_2"} << 1 << 1;
     QTest::newRow("properties twice, cancel")
-        << true << QStringList {"propertiesButton_2", "propertiesButton_2", "noButton_2"} << 0 << 2;
-    QTest::newRow("yes") << false << QStringList {"yesButton"} << 1 << 0;
-    QTest::newRow("properties, no") << false << QStringList {"propertiesButton", "noButton"} << 0 << 1;
+        << true << QStringList{"propertiesButton_2", "propertiesButton_2", "noButton_2"} << 0 << 2;
+    QTest::newRow("yes") << false << QStringList{"yesButton"} << 1 << 0;
+    QTest::newRow("properties, no") << false << QStringList{"propertiesButton", "noButton"} << 0 << 1;
 }
 
 void PrintDialogTest::exec2RunsThePropertiesDialog()
@@ -1036,8 +1101,8 @@ void PrintDialogTest::opensWithoutPrinters()
 {
     QFETCH(QString, function);
 
-    const TestMain::ChildResult result
-        = TestMain::runChild(qPrintable(function), {}, {{"CUPS_SERVER", scheduler.dir() + "/nowhere"}});
+    const TestMain::ChildResult result =
+        TestMain::runChild(qPrintable(function), {}, {{"CUPS_SERVER", scheduler.dir() + "/nowhere"}});
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.output, QByteArray("entries 0\n"
                                        "texts Ready Vantry Here\n"

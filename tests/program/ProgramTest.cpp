@@ -69,10 +69,11 @@ Result ProgramTest::press(const QStringList &arguments, const QString &key, cons
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove("QT_QPA_PLATFORM");
     process.setProcessEnvironment(environment);
-    const QString script = QStringLiteral("\"$@\" & program=$!\n"
-                                          "window=$(xdotool search --sync --onlyvisible --name \"^$TITLE\\$\") || exit 99\n"
-                                          "until xdotool windowfocus --sync $window key $KEY; do sleep 0.1; done\n"
-                                          "wait $program");
+    const QString script =
+        QStringLiteral("\"$@\" & program=$!\n"
+                       "window=$(xdotool search --sync --onlyvisible --name \"^$TITLE\\$\") || exit 99\n"
+                       "until xdotool windowfocus --sync $window key $KEY; do sleep 0.1; done\n"
+                       "wait $program");
     environment.insert("TITLE", title);
     environment.insert("KEY", key);
     process.setProcessEnvironment(environment);
@@ -104,8 +105,8 @@ void ProgramTest::withoutWindow_data()
         << QStringList{"--printer", "The first printer"} << 2 << QString() << noPrinter.arg("The first printer");
     QTest::newRow("name missing") << QStringList{"-p"} << 2 << QString() << "label-printer-properties: ";
     QTest::newRow("unknown option") << QStringList{"--wrong"} << 2 << QString() << "label-printer-properties: ";
-    QTest::newRow("unexpected argument")
-        << QStringList{"First"} << 2 << QString() << "label-printer-properties: unexpected argument \"First\"\n";
+    QTest::newRow("unexpected argument") << QStringList{"First"} << 2 << QString()
+                                         << "label-printer-properties: unexpected argument \"First\"\n";
 }
 
 void ProgramTest::withoutWindow()
@@ -135,11 +136,16 @@ void ProgramTest::opensTheDialog_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("queue");
     QTest::addColumn<int>("exitStatus");
-    QTest::newRow("default, OK") << QStringList() << "Return" << "Second" << 0;
-    QTest::newRow("default, cancelled") << QStringList() << "Escape" << "Second" << 1;
-    QTest::newRow("named, OK") << QStringList{"-p", "First"} << "Return" << "First" << 0;
-    QTest::newRow("named, cancelled") << QStringList{"--printer=First"} << "Escape" << "First" << 1;
-    QTest::newRow("instance, cancelled") << QStringList{"-p", "First/wide"} << "Escape" << "First/wide" << 1;
+    QTest::newRow("default, OK") << QStringList() << "Return"
+                                 << "Second" << 0;
+    QTest::newRow("default, cancelled") << QStringList() << "Escape"
+                                        << "Second" << 1;
+    QTest::newRow("named, OK") << QStringList{"-p", "First"} << "Return"
+                               << "First" << 0;
+    QTest::newRow("named, cancelled") << QStringList{"--printer=First"} << "Escape"
+                                      << "First" << 1;
+    QTest::newRow("instance, cancelled") << QStringList{"-p", "First/wide"} << "Escape"
+                                         << "First/wide" << 1;
 }
 
 void ProgramTest::opensTheDialog()

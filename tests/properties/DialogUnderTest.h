@@ -105,7 +105,7 @@ struct DialogUnderTest
     /** Whether there are unsaved changes. */
     bool isChanged() const { return button("applyButton")->isEnabled(); }
 
-    QPrinter printer { QPrinter::ScreenResolution };
+    QPrinter printer{QPrinter::ScreenResolution};
     CupsSupport cups;
     std::unique_ptr<PrintPropertiesDialog> dialog;
 };

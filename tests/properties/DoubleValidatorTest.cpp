@@ -174,16 +174,26 @@ void DoubleValidatorTest::typing_data()
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("a number in range") << 0.2 << 1200.0 << "4.25" << "4.25";
-    QTest::newRow("the key that leads out of range") << 0.2 << 1200.0 << "1201" << "120";
-    QTest::newRow("the third decimal") << 0.2 << 1200.0 << "1.234" << "1.23";
-    QTest::newRow("below the bottom") << 0.2 << 1200.0 << "01" << "1";
-    QTest::newRow("from the point on") << 0.2 << 1200.0 << ".5" << ".5";
-    QTest::newRow("the second point") << 0.2 << 1200.0 << "1.2.3" << "1.23";
-    QTest::newRow("the decimal comma") << 0.2 << 1200.0 << "1,5" << "15";
-    QTest::newRow("the exponent") << 0.2 << 1200.0 << "1e2" << "12";
-    QTest::newRow("a minus above zero") << 0.0 << 1200.0 << "-1" << "1";
-    QTest::newRow("a minus below zero") << -1.0 << 1.0 << "-1" << "-1";
+    QTest::newRow("a number in range") << 0.2 << 1200.0 << "4.25"
+                                       << "4.25";
+    QTest::newRow("the key that leads out of range") << 0.2 << 1200.0 << "1201"
+                                                     << "120";
+    QTest::newRow("the third decimal") << 0.2 << 1200.0 << "1.234"
+                                       << "1.23";
+    QTest::newRow("below the bottom") << 0.2 << 1200.0 << "01"
+                                      << "1";
+    QTest::newRow("from the point on") << 0.2 << 1200.0 << ".5"
+                                       << ".5";
+    QTest::newRow("the second point") << 0.2 << 1200.0 << "1.2.3"
+                                      << "1.23";
+    QTest::newRow("the decimal comma") << 0.2 << 1200.0 << "1,5"
+                                       << "15";
+    QTest::newRow("the exponent") << 0.2 << 1200.0 << "1e2"
+                                  << "12";
+    QTest::newRow("a minus above zero") << 0.0 << 1200.0 << "-1"
+                                        << "1";
+    QTest::newRow("a minus below zero") << -1.0 << 1.0 << "-1"
+                                        << "-1";
 }
 
 void DoubleValidatorTest::typing()

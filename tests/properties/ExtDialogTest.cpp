@@ -142,8 +142,7 @@ void ExtDialogTest::windowHasATitleBarOnly()
     QWidget parent;
     const ExtDialog form(&parent, cups.get());
     QCOMPARE(form.parentWidget(), &parent);
-    QCOMPARE(form.windowFlags(),
-             Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
+    QCOMPARE(form.windowFlags(), Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
     QCOMPARE(form.windowTitle(), QString("Select Extended Print Offset"));
     QCOMPARE(form.objectName(), QString("ExtDialog"));
     QCOMPARE(form.minimumSize(), QSize(280, 90));
@@ -157,9 +156,12 @@ void ExtDialogTest::widgetsAreInPlace_data()
     QTest::addColumn<QString>("type");
     QTest::addColumn<QRect>("geometry");
 
-    QTest::newRow("buttons") << "buttonBox" << "QDialogButtonBox" << QRect(100, 50, 171, 31);
-    QTest::newRow("list") << "offset" << "QComboBox" << QRect(100, 10, 171, 31);
-    QTest::newRow("label") << "offsetLabel" << "QLabel" << QRect(10, 10, 91, 31);
+    QTest::newRow("buttons") << "buttonBox"
+                             << "QDialogButtonBox" << QRect(100, 50, 171, 31);
+    QTest::newRow("list") << "offset"
+                          << "QComboBox" << QRect(100, 10, 171, 31);
+    QTest::newRow("label") << "offsetLabel"
+                           << "QLabel" << QRect(10, 10, 91, 31);
 }
 
 void ExtDialogTest::widgetsAreInPlace()
@@ -218,17 +220,17 @@ void ExtDialogTest::storedOffsetIsChosen_data()
     QTest::addColumn<int>("offset");
     QTest::addColumn<int>("index"); // -1: nothing
 
-    const QMap<int, int> smallSteps {{-6, 0}, {-4, 1}, {-2, 2}, {0, 3}, {2, 4}, {4, 5}, {6, 6}, // the steps
-                                     {-7, 0}, {-5, 1}, {-3, 2}, {-1, 3}, {1, 3}, {3, 4}, {5, 5}, {7, 6}, // between
-                                     {-8, -1}, {8, -1}, {100, -1}, {-100, -1}}; // beyond
-    const QMap<int, int> largeSteps {{-9, 0}, {-6, 1}, {-3, 2}, {0, 3}, {3, 4}, {6, 5}, {9, 6},
-                                     {-11, 0}, {-8, 1}, {-7, 1}, {-5, 2}, {-4, 2}, {-2, 3}, {-1, 3}, {1, 3}, {2, 3},
-                                     {4, 4}, {5, 4}, {7, 5}, {8, 5}, {10, 6}, {11, 6},
-                                     {-12, -1}, {12, -1}, {100, -1}, {-100, -1}};
+    const QMap<int, int> smallSteps{{-6, 0},  {-4, 1}, {-2, 2},   {0, 3},    {2, 4}, {4, 5}, {6, 6}, // the steps
+                                    {-7, 0},  {-5, 1}, {-3, 2},   {-1, 3},   {1, 3}, {3, 4}, {5, 5}, {7, 6}, // between
+                                    {-8, -1}, {8, -1}, {100, -1}, {-100, -1}}; // beyond
+    const QMap<int, int> largeSteps{{-9, 0},  {-6, 1},   {-3, 2},  {0, 3},    {3, 4},    {6, 5},  {9, 6},
+                                    {-11, 0}, {-8, 1},   {-7, 1},  {-5, 2},   {-4, 2},   {-2, 3}, {-1, 3},
+                                    {1, 3},   {2, 3},    {4, 4},   {5, 4},    {7, 5},    {8, 5},  {10, 6},
+                                    {11, 6},  {-12, -1}, {12, -1}, {100, -1}, {-100, -1}};
     // The vertical resolution decides, and only 203 exactly has the small steps.
-    const QMap<QString, QMap<int, int>> queues {{"dpi203", smallSteps}, {"dpi203v", smallSteps},
-                                                {"dpi203h", largeSteps}, {"dpi203half", largeSteps},
-                                                {"dpi300", largeSteps}, {"none", largeSteps}};
+    const QMap<QString, QMap<int, int>> queues{{"dpi203", smallSteps},  {"dpi203v", smallSteps},
+                                               {"dpi203h", largeSteps}, {"dpi203half", largeSteps},
+                                               {"dpi300", largeSteps},  {"none", largeSteps}};
     for (auto queue = queues.begin(); queue != queues.end(); ++queue) {
         for (auto step = queue->begin(); step != queue->end(); ++step) {
             QTest::addRow("%s %d", qPrintable(queue.key()), step.key()) << queue.key() << step.key() << step.value();

@@ -99,7 +99,10 @@ const WidgetRow widgetRows[] = {
     {"darknessValue", "QLabel", "gridLayout_5", {0, 1}, "0"},
     {"copyrightLabel", "QLabel", "gridLayout_4", {6, 0, 1, 3}, copyright},
 
-    {"label", "QLabel", "gridLayout_12", {0, 0, 1, 4},
+    {"label",
+     "QLabel",
+     "gridLayout_12",
+     {0, 0, 1, 4},
      "Presets allow you to save your print settings with a name so\n"
      "that you can quickly switch between different configurations."},
     {"presetListLabel", "QLabel", "gridLayout_12", {1, 0, 1, 2}, "Preset List:"},
@@ -169,7 +172,11 @@ struct SpacerCell
     Qt::Orientations expanding;
 };
 
-enum Margins { DefaultMargins, NoTopAndBottom, Nested };
+enum Margins {
+    DefaultMargins,
+    NoTopAndBottom,
+    Nested
+};
 
 struct LayoutRow
 {
@@ -194,13 +201,22 @@ const LayoutRow layoutRows[] = {
     {"gridLayout_12", "presetsTab", DefaultMargins, 10},
     {"gridLayout_13", "stockTab", DefaultMargins, 3},
     {"gridLayout_15", "mediaSettingsGroupBox", NoTopAndBottom, 10, {{1, 4, Qt::Horizontal}, {2, 4, Qt::Horizontal}}},
-    {"gridLayout_14", "mediaHandlingGroupBox", NoTopAndBottom, 11,
+    {"gridLayout_14",
+     "mediaHandlingGroupBox",
+     NoTopAndBottom,
+     11,
      {{1, 3, Qt::Horizontal}, {2, 3, Qt::Horizontal}, {3, 3, Qt::Horizontal}}},
-    {"gridLayout_16", "positionGroupBox", NoTopAndBottom, 6,
+    {"gridLayout_16",
+     "positionGroupBox",
+     NoTopAndBottom,
+     6,
      {{0, 3, Qt::Horizontal}, {1, 3, Qt::Horizontal}, {2, 1, Qt::Vertical}}},
     {"gridLayout_17", "advancedTab", DefaultMargins, 2},
     {"gridLayout_19", "userCommandsGroup", DefaultMargins, 5},
-    {"gridLayout_18", "positionGroup", DefaultMargins, 6,
+    {"gridLayout_18",
+     "positionGroup",
+     DefaultMargins,
+     6,
      {{0, 3, Qt::Horizontal}, {1, 3, Qt::Horizontal}, {2, 1, Qt::Vertical}}},
     {"gridLayout_2", "aboutTab", DefaultMargins, 0},
     {"gridLayout", nullptr, Nested, 3, {{0, 0, Qt::Vertical}}},
@@ -219,19 +235,51 @@ const TabRow tabRows[] = {
 
 /** Print method before media type, although it stands below. */
 const char *const tabOrder[] = {
-    "okButton", "cancelButton", "applyButton", "helpButton", "tabs", "portraitRadioButton", "landscapeRadioButton",
-    "portrait180RadioButton", "landscape180RadioButton", "mirroredCheckBox", "inverseCheckBox", "preset0",
-    "manageButton", "speedSlider", "darknessSlider", "presetNewButton", "presetUpdateButton", "presetDeleteButton",
-    "preset1", "nameEdit", "descriptionEdit", "printMethod", "mediaType", "gapSize", "gapOffset", "cut", "feed",
-    "back", "overlap", "stop", "start", "jobStartRadioButton", "labelStartRadioButton", "labelEndRadioButton",
-    "jobEndRadioButton", "commandEdit", "horizontalEdit", "verticalEdit",
+    "okButton",
+    "cancelButton",
+    "applyButton",
+    "helpButton",
+    "tabs",
+    "portraitRadioButton",
+    "landscapeRadioButton",
+    "portrait180RadioButton",
+    "landscape180RadioButton",
+    "mirroredCheckBox",
+    "inverseCheckBox",
+    "preset0",
+    "manageButton",
+    "speedSlider",
+    "darknessSlider",
+    "presetNewButton",
+    "presetUpdateButton",
+    "presetDeleteButton",
+    "preset1",
+    "nameEdit",
+    "descriptionEdit",
+    "printMethod",
+    "mediaType",
+    "gapSize",
+    "gapOffset",
+    "cut",
+    "feed",
+    "back",
+    "overlap",
+    "stop",
+    "start",
+    "jobStartRadioButton",
+    "labelStartRadioButton",
+    "labelEndRadioButton",
+    "jobEndRadioButton",
+    "commandEdit",
+    "horizontalEdit",
+    "verticalEdit",
 };
 
 /** Whether Qt made it, as a part of one of its own widgets. */
 bool isPartOfAWidget(const QObject *object)
 {
     return object->objectName().isEmpty() || object->objectName().startsWith(QLatin1String("qt_"))
-        || qobject_cast<const QTabBar *>(object->parent());
+           || qobject_cast<const QTabBar *>(object->parent());
 }
 
 const char *textProperty(const QWidget *widget)
@@ -643,15 +691,24 @@ void FormTest::buddies_data()
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("field");
     const QMap<QString, QString> fields = {
-        {"widthLabel", "widthEdit"},           {"heightLabel", "heightEdit"},
-        {"presetLabel", "preset0"},            {"presetListLabel", "preset1"},
-        {"nameLabel", "nameEdit"},             {"descriptionLabel", "descriptionEdit"},
-        {"mediaTypeLabel", "mediaType"},       {"gapSizeLabel", "gapSize"},
-        {"gapOffsetLabel", "gapOffset"},       {"printMethodLabel", "printMethod"},
-        {"cutLabel", "cut"},                   {"feedLabel", "feed"},
-        {"backLabel", "back"},                 {"overlapLabel", "overlap"},
-        {"stopLabel", "stop"},                 {"startLabel", "start"},
-        {"horizontalLabel", "horizontalEdit"}, {"verticalLabel", "verticalEdit"},
+        {"widthLabel", "widthEdit"},
+        {"heightLabel", "heightEdit"},
+        {"presetLabel", "preset0"},
+        {"presetListLabel", "preset1"},
+        {"nameLabel", "nameEdit"},
+        {"descriptionLabel", "descriptionEdit"},
+        {"mediaTypeLabel", "mediaType"},
+        {"gapSizeLabel", "gapSize"},
+        {"gapOffsetLabel", "gapOffset"},
+        {"printMethodLabel", "printMethod"},
+        {"cutLabel", "cut"},
+        {"feedLabel", "feed"},
+        {"backLabel", "back"},
+        {"overlapLabel", "overlap"},
+        {"stopLabel", "stop"},
+        {"startLabel", "start"},
+        {"horizontalLabel", "horizontalEdit"},
+        {"verticalLabel", "verticalEdit"},
     };
     for (auto it = fields.begin(); it != fields.end(); ++it)
         QTest::newRow(qPrintable(it.key())) << it.key() << it.value();
@@ -687,14 +744,12 @@ void FormTest::tabulator_data()
     QTest::addColumn<int>("tab");
     QTest::addColumn<QStringList>("names");
 
-    QTest::newRow("presets") << 1
-        << QStringList{"presetNewButton", "presetUpdateButton", "presetDeleteButton", "preset1", "nameEdit",
-                       "descriptionEdit"};
-    QTest::newRow("stock") << 2
-        << QStringList{"printMethod", "mediaType", "gapSize", "gapOffset", "cut", "feed", "back", "overlap", "stop",
-                       "start"};
+    QTest::newRow("presets") << 1 << QStringList{"presetNewButton", "presetUpdateButton", "presetDeleteButton",
+                                                 "preset1",         "nameEdit",           "descriptionEdit"};
+    QTest::newRow("stock") << 2 << QStringList{"printMethod", "mediaType", "gapSize", "gapOffset", "cut",
+                                               "feed",        "back",      "overlap", "stop",      "start"};
     QTest::newRow("advanced") << 3
-        << QStringList{"jobStartRadioButton", "commandEdit", "horizontalEdit", "verticalEdit"};
+                              << QStringList{"jobStartRadioButton", "commandEdit", "horizontalEdit", "verticalEdit"};
     QTest::newRow("about") << 4 << QStringList{};
 }
 

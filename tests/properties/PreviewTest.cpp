@@ -252,7 +252,7 @@ void PreviewTest::effects_data()
         bool topBottom;
     };
     const Flip flips[] = {
-        {3, true, false}, {4, false, true}, {5, false, true}, {6, true, false},
+        {3, true, false}, {4, false, true}, {5, false, true},  {6, true, false},
         {0, false, true}, {7, false, true}, {-1, false, true},
     };
     for (const Flip &flip : flips) {
@@ -306,20 +306,28 @@ void PreviewTest::arrow_data()
 
     // W and H are two less than the widget has.
     QTest::newRow("portrait") << 3 << QSize(100, 100)
-        << QPolygon({{49, 97}, {59, 87}, {54, 87}, {54, 67}, {44, 67}, {44, 87}, {39, 87}, {49, 97}});
+                              << QPolygon(
+                                     {{49, 97}, {59, 87}, {54, 87}, {54, 67}, {44, 67}, {44, 87}, {39, 87}, {49, 97}});
     QTest::newRow("landscape") << 4 << QSize(100, 100)
-        << QPolygon({{0, 49}, {10, 59}, {10, 54}, {30, 54}, {30, 44}, {10, 44}, {10, 39}, {0, 49}});
-    QTest::newRow("reverse landscape") << 5 << QSize(100, 100)
+                               << QPolygon(
+                                      {{0, 49}, {10, 59}, {10, 54}, {30, 54}, {30, 44}, {10, 44}, {10, 39}, {0, 49}});
+    QTest::newRow("reverse landscape")
+        << 5 << QSize(100, 100)
         << QPolygon({{97, 49}, {87, 59}, {87, 54}, {67, 54}, {67, 44}, {87, 44}, {87, 39}, {97, 49}});
-    QTest::newRow("reverse portrait") << 6 << QSize(100, 100)
+    QTest::newRow("reverse portrait")
+        << 6 << QSize(100, 100)
         << QPolygon({{49, 0}, {59, 10}, {54, 10}, {54, 30}, {44, 30}, {44, 10}, {39, 10}, {49, 0}});
-    QTest::newRow("portrait, oblong") << 3 << QSize(123, 81)
+    QTest::newRow("portrait, oblong")
+        << 3 << QSize(123, 81)
         << QPolygon({{60, 78}, {70, 68}, {65, 68}, {65, 48}, {55, 48}, {55, 68}, {50, 68}, {60, 78}});
-    QTest::newRow("landscape, oblong") << 4 << QSize(123, 81)
+    QTest::newRow("landscape, oblong")
+        << 4 << QSize(123, 81)
         << QPolygon({{0, 39}, {10, 49}, {10, 44}, {30, 44}, {30, 34}, {10, 34}, {10, 29}, {0, 39}});
-    QTest::newRow("reverse landscape, oblong") << 5 << QSize(123, 81)
+    QTest::newRow("reverse landscape, oblong")
+        << 5 << QSize(123, 81)
         << QPolygon({{120, 39}, {110, 49}, {110, 44}, {90, 44}, {90, 34}, {110, 34}, {110, 29}, {120, 39}});
-    QTest::newRow("reverse portrait, oblong") << 6 << QSize(123, 81)
+    QTest::newRow("reverse portrait, oblong")
+        << 6 << QSize(123, 81)
         << QPolygon({{60, 0}, {70, 10}, {65, 10}, {65, 30}, {55, 30}, {55, 10}, {50, 10}, {60, 0}});
 }
 

@@ -249,11 +249,27 @@ void PropertiesDialogFieldsTest::slotsAreDeclared()
 void PropertiesDialogFieldsTest::everyFieldMarksChanges_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name :
-         {"stockGroupBox", "widthEdit", "heightEdit", "portraitRadioButton", "portrait180RadioButton",
-          "landscape180RadioButton", "mirroredCheckBox", "inverseCheckBox", "speedSlider", "darknessSlider",
-          "mediaType", "gapSize", "gapOffset", "cut", "feed", "back", "overlap", "stop", "commandEdit",
-          "horizontalEdit", "verticalEdit"})
+    for (const char *name : {"stockGroupBox",
+                             "widthEdit",
+                             "heightEdit",
+                             "portraitRadioButton",
+                             "portrait180RadioButton",
+                             "landscape180RadioButton",
+                             "mirroredCheckBox",
+                             "inverseCheckBox",
+                             "speedSlider",
+                             "darknessSlider",
+                             "mediaType",
+                             "gapSize",
+                             "gapOffset",
+                             "cut",
+                             "feed",
+                             "back",
+                             "overlap",
+                             "stop",
+                             "commandEdit",
+                             "horizontalEdit",
+                             "verticalEdit"})
         QTest::newRow(name) << name;
 }
 
@@ -339,8 +355,14 @@ void PropertiesDialogFieldsTest::mediaTypeFillsFields_data()
     QTest::addColumn<QString>("sizeLabel");
     QTest::addColumn<QString>("offsetLabel");
     for (const char *queue : queues) {
-        QTest::addRow("%s gaps", queue) << queue << 1 << "0.12" << "0.04" << "Gap Size" << "Gap Offset";
-        QTest::addRow("%s marks", queue) << queue << 2 << "1.00" << "-0.10" << "Black Mark Size" << "Black Mark Offset";
+        QTest::addRow("%s gaps", queue) << queue << 1 << "0.12"
+                                        << "0.04"
+                                        << "Gap Size"
+                                        << "Gap Offset";
+        QTest::addRow("%s marks", queue) << queue << 2 << "1.00"
+                                         << "-0.10"
+                                         << "Black Mark Size"
+                                         << "Black Mark Offset";
     }
 }
 
@@ -601,8 +623,10 @@ void PropertiesDialogFieldsTest::sliders_data()
 {
     QTest::addColumn<QString>("slider");
     QTest::addColumn<QString>("label");
-    QTest::newRow("speed") << "speedSlider" << "speedValue";
-    QTest::newRow("darkness") << "darknessSlider" << "darknessValue";
+    QTest::newRow("speed") << "speedSlider"
+                           << "speedValue";
+    QTest::newRow("darkness") << "darknessSlider"
+                              << "darknessValue";
 }
 
 void PropertiesDialogFieldsTest::sliders()
@@ -859,9 +883,10 @@ void PropertiesDialogFieldsTest::languageChange()
     DialogUnderTest t(queue, options);
     t.dialog->show();
     // All labels, line edits and so on; rows that were never shown have no text of interest.
-    const char *const names[] = {"speedValue", "darknessValue", "stopLabel", "aboutVersionLabel", "aboutDateLabel",
-                                 "gapSizeLabel", "gapOffsetLabel", "widthEdit", "heightEdit", "gapSize", "gapOffset",
-                                 "feed", "stop", "horizontalEdit", "verticalEdit", "copyrightLabel"};
+    const char *const names[] = {"speedValue",     "darknessValue",  "stopLabel",      "aboutVersionLabel",
+                                 "aboutDateLabel", "gapSizeLabel",   "gapOffsetLabel", "widthEdit",
+                                 "heightEdit",     "gapSize",        "gapOffset",      "feed",
+                                 "stop",           "horizontalEdit", "verticalEdit",   "copyrightLabel"};
     const bool hasGapRows = !t.widget("gapSizeLabel")->isHidden();
     QStringList before;
     for (const char *name : names)

@@ -142,8 +142,8 @@ struct FamilyOf
 };
 
 const FamilyOf familyQueues[] = {
-    {"LP", 0},        {"LP-KERN", 1},   {"LP-LUMA", 2},   {"LP-ORCA", 3},   {"LP-TIK", 4},    {"LP-ZED", 5},
-    {"ZED-TIK", 4},   {"TIK-LUMA", 2},  {"LUMA-KERN", 1}, {"KERN-ORCA", 3}, {"zedtikluma", 0}, {"xTIKx", 4},
+    {"LP", 0},      {"LP-KERN", 1},  {"LP-LUMA", 2},   {"LP-ORCA", 3},   {"LP-TIK", 4},     {"LP-ZED", 5},
+    {"ZED-TIK", 4}, {"TIK-LUMA", 2}, {"LUMA-KERN", 1}, {"KERN-ORCA", 3}, {"zedtikluma", 0}, {"xTIKx", 4},
 };
 
 struct Limits
@@ -617,13 +617,20 @@ void PropertiesDialogLoadTest::loadsWithoutCups_data()
     QTest::addColumn<QPageLayout::Orientation>("printerOrientation");
     QTest::addColumn<QString>("checkedOrientation");
     QTest::addColumn<QString>("darkness");
-    QTest::newRow("portrait printer") << "LP" << true << QPageLayout::Portrait << "portraitRadioButton" << "7";
-    QTest::newRow("landscape printer") << "LP" << true << QPageLayout::Landscape << "landscapeRadioButton" << "7";
-    QTest::newRow("no printer") << "LP" << false << QPageLayout::Portrait << "landscapeRadioButton" << "7";
-    QTest::newRow("KERN") << "LP-KERN" << true << QPageLayout::Portrait << "portraitRadioButton" << "7";
-    QTest::newRow("ORCA") << "LP-ORCA" << true << QPageLayout::Portrait << "portraitRadioButton" << "8";
-    QTest::newRow("TIK") << "LP-TIK" << true << QPageLayout::Portrait << "portraitRadioButton" << "8";
-    QTest::newRow("ZED") << "LP-ZED" << true << QPageLayout::Portrait << "portraitRadioButton" << "8";
+    QTest::newRow("portrait printer") << "LP" << true << QPageLayout::Portrait << "portraitRadioButton"
+                                      << "7";
+    QTest::newRow("landscape printer") << "LP" << true << QPageLayout::Landscape << "landscapeRadioButton"
+                                       << "7";
+    QTest::newRow("no printer") << "LP" << false << QPageLayout::Portrait << "landscapeRadioButton"
+                                << "7";
+    QTest::newRow("KERN") << "LP-KERN" << true << QPageLayout::Portrait << "portraitRadioButton"
+                          << "7";
+    QTest::newRow("ORCA") << "LP-ORCA" << true << QPageLayout::Portrait << "portraitRadioButton"
+                          << "8";
+    QTest::newRow("TIK") << "LP-TIK" << true << QPageLayout::Portrait << "portraitRadioButton"
+                         << "8";
+    QTest::newRow("ZED") << "LP-ZED" << true << QPageLayout::Portrait << "portraitRadioButton"
+                         << "8";
 }
 
 void PropertiesDialogLoadTest::loadsWithoutCups()
@@ -634,11 +641,16 @@ void PropertiesDialogLoadTest::loadsWithoutCups()
     QFETCH(QString, checkedOrientation);
 
     // All options differ from what stands in for them.
-    DialogUnderTest t(queue, {"MirrorPrint",   "True", "NegativePrint",         "True", "PrintSpeed", "3",
-                              "Darkness",      "13",   "LabelCategory",         "2",    "CutMedia",   "0",
-                              "Feed",          "50",   "Back",                  "7",    "Overlap",    "3",
-                              "Stop",          "1",    "Shift",                 "1",    "OffsetH",    "5",
-                              "OffsetV",       "6",    "orientation-requested", "6",    "JobStart",   "A"});
+    DialogUnderTest t(queue, {"MirrorPrint", "True",       "NegativePrint",
+                              "True",        "PrintSpeed", "3",
+                              "Darkness",    "13",         "LabelCategory",
+                              "2",           "CutMedia",   "0",
+                              "Feed",        "50",         "Back",
+                              "7",           "Overlap",    "3",
+                              "Stop",        "1",          "Shift",
+                              "1",           "OffsetH",    "5",
+                              "OffsetV",     "6",          "orientation-requested",
+                              "6",           "JobStart",   "A"});
     t.dialog->show();
     t.printer.setPageOrientation(printerOrientation);
     t.edit("widthEdit")->setText("7.77");
@@ -796,9 +808,13 @@ void PropertiesDialogLoadTest::fallbacksOfMissingOptions_data()
     QTest::addColumn<QString>("height");
     QTest::addColumn<QString>("darkness");
     for (const char *queue : {"LP-NOPPD", "LP-NOPPD-TIK"})
-        QTest::newRow(queue) << QString(queue) << "" << "" << "7";
+        QTest::newRow(queue) << QString(queue) << ""
+                             << ""
+                             << "7";
     for (const char *queue : {"LP-FEW", "LP-FEW-ZED"})
-        QTest::newRow(queue) << QString(queue) << "4.00" << "2.00" << "10";
+        QTest::newRow(queue) << QString(queue) << "4.00"
+                             << "2.00"
+                             << "10";
 }
 
 void PropertiesDialogLoadTest::fallbacksOfMissingOptions()
@@ -811,11 +827,20 @@ void PropertiesDialogLoadTest::fallbacksOfMissingOptions()
     QTEST(t.shown("darknessSlider"), "darkness");
     QTEST(t.shown("darknessValue"), "darkness");
     const QMap<QString, QString> others = {
-        {"landscapeRadioButton", "True"}, {"mirroredCheckBox", "False"}, {"inverseCheckBox", "False"},
-        {"speedSlider", "2"},             {"speedValue", "2"},           {"mediaType", "0"},
-        {"cut", "2"},                     {"feed", "0.00"},              {"back", "0"},
-        {"overlap", "0"},                 {"stop", "0.00"},              {"commandEdit", ""},
-        {"horizontalEdit", "0"},          {"verticalEdit", "0"},
+        {"landscapeRadioButton", "True"},
+        {"mirroredCheckBox", "False"},
+        {"inverseCheckBox", "False"},
+        {"speedSlider", "2"},
+        {"speedValue", "2"},
+        {"mediaType", "0"},
+        {"cut", "2"},
+        {"feed", "0.00"},
+        {"back", "0"},
+        {"overlap", "0"},
+        {"stop", "0.00"},
+        {"commandEdit", ""},
+        {"horizontalEdit", "0"},
+        {"verticalEdit", "0"},
     };
     for (auto it = others.begin(); it != others.end(); ++it)
         QCOMPARE(it.key() + '=' + t.shown(it.key()), it.key() + '=' + it.value());
@@ -1158,8 +1183,12 @@ void PropertiesDialogLoadTest::entryEditsTheDefaultPrinter_data()
     QTest::addColumn<QString>("serverDefault");
     QTest::addColumn<QString>("userDefault");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("of the server") << "LP-TIK" << "" << "LP-TIK";
-    QTest::newRow("of the user") << "LP-TIK" << "LP-ZED" << "LP-ZED";
+    QTest::newRow("of the server") << "LP-TIK"
+                                   << ""
+                                   << "LP-TIK";
+    QTest::newRow("of the user") << "LP-TIK"
+                                 << "LP-ZED"
+                                 << "LP-ZED";
 }
 
 void PropertiesDialogLoadTest::entryEditsTheDefaultPrinter()
@@ -1246,8 +1275,8 @@ void PropertiesDialogLoadTest::entryWithoutPrinter()
     if (hasScheduler)
         withoutQueues.reset(new PrivateScheduler);
     const QString socket = hasScheduler ? withoutQueues->socket() : QString("/nowhere");
-    const auto result = TestMain::runChild(child.toLatin1().constData(), {"okButton", "cancelButton"},
-                                           {{"CUPS_SERVER", socket}});
+    const auto result =
+        TestMain::runChild(child.toLatin1().constData(), {"okButton", "cancelButton"}, {{"CUPS_SERVER", socket}});
     withoutQueues.reset();
     qputenv("CUPS_SERVER", server);
     cupsSetServer(server.constData());

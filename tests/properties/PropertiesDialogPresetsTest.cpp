@@ -25,10 +25,11 @@ QString scriptPath(const QString &queue, const QString &file)
 }
 
 // A script as a user has it, with the option items and further lines given.
-void writeScript(const QString &file, const QByteArray &items, const QByteArray &header = {}, const QByteArray &end = {},
-                 const QString &queue = QStringLiteral("Q"))
+void writeScript(const QString &file, const QByteArray &items, const QByteArray &header = {},
+                 const QByteArray &end = {}, const QString &queue = QStringLiteral("Q"))
 {
-    writeFile(scriptPath(queue, file), "#!/bin/bash\n" + header + "lpoptions -p" + queue.toLatin1() + items + '\n' + end);
+    writeFile(scriptPath(queue, file),
+              "#!/bin/bash\n" + header + "lpoptions -p" + queue.toLatin1() + items + '\n' + end);
 }
 
 void makeCurrent(const QString &file)
@@ -68,19 +69,38 @@ void rename(OpenDialog &open, const QString &name)
 }
 
 // The options that presets carry, in a process in which no printer of the family with the extended list was seen.
-const QStringList usualKeywords{"Darkness", "Direct", "Feed", "GapSize", "JobEnd", "JobStart", "LabelCategory", "LabelEnd",
-                                "LabelStart", "MarkOffset", "MarkSize", "MirrorPrint", "NegativePrint", "OffsetH", "OffsetV",
-                                "orientation-requested", "PrintSpeed", "Stop", "Start"};
-const QStringList extendedKeywords{"Darkness", "Direct", "Feed", "GapSize", "GapOffset", "JobEnd", "JobStart",
-                                   "LabelCategory", "LabelEnd", "LabelStart", "MarkOffset", "MarkSize", "MirrorPrint",
-                                   "NegativePrint", "OffsetH", "OffsetV", "orientation-requested", "PrintSpeed", "Shift",
+const QStringList usualKeywords{"Darkness",      "Direct",     "Feed",          "GapSize",
+                                "JobEnd",        "JobStart",   "LabelCategory", "LabelEnd",
+                                "LabelStart",    "MarkOffset", "MarkSize",      "MirrorPrint",
+                                "NegativePrint", "OffsetH",    "OffsetV",       "orientation-requested",
+                                "PrintSpeed",    "Stop",       "Start"};
+const QStringList extendedKeywords{"Darkness",
+                                   "Direct",
+                                   "Feed",
+                                   "GapSize",
+                                   "GapOffset",
+                                   "JobEnd",
+                                   "JobStart",
+                                   "LabelCategory",
+                                   "LabelEnd",
+                                   "LabelStart",
+                                   "MarkOffset",
+                                   "MarkSize",
+                                   "MirrorPrint",
+                                   "NegativePrint",
+                                   "OffsetH",
+                                   "OffsetV",
+                                   "orientation-requested",
+                                   "PrintSpeed",
+                                   "Shift",
                                    "Stop"};
 
 // Keywords of the items in a script's lpoptions line.
 QStringList keywordsOf(const QByteArray &script)
 {
     QStringList keywords;
-    const QList<QByteArray> words = script.split('\n').value(script.startsWith("#!/bin/bash\n#name=") ? 2 : 1).split(' ');
+    const QList<QByteArray> words =
+        script.split('\n').value(script.startsWith("#!/bin/bash\n#name=") ? 2 : 1).split(' ');
     for (const QByteArray &word : words) {
         if (word.startsWith("-o") || word.startsWith("-r")) {
             keywords << QString::fromLatin1(word.mid(2, word.indexOf('=') < 0 ? -1 : word.indexOf('=') - 2));
@@ -491,7 +511,8 @@ void PropertiesDialogPresetsTest::descriptionsOfTheBuiltIn()
     open.choose("preset1", 0);
     QCOMPARE(open.plainText("descriptionEdit"), QString("This preset contains this driver's current settings."));
     open.choose("preset1", 1);
-    QCOMPARE(open.plainText("descriptionEdit"), QString("This preset contains this driver's original default settings."));
+    QCOMPARE(open.plainText("descriptionEdit"),
+             QString("This preset contains this driver's original default settings."));
 }
 
 // ----- choosing -----
@@ -507,7 +528,9 @@ void PropertiesDialogPresetsTest::choose()
 {
     QFETCH(QByteArray, list);
     writeScript("a", "");
-    writeScript("b", " -oDarkness=4 -oorientation-requested=6 -oGapSize=2.540 -oJobStart=A\\\\\\\\rB\\\\\\\\r -oMirrorPrint=True");
+    writeScript(
+        "b",
+        " -oDarkness=4 -oorientation-requested=6 -oGapSize=2.540 -oJobStart=A\\\\\\\\rB\\\\\\\\r -oMirrorPrint=True");
     scheduler.setUserOptions("Q", {"PrintSpeed=1"});
     OpenDialog open;
     open.setText("feed", "0.50"); // unsaved edits go
@@ -564,11 +587,13 @@ void PropertiesDialogPresetsTest::chooseByText()
 
 void PropertiesDialogPresetsTest::chooseDefaultSettings()
 {
-    scheduler.setUserOptions("Q", {"Darkness=4", "Direct=True", "Feed=24", "GapSize=2.000", "JobEnd=a", "JobStart=a",
-                                   "LabelCategory=2", "LabelEnd=a", "LabelStart=a", "MarkOffset=1.000", "MarkSize=3.000",
-                                   "MirrorPrint=True", "NegativePrint=True", "OffsetH=8", "OffsetV=8",
-                                   "orientation-requested=6", "PrintSpeed=1", "Stop=0.000", "Start=1.000",
-                                   "GapOffset=1.000", "Shift=1.000", "Back=2", "CutMedia=2"});
+    scheduler.setUserOptions("Q",
+                             {"Darkness=4",         "Direct=True",      "Feed=24",         "GapSize=2.000",
+                              "JobEnd=a",           "JobStart=a",       "LabelCategory=2", "LabelEnd=a",
+                              "LabelStart=a",       "MarkOffset=1.000", "MarkSize=3.000",  "MirrorPrint=True",
+                              "NegativePrint=True", "OffsetH=8",        "OffsetV=8",       "orientation-requested=6",
+                              "PrintSpeed=1",       "Stop=0.000",       "Start=1.000",     "GapOffset=1.000",
+                              "Shift=1.000",        "Back=2",           "CutMedia=2"});
     OpenDialog open;
     QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
     chooseByName(open, "preset0", "<Default Settings>");
@@ -716,7 +741,9 @@ void PropertiesDialogPresetsTest::commandLine_data()
     QTest::addColumn<QByteArray>("end"); // of the script
     QTest::addColumn<QByteArray>("run"); // the command's arguments; null when it is not run
     const QByteArray none;
-    const auto row = [](const char *name, const QByteArray &end, const QByteArray &run) { QTest::newRow(name) << end << run; };
+    const auto row = [](const char *name, const QByteArray &end, const QByteArray &run) {
+        QTest::newRow(name) << end << run;
+    };
     row("usual", "ppdhack 2.00 1.00 Q\n", "2.00 1.00 Q\n");
     row("without a line end", "ppdhack 2.00 1.00 Q", "2.00 1.00 Q\n");
     row("no arguments", "ppdhack\n", "\n");
@@ -828,7 +855,8 @@ void PropertiesDialogPresetsTest::newPreset()
     QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("New Preset"));
     QCOMPARE(open.text("nameEdit"), QString("New Preset"));
     QCOMPARE(open.plainText("descriptionEdit"), QString());
-    for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton", "applyButton"}) {
+    for (const char *name :
+         {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton", "applyButton"}) {
         QVERIFY2(open.isEnabled(name), name);
     }
     QCOMPARE(workingCopy(open.cups).value("Darkness"), QByteArray("4"));
@@ -861,14 +889,22 @@ void PropertiesDialogPresetsTest::newPresetNames_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("name");
     using Present = QList<QStringList>;
-    QTest::newRow("none") << Present{} << "Preset" << "New Preset";
-    QTest::newRow("first") << Present{{"Preset", "New Preset"}} << "Preset2" << "New Preset 2";
-    QTest::newRow("two") << Present{{"Preset", "New Preset"}, {"Preset2", "New Preset 2"}} << "Preset3" << "New Preset 3";
-    QTest::newRow("gap") << Present{{"Preset", "New Preset"}, {"Preset3", "New Preset 3"}} << "Preset2" << "New Preset 2";
-    QTest::newRow("file name taken") << Present{{"Preset", "Mine"}} << "Preset2" << "New Preset 2";
-    QTest::newRow("name taken") << Present{{"mine", "New Preset"}} << "Preset2" << "New Preset 2";
-    QTest::newRow("file name of another is a name") << Present{{"mine", "Preset"}} << "Preset2" << "New Preset 2";
-    QTest::newRow("either taken") << Present{{"Preset", "x"}, {"y", "New Preset 2"}} << "Preset3" << "New Preset 3";
+    QTest::newRow("none") << Present{} << "Preset"
+                          << "New Preset";
+    QTest::newRow("first") << Present{{"Preset", "New Preset"}} << "Preset2"
+                           << "New Preset 2";
+    QTest::newRow("two") << Present{{"Preset", "New Preset"}, {"Preset2", "New Preset 2"}} << "Preset3"
+                         << "New Preset 3";
+    QTest::newRow("gap") << Present{{"Preset", "New Preset"}, {"Preset3", "New Preset 3"}} << "Preset2"
+                         << "New Preset 2";
+    QTest::newRow("file name taken") << Present{{"Preset", "Mine"}} << "Preset2"
+                                     << "New Preset 2";
+    QTest::newRow("name taken") << Present{{"mine", "New Preset"}} << "Preset2"
+                                << "New Preset 2";
+    QTest::newRow("file name of another is a name") << Present{{"mine", "Preset"}} << "Preset2"
+                                                    << "New Preset 2";
+    QTest::newRow("either taken") << Present{{"Preset", "x"}, {"y", "New Preset 2"}} << "Preset3"
+                                  << "New Preset 3";
 }
 
 void PropertiesDialogPresetsTest::newPresetNames()
@@ -909,7 +945,8 @@ void PropertiesDialogPresetsTest::updateButton()
     QVERIFY(fileContent(scriptPath("Q", "a")).contains("-oDarkness=9"));
     open.click("applyButton");
     const QByteArray script = fileContent(scriptPath("Q", "a"));
-    QVERIFY2(script.startsWith("#!/bin/bash\n#name=Mine\n#description=text\nlpoptions -pQ -oDarkness=4 "), script.constData());
+    QVERIFY2(script.startsWith("#!/bin/bash\n#name=Mine\n#description=text\nlpoptions -pQ -oDarkness=4 "),
+             script.constData());
     QVERIFY2(script.contains(" -rFeed "), script.constData()); // what it had and the settings have not
     QVERIFY2(script.contains(" -oPrintSpeed=1 "), script.constData());
 }

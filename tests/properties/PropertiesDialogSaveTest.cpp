@@ -88,7 +88,8 @@ int printCommands(int &argc, char **argv)
 {
     const QApplication app(argc, argv);
     OpenDialog open;
-    for (const char *radio : {"jobStartRadioButton", "labelStartRadioButton", "labelEndRadioButton", "jobEndRadioButton"}) {
+    for (const char *radio :
+         {"jobStartRadioButton", "labelStartRadioButton", "labelEndRadioButton", "jobEndRadioButton"}) {
         open.click(radio);
         std::printf("%s|", qPrintable(open.plainText("commandEdit")));
     }
@@ -294,7 +295,8 @@ void PropertiesDialogSaveTest::engineProperties()
         keys << key;
         values.insert(key, value);
     }
-    const QList<int> expected{QPrintEngine::PPK_Orientation, QPrintEngine::PPK_QPageMargins, 0xFE03, 0xFE00, 0xFE01, 0xFE02};
+    const QList<int> expected{
+        QPrintEngine::PPK_Orientation, QPrintEngine::PPK_QPageMargins, 0xFE03, 0xFE00, 0xFE01, 0xFE02};
     keys.erase(std::remove_if(keys.begin(), keys.end(), [&](int key) { return !expected.contains(key); }), keys.end());
     QCOMPARE(keys, expected);
 
@@ -377,7 +379,8 @@ void PropertiesDialogSaveTest::field_data()
     QTest::addColumn<QByteArray>("keyword");
     QTest::addColumn<QByteArray>("value"); // as stored; null when it equals the default
 
-    const auto row = [](const char *name, const char *queue, const Edit &edit, const char *keyword, const QByteArray &value) {
+    const auto row = [](const char *name, const char *queue, const Edit &edit, const char *keyword,
+                        const QByteArray &value) {
         QTest::newRow(name) << QString(queue) << edit << QByteArray(keyword) << value;
     };
 
@@ -487,11 +490,11 @@ void PropertiesDialogSaveTest::skippedField_data()
         const char *stored;
     };
     const Field fields[] = {
-        {"Q", 1, "gapSize", "GapSize", "2.000"},          {"Q", 1, "gapOffset", "GapOffset", "1.000"},
-        {"Q", 2, "gapSize", "MarkSize", "3.000"},         {"Q", 2, "gapOffset", "MarkOffset", "1.000"},
-        {"Q", 0, "feed", "Feed", "24"},                   {"Q", 0, "back", "Back", "5"},
-        {"Q", 0, "overlap", "Overlap", "5"},              {"Q", 0, "stop", "Stop", "20.000"},
-        {"TIK", 0, "stop", "Shift", "1.000"},             {"Q", 0, "horizontalEdit", "OffsetH", "8"},
+        {"Q", 1, "gapSize", "GapSize", "2.000"},  {"Q", 1, "gapOffset", "GapOffset", "1.000"},
+        {"Q", 2, "gapSize", "MarkSize", "3.000"}, {"Q", 2, "gapOffset", "MarkOffset", "1.000"},
+        {"Q", 0, "feed", "Feed", "24"},           {"Q", 0, "back", "Back", "5"},
+        {"Q", 0, "overlap", "Overlap", "5"},      {"Q", 0, "stop", "Stop", "20.000"},
+        {"TIK", 0, "stop", "Shift", "1.000"},     {"Q", 0, "horizontalEdit", "OffsetH", "8"},
         {"Q", 0, "verticalEdit", "OffsetV", "8"},
     };
     const auto row = [](const Field &field, const char *text) {
@@ -670,10 +673,11 @@ void PropertiesDialogSaveTest::commands()
 
 void PropertiesDialogSaveTest::commandsThroughTheFile()
 {
-    const QList<QPair<const char *, QString>> commands{{"jobStartRadioButton", "A\nB"},
-                                                       {"labelStartRadioButton", "one 'two' \"three\"\n\n#four\n"},
-                                                       {"labelEndRadioButton", "tab\there\n~JSN = \\\\x"},
-                                                       {"jobEndRadioButton", QString::fromUtf8("\303\244\303\266\nlast")}};
+    const QList<QPair<const char *, QString>> commands{
+        {"jobStartRadioButton", "A\nB"},
+        {"labelStartRadioButton", "one 'two' \"three\"\n\n#four\n"},
+        {"labelEndRadioButton", "tab\there\n~JSN = \\\\x"},
+        {"jobEndRadioButton", QString::fromUtf8("\303\244\303\266\nlast")}};
     {
         OpenDialog open;
         for (const auto &[radio, text] : commands) {
@@ -734,7 +738,8 @@ void PropertiesDialogSaveTest::userPageSize_data()
     QTest::addColumn<QString>("height");
     QTest::addColumn<QByteArray>("run"); // the command's arguments; null when it is not run
 
-    const auto row = [](const char *name, bool isChecked, const char *width, const char *height, const QByteArray &run) {
+    const auto row = [](const char *name, bool isChecked, const char *width, const char *height,
+                        const QByteArray &run) {
         QTest::newRow(name) << isChecked << QString(width) << QString(height) << run;
     };
     row("usual", true, "4", "6", "4.00 6.00 Q\n");
@@ -767,7 +772,8 @@ void PropertiesDialogSaveTest::userPageSize()
     open.click("applyButton");
     QCOMPARE(driver.runs(), run);
     // The settings last applied carry the same size.
-    QCOMPARE(line(fileContent(scriptPath("Q", "_current")), "ppdhack"), run.isNull() ? noValue : "ppdhack " + run.trimmed());
+    QCOMPARE(line(fileContent(scriptPath("Q", "_current")), "ppdhack"),
+             run.isNull() ? noValue : "ppdhack " + run.trimmed());
     // The preset is not written for the size alone, but has it in this run: when shown again, the group follows it.
     open.dialog.updateDialog();
     QCOMPARE(group->isChecked(), !run.isNull());
@@ -778,7 +784,8 @@ void PropertiesDialogSaveTest::userPageSize()
     open.setText("heightEdit", height);
     open.click("applyButton");
     QVERIFY(fileContent(scriptPath("Q", "Mine")).contains("#description=new\n"));
-    QCOMPARE(line(fileContent(scriptPath("Q", "Mine")), "ppdhack"), run.isNull() ? noValue : "ppdhack " + run.trimmed());
+    QCOMPARE(line(fileContent(scriptPath("Q", "Mine")), "ppdhack"),
+             run.isNull() ? noValue : "ppdhack " + run.trimmed());
 }
 
 void PropertiesDialogSaveTest::commandIsWaitedFor()
@@ -865,7 +872,8 @@ void PropertiesDialogSaveTest::currentSettingsScript()
 void PropertiesDialogSaveTest::currentSettingsScriptReplacesAll()
 {
     const QString path = scriptPath("Q", "_current");
-    writeFile(path, "#!/bin/bash\n#name=Old\n#description=Old\nlpoptions -pQ -oFeed=77 -oDarkness=9\nppdhack 9.00 9.00 Q\n");
+    writeFile(path,
+              "#!/bin/bash\n#name=Old\n#description=Old\nlpoptions -pQ -oFeed=77 -oDarkness=9\nppdhack 9.00 9.00 Q\n");
     OpenDialog open;
     open.slide("darknessSlider", 4);
     open.find<QGroupBox>("stockGroupBox")->setChecked(false);
@@ -915,7 +923,8 @@ void PropertiesDialogSaveTest::changedPresetsAreSaved()
     QVERIFY(!open.isEnabled("applyButton"));
     // Values of the PPD file become removals: what its defaults are reaches the scripts.
     const QByteArray script = fileContent(scriptPath("Q", "Preset"));
-    QVERIFY2(script.startsWith("#!/bin/bash\n#name=New Preset\nlpoptions -pQ -oDarkness=4 -rDirect "), script.constData());
+    QVERIFY2(script.startsWith("#!/bin/bash\n#name=New Preset\nlpoptions -pQ -oDarkness=4 -rDirect "),
+             script.constData());
     QCOMPARE(QFile::symLinkTarget(cupsFolder() + "/Q/currentPreset"), scriptPath("Q", "Preset"));
 }
 

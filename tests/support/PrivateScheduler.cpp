@@ -79,7 +79,10 @@ PrivateScheduler::PrivateScheduler()
     start();
 }
 
-PrivateScheduler::~PrivateScheduler() { stop(); }
+PrivateScheduler::~PrivateScheduler()
+{
+    stop();
+}
 
 void PrivateScheduler::start()
 {
@@ -87,7 +90,10 @@ void PrivateScheduler::start()
     startRequests();
 }
 
-void PrivateScheduler::stop() { script(QStringLiteral("stop")); }
+void PrivateScheduler::stop()
+{
+    script(QStringLiteral("stop"));
+}
 
 void PrivateScheduler::addQueue(const QString &name, const QString &ppd, const QString &description,
                                 const QString &location)
@@ -105,13 +111,25 @@ void PrivateScheduler::addQueue(const QString &name, const QString &ppd, const Q
     run("lpadmin", arguments);
 }
 
-void PrivateScheduler::removeQueue(const QString &name) { run("lpadmin", {"-x", name}); }
+void PrivateScheduler::removeQueue(const QString &name)
+{
+    run("lpadmin", {"-x", name});
+}
 
-void PrivateScheduler::setPpd(const QString &queue, const QString &ppd) { run("lpadmin", {"-p", queue, "-P", ppd}); }
+void PrivateScheduler::setPpd(const QString &queue, const QString &ppd)
+{
+    run("lpadmin", {"-p", queue, "-P", ppd});
+}
 
-void PrivateScheduler::setServerDefault(const QString &name) { run("lpadmin", {"-d", name}); }
+void PrivateScheduler::setServerDefault(const QString &name)
+{
+    run("lpadmin", {"-d", name});
+}
 
-void PrivateScheduler::setUserDefault(const QString &name) { run("lpoptions", {"-d", name}); }
+void PrivateScheduler::setUserDefault(const QString &name)
+{
+    run("lpoptions", {"-d", name});
+}
 
 void PrivateScheduler::setUserOptions(const QString &name, const QStringList &options)
 {
@@ -213,9 +231,15 @@ QString PrivateScheduler::editedPpd(const QString &ppd, const QList<QPair<QByteA
     return path;
 }
 
-QString PrivateScheduler::commandDir() { return QStringLiteral(TEST_SUPPORT_DIR); }
+QString PrivateScheduler::commandDir()
+{
+    return QStringLiteral(TEST_SUPPORT_DIR);
+}
 
-QString PrivateScheduler::socket() const { return temporaryDir.filePath("run/cups.sock"); }
+QString PrivateScheduler::socket() const
+{
+    return temporaryDir.filePath("run/cups.sock");
+}
 
 void PrivateScheduler::script(const QString &command)
 {
@@ -250,4 +274,7 @@ QList<CapturedJob> PrivateScheduler::capturedNow() const
     return list;
 }
 
-QByteArray PrivateScheduler::accessLog() const { return readFile(temporaryDir.filePath("log/access_log")); }
+QByteArray PrivateScheduler::accessLog() const
+{
+    return readFile(temporaryDir.filePath("log/access_log"));
+}

@@ -21,7 +21,7 @@ struct CapturedJob
     QByteArray user;
     QByteArray copies;
     QByteArray options; // as a filter gets them: "KEYWORD=VALUE KEYWORD=VALUE", with others that the scheduler adds
-    QByteArray type;    // MIME type of the document
+    QByteArray type; // MIME type of the document
 
     /** The value of an option of the job; null when it was not sent. */
     QByteArray option(const char *keyword) const;

@@ -130,7 +130,10 @@ int runTestsInFreshHome(char **argv)
 
 } // namespace
 
-TestMain::ChildFunction::ChildFunction(const char *name, Function function) { childFunctions().insert(name, function); }
+TestMain::ChildFunction::ChildFunction(const char *name, Function function)
+{
+    childFunctions().insert(name, function);
+}
 
 TestMain::ChildResult TestMain::runChild(const char *name, const QStringList &arguments,
                                          const QMap<QString, QString> &environment)

@@ -67,6 +67,9 @@ int run(int argc, char **argv)
 
 /** In place of QTEST_MAIN. */
 #define PROPERTIESDIALOG_TEST_MAIN(TestClass)                                                                          \
-    int main(int argc, char **argv) { return TestMain::run<TestClass>(argc, argv); }
+    int main(int argc, char **argv)                                                                                    \
+    {                                                                                                                  \
+        return TestMain::run<TestClass>(argc, argv);                                                                   \
+    }
 
 #endif

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "FakeScheduler.h"
+
+#include "Fuzz.h"
+
+#include <cups/cups.h>
+#include <cups/ppd.h>
+
+#include <unistd.h>
+
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
+namespace {
+
+QList<QByteArray> queues;
+FakeScheduler::Options queueOptions;
+QByteArray queuePpd;
+
+} // namespace
+
+void FakeScheduler::setQueues(const QList<QByteArray> &names, const Options &options)
+{
+    queues = names;
+    queueOptions = options;
+}
+
+void FakeScheduler::setPpd(const QByteArray &ppd)
+{
+    queuePpd = ppd;
+}
+
+// In place of libcups' functions of these names. The connection is refused at once, which the library takes for an
+// invitation to let libcups try.
+extern "C" {
+
+__attribute__((visibility("default"))) const char *__lsan_default_suppressions();
+
+http_t *httpConnect2(const char *, int, http_addrlist_t *, int, http_encryption_t, int, int, int *)
+{
+    return nullptr;
+}
+
+int cupsGetDests2(http_t *, cups_dest_t **dests)
+{
+    int count = 0;
+    *dests = nullptr;
+    for (const QByteArray &queue : queues) {
+        count = cupsAddDest(queue.constData(), nullptr, count, dests);
+        cups_dest_t *dest = cupsGetDest(queue.constData(), nullptr, count, *dests);
+        dest->is_default = queue == queues.first();
+        for (const auto &[keyword, value] : queueOptions)
+            dest->num_options =
+                cupsAddOption(keyword.constData(), value.constData(), dest->num_options, &dest->options);
+    }
+    return count;
+}
+
+// Qt asks for single ones.
+cups_dest_t *cupsGetNamedDest(http_t *, const char *name, const char *)
+{
+    cups_dest_t *dest = nullptr;
+    if (queues.contains(name))
+        cupsAddDest(name, nullptr, 0, &dest);
+    return dest;
+}
+
+const char *cupsGetPPD2(http_t *, const char *)
+{
+    static char path[1024];
+    if (queuePpd.isNull())
+        return nullptr;
+    const int fd = cupsTempFd(path, sizeof path);
+    FUZZ_CHECK(fd >= 0
+               && write(fd, queuePpd.constData(), static_cast<std::size_t>(queuePpd.size())) == queuePpd.size());
+    close(fd);
+    return path;
+}
+
+ipp_t *cupsDoRequest(http_t *, ipp_t *request, const char *)
+{
+    ippDelete(request);
+    return nullptr;
+}
+
+// libcups frees no array of options that holds none any more.
+const char *__lsan_default_suppressions()
+{
+    return "leak:cupsAddOption";
+}
+
+} // extern "C"

@@ -1,0 +1,4 @@
+#!/bin/bash
+#index=0
+#name=x
+lpoptions -pP

@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "OpenDialog.h"
+#include "PrivateScheduler.h"
+#include "TestMain.h"
+
+#include <QDirIterator>
+#include <QProcess>
+#include <QPushButton>
+
+#include <cups/ppd.h>
+
+#include <sys/stat.h>
+
+#include <cstdio>
+
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
+#if defined(__SANITIZE_ADDRESS__)
+// libcups 2.4 drops parts of what it keeps beside a PPD file when the file is closed: the texts about printing on both
+// sides, and the options that stand for finishings and print quality. It keeps them for Qt's reader and for ours. Option
+// arrays that we forget are found by the other tests.
+extern "C" __attribute__((visibility("default"))) const char *__lsan_default_suppressions()
+{
+    return "leak:_ppdCacheCreateWithPPD\nleak:cupsAddOption";
+}
+#endif
+
+/**
+ * The dialog opens, applies and closes on PPD files of every kind, most of them for printers that print no labels.
+ *
+ * By default these are the samples of the tests and the sample drivers of CUPS. PPD_ZOO_FOLDER names a folder with
+ * others, and PPD_ZOO_SHARD, "INDEX/COUNT", a part of them; the script ppd-zoo runs this program so.
+ *
+ * All the files take turns in one queue. The scheduler reads a queue's file for each client that asks for it, so it is
+ * enough to put the next one in its place; lpadmin would take many times as long as what is tested.
+ */
+class PpdZoo : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void dialog_data();
+    void dialog();
+
+private:
+    void collectSamples();
+    void show(const QByteArray &ppd);
+
+    PrivateScheduler scheduler;
+    QStringList files;
+    QTemporaryDir samples;
+    QString queuePpd;
+};
+
+namespace {
+
+const char queue[] = "zoo";
+
+struct Shard
+{
+    int index = 0;
+    int count = 1;
+};
+
+Shard shardFromEnvironment()
+{
+    Shard shard;
+    const QByteArray text = qgetenv("PPD_ZOO_SHARD");
+    if (!text.isEmpty() && std::sscanf(text.constData(), "%d/%d", &shard.index, &shard.count) != 2) {
+        qFatal("PPD_ZOO_SHARD is no INDEX/COUNT: %s", text.constData());
+    }
+    return shard;
+}
+
+// The scheduler's own program for driver packages.
+QByteArray driverCommand(const QStringList &arguments)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("CUPS_SERVERBIN", "/usr/lib/cups");
+    environment.insert("CUPS_DATADIR", "/usr/share/cups");
+    environment.insert("CUPS_CACHEDIR", QDir::homePath());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start("/usr/lib/cups/daemon/cups-driverd", arguments);
+    process.waitForFinished();
+    return process.readAllStandardOutput();
+}
+
+} // namespace
+
+void PpdZoo::initTestCase()
+{
+    scheduler.addQueue(queue);
+    scheduler.setServerDefault(queue);
+    queuePpd = scheduler.dir() + "/etc/ppd/" + queue + ".ppd";
+    QVERIFY(QFile::exists(queuePpd));
+
+    const QString folder = qEnvironmentVariable("PPD_ZOO_FOLDER");
+    if (folder.isEmpty()) {
+        collectSamples();
+        return;
+    }
+    QStringList all;
+    for (QDirIterator it(folder, {"*.ppd"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+        all << it.next();
+    }
+    all.sort();
+    const Shard shard = shardFromEnvironment();
+    for (int i = shard.index; i < all.size(); i += shard.count) {
+        files << all.at(i);
+    }
+    QVERIFY(!files.isEmpty());
+}
+
+void PpdZoo::collectSamples()
+{
+    for (const char *sample : {"label-203", "label-300", "every-option", "few-options"}) {
+        files << PrivateScheduler::samplePpd(sample);
+    }
+    for (const char *sample : {"zebra", "zebracpl", "zebraep1", "dymo", "intelbar", "epson9", "laserjet", "deskjet"}) {
+        const QByteArray ppd = driverCommand({"cat", QString("drv:///sample.drv/%1.ppd").arg(sample)});
+        QVERIFY2(ppd.startsWith("*PPD-Adobe:"), sample);
+        files << samples.filePath(QString(sample) + ".ppd");
+        writeFile(files.last(), ppd);
+    }
+}
+
+void PpdZoo::cleanup()
+{
+    QDir(cupsFolder()).removeRecursively();
+}
+
+// Puts the file in the place of the queue's, as a whole.
+void PpdZoo::show(const QByteArray &ppd)
+{
+    const QString next = queuePpd + ".N";
+    writeFile(next, ppd);
+    // The scheduler gives out nothing that not everybody may read.
+    QCOMPARE(chmod(QFile::encodeName(next).constData(), 0644), 0);
+    QCOMPARE(std::rename(QFile::encodeName(next).constData(), QFile::encodeName(queuePpd).constData()), 0);
+}
+
+void PpdZoo::dialog_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const QString &path : files) {
+        QTest::newRow(qPrintable(path)) << path;
+    }
+}
+
+void PpdZoo::dialog()
+{
+    QFETCH(QString, path);
+    const QByteArray content = fileContent(path);
+    show(content);
+    ppd_file_t *expected = ppdOpenFile(QFile::encodeName(path).constData());
+    const QByteArray nickname = expected ? expected->nickname : nullptr;
+    const bool isReadable = expected != nullptr;
+    ppdClose(expected);
+
+    OpenDialog open;
+    QTest::qWait(0);
+    QCOMPARE(open.cups.getCurrentQueueName(), QString(queue));
+    const ppd_file_t *loaded = open.cups.getPpdFile();
+    QCOMPARE(loaded != nullptr, isReadable);
+    if (loaded) {
+        QCOMPARE(QByteArray(loaded->nickname), nickname);
+    }
+    QVERIFY(!open.isEnabled("applyButton"));
+
+    open.click("mirroredCheckBox");
+    open.setText("feed", "0.25");
+    open.choose("mediaType", 1);
+    open.setPlainText("commandEdit", "^XA#1\n");
+    QVERIFY(open.isEnabled("applyButton"));
+    open.click("applyButton");
+    QVERIFY(!open.isEnabled("applyButton"));
+    QVERIFY(open.cups.getMirror());
+    const Options stored = storedOptions(queue);
+    const Options memory = workingCopy(open.cups);
+    QCOMPARE(stored.value("JobStart"), QByteArray("^XA#1\\\\r"));
+    QVERIFY(stored == memory);
+
+    open.click("cancelButton");
+    QVERIFY(!open.dialog.isVisible());
+    QCOMPARE(open.dialog.result(), 0);
+}
+
+PROPERTIESDIALOG_TEST_MAIN(PpdZoo)
+#include "PpdZoo.moc"
