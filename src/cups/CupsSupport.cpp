@@ -397,183 +397,52 @@ CupsSupport::_CupsOrientation knownOrientation(int code)
 
 } // namespace
 
-// clang-format off: a table
-double CupsSupport::getShift() const
-{
-    return numberOr(0.0, *this, "Shift");
-}
-int CupsSupport::setShift(double millimetres)
-{
-    return setDouble("Shift", millimetres);
-}
-double CupsSupport::getStart() const
-{
-    return numberOr(0.0, *this, "Start");
-}
-int CupsSupport::setStart(double millimetres)
-{
-    return setDouble("Start", millimetres);
-}
-double CupsSupport::getStop() const
-{
-    return numberOr(0.0, *this, "Stop");
-}
-int CupsSupport::setStop(double millimetres)
-{
-    return setDouble("Stop", millimetres);
-}
-double CupsSupport::getMarkOffset() const
-{
-    return numberOr(0.0, *this, "MarkOffset");
-}
-int CupsSupport::setMarkOffset(double millimetres)
-{
-    return setDouble("MarkOffset", millimetres);
-}
-double CupsSupport::getMarkSize() const
-{
-    return numberOr(0.0, *this, "MarkSize");
-}
-int CupsSupport::setMarkSize(double millimetres)
-{
-    return setDouble("MarkSize", millimetres);
-}
-double CupsSupport::getGapOffset() const
-{
-    return numberOr(0.0, *this, "GapOffset");
-}
-int CupsSupport::setGapOffset(double millimetres)
-{
-    return setDouble("GapOffset", millimetres);
-}
-double CupsSupport::getGapSize() const
-{
-    return numberOr(0.0, *this, "GapSize");
-}
-int CupsSupport::setGapSize(double millimetres)
-{
-    return setDouble("GapSize", millimetres);
-}
-int CupsSupport::getOffsetV() const
-{
-    return integerOr(0, *this, "OffsetV");
-}
-int CupsSupport::setOffsetV(int dots)
-{
-    return setInt("OffsetV", dots);
-}
-int CupsSupport::getOffsetH() const
-{
-    return integerOr(0, *this, "OffsetH");
-}
-int CupsSupport::setOffsetH(int dots)
-{
-    return setInt("OffsetH", dots);
-}
-int CupsSupport::setCut(int cut)
-{
-    return setInt("CutMedia", cut);
-}
-int CupsSupport::getOverlap() const
-{
-    return integerOr(0, *this, "Overlap");
-}
-int CupsSupport::setOverlap(int dots)
-{
-    return setInt("Overlap", dots);
-}
-int CupsSupport::getBack() const
-{
-    return integerOr(0, *this, "Back");
-}
-int CupsSupport::setBack(int dots)
-{
-    return setInt("Back", dots);
-}
-int CupsSupport::getFeed() const
-{
-    return integerOr(0, *this, "Feed");
-}
-int CupsSupport::setFeed(int dots)
-{
-    return setInt("Feed", dots);
-}
-int CupsSupport::setCategory(_Category category)
-{
-    return setInt("LabelCategory", category);
-}
-int CupsSupport::getDarkness() const
-{
-    return integerOr(7, *this, "Darkness");
-}
-int CupsSupport::setDarkness(int darkness)
-{
-    return setInt("Darkness", darkness);
-}
-int CupsSupport::getSpeed() const
-{
-    return integerOr(2, *this, "PrintSpeed");
-}
-int CupsSupport::setSpeed(int speed)
-{
-    return setInt("PrintSpeed", speed);
-}
-bool CupsSupport::getDirect() const
-{
-    return flag(*this, "Direct");
-}
-int CupsSupport::setDirect(bool direct)
-{
-    return setBool("Direct", direct);
-}
-bool CupsSupport::getInverse() const
-{
-    return flag(*this, "NegativePrint");
-}
-int CupsSupport::setInverse(bool inverse)
-{
-    return setBool("NegativePrint", inverse);
-}
-bool CupsSupport::getMirror() const
-{
-    return flag(*this, "MirrorPrint");
-}
-int CupsSupport::setMirror(bool mirror)
-{
-    return setBool("MirrorPrint", mirror);
-}
-QString CupsSupport::getLabelEnd() const
-{
-    return text(*this, "LabelEnd");
-}
-int CupsSupport::setLabelEnd(const QString &command)
-{
-    return setString("LabelEnd", command);
-}
-QString CupsSupport::getLabelStart() const
-{
-    return text(*this, "LabelStart");
-}
-int CupsSupport::setLabelStart(const QString &command)
-{
-    return setString("LabelStart", command);
-}
-QString CupsSupport::getJobEnd() const
-{
-    return text(*this, "JobEnd");
-}
-int CupsSupport::setJobEnd(const QString &command)
-{
-    return setString("JobEnd", command);
-}
-QString CupsSupport::getJobStart() const
-{
-    return text(*this, "JobStart");
-}
-int CupsSupport::setJobStart(const QString &command)
-{
-    return setString("JobStart", command);
-}
+// A table of one-line functions.
+// clang-format off
+double CupsSupport::getShift() const { return numberOr(0.0, *this, "Shift"); }
+int CupsSupport::setShift(double millimetres) { return setDouble("Shift", millimetres); }
+double CupsSupport::getStart() const { return numberOr(0.0, *this, "Start"); }
+int CupsSupport::setStart(double millimetres) { return setDouble("Start", millimetres); }
+double CupsSupport::getStop() const { return numberOr(0.0, *this, "Stop"); }
+int CupsSupport::setStop(double millimetres) { return setDouble("Stop", millimetres); }
+double CupsSupport::getMarkOffset() const { return numberOr(0.0, *this, "MarkOffset"); }
+int CupsSupport::setMarkOffset(double millimetres) { return setDouble("MarkOffset", millimetres); }
+double CupsSupport::getMarkSize() const { return numberOr(0.0, *this, "MarkSize"); }
+int CupsSupport::setMarkSize(double millimetres) { return setDouble("MarkSize", millimetres); }
+double CupsSupport::getGapOffset() const { return numberOr(0.0, *this, "GapOffset"); }
+int CupsSupport::setGapOffset(double millimetres) { return setDouble("GapOffset", millimetres); }
+double CupsSupport::getGapSize() const { return numberOr(0.0, *this, "GapSize"); }
+int CupsSupport::setGapSize(double millimetres) { return setDouble("GapSize", millimetres); }
+int CupsSupport::getOffsetV() const { return integerOr(0, *this, "OffsetV"); }
+int CupsSupport::setOffsetV(int dots) { return setInt("OffsetV", dots); }
+int CupsSupport::getOffsetH() const { return integerOr(0, *this, "OffsetH"); }
+int CupsSupport::setOffsetH(int dots) { return setInt("OffsetH", dots); }
+int CupsSupport::setCut(int cut) { return setInt("CutMedia", cut); }
+int CupsSupport::getOverlap() const { return integerOr(0, *this, "Overlap"); }
+int CupsSupport::setOverlap(int dots) { return setInt("Overlap", dots); }
+int CupsSupport::getBack() const { return integerOr(0, *this, "Back"); }
+int CupsSupport::setBack(int dots) { return setInt("Back", dots); }
+int CupsSupport::getFeed() const { return integerOr(0, *this, "Feed"); }
+int CupsSupport::setFeed(int dots) { return setInt("Feed", dots); }
+int CupsSupport::setCategory(_Category category) { return setInt("LabelCategory", category); }
+int CupsSupport::getDarkness() const { return integerOr(7, *this, "Darkness"); }
+int CupsSupport::setDarkness(int darkness) { return setInt("Darkness", darkness); }
+int CupsSupport::getSpeed() const { return integerOr(2, *this, "PrintSpeed"); }
+int CupsSupport::setSpeed(int speed) { return setInt("PrintSpeed", speed); }
+bool CupsSupport::getDirect() const { return flag(*this, "Direct"); }
+int CupsSupport::setDirect(bool direct) { return setBool("Direct", direct); }
+bool CupsSupport::getInverse() const { return flag(*this, "NegativePrint"); }
+int CupsSupport::setInverse(bool inverse) { return setBool("NegativePrint", inverse); }
+bool CupsSupport::getMirror() const { return flag(*this, "MirrorPrint"); }
+int CupsSupport::setMirror(bool mirror) { return setBool("MirrorPrint", mirror); }
+QString CupsSupport::getLabelEnd() const { return text(*this, "LabelEnd"); }
+int CupsSupport::setLabelEnd(const QString &command) { return setString("LabelEnd", command); }
+QString CupsSupport::getLabelStart() const { return text(*this, "LabelStart"); }
+int CupsSupport::setLabelStart(const QString &command) { return setString("LabelStart", command); }
+QString CupsSupport::getJobEnd() const { return text(*this, "JobEnd"); }
+int CupsSupport::setJobEnd(const QString &command) { return setString("JobEnd", command); }
+QString CupsSupport::getJobStart() const { return text(*this, "JobStart"); }
+int CupsSupport::setJobStart(const QString &command) { return setString("JobStart", command); }
 // clang-format on
 
 int CupsSupport::getCut() const

@@ -637,31 +637,14 @@ void PrintPropertiesDialog::previewChanged(bool isChange)
     setChanged(true);
 }
 
-// clang-format off: a table
-void PrintPropertiesDialog::on_portraitRadioButton_toggled(bool bChecked)
-{
-    previewChanged(bChecked);
-}
-void PrintPropertiesDialog::on_landscapeRadioButton_toggled(bool bChecked)
-{
-    previewChanged(bChecked);
-}
-void PrintPropertiesDialog::on_portrait180RadioButton_toggled(bool bChecked)
-{
-    previewChanged(bChecked);
-}
-void PrintPropertiesDialog::on_landscape180RadioButton_toggled(bool bChecked)
-{
-    previewChanged(bChecked);
-}
-void PrintPropertiesDialog::on_mirroredCheckBox_toggled(bool)
-{
-    previewChanged(true);
-}
-void PrintPropertiesDialog::on_inverseCheckBox_toggled(bool)
-{
-    previewChanged(true);
-}
+// A table of one-line functions.
+// clang-format off
+void PrintPropertiesDialog::on_portraitRadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
+void PrintPropertiesDialog::on_landscapeRadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
+void PrintPropertiesDialog::on_portrait180RadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
+void PrintPropertiesDialog::on_landscape180RadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
+void PrintPropertiesDialog::on_mirroredCheckBox_toggled(bool) { previewChanged(true); }
+void PrintPropertiesDialog::on_inverseCheckBox_toggled(bool) { previewChanged(true); }
 // clang-format on
 
 void PrintPropertiesDialog::on_stockGroupBox_toggled(bool bChecked)
@@ -685,55 +668,20 @@ void PrintPropertiesDialog::on_darknessSlider_valueChanged(int iValue)
 }
 
 // The values of these are read when saving.
-// clang-format off: a table
-void PrintPropertiesDialog::on_widthEdit_textChanged(const QString &)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_heightEdit_textChanged(const QString &)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_printMethod_currentIndexChanged(int)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_gapSize_textChanged(const QString &)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_gapOffset_textChanged(const QString &)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_cut_currentIndexChanged(int)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_feed_textChanged(const QString &)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_back_textChanged(const QString &)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_overlap_textChanged(const QString &)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_stop_textChanged(const QString &)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_horizontalEdit_textChanged(const QString &)
-{
-    setChanged(true);
-}
-void PrintPropertiesDialog::on_verticalEdit_textChanged(const QString &)
-{
-    setChanged(true);
-}
+// A table of one-line functions.
+// clang-format off
+void PrintPropertiesDialog::on_widthEdit_textChanged(const QString &) { setChanged(true); }
+void PrintPropertiesDialog::on_heightEdit_textChanged(const QString &) { setChanged(true); }
+void PrintPropertiesDialog::on_printMethod_currentIndexChanged(int) { setChanged(true); }
+void PrintPropertiesDialog::on_gapSize_textChanged(const QString &) { setChanged(true); }
+void PrintPropertiesDialog::on_gapOffset_textChanged(const QString &) { setChanged(true); }
+void PrintPropertiesDialog::on_cut_currentIndexChanged(int) { setChanged(true); }
+void PrintPropertiesDialog::on_feed_textChanged(const QString &) { setChanged(true); }
+void PrintPropertiesDialog::on_back_textChanged(const QString &) { setChanged(true); }
+void PrintPropertiesDialog::on_overlap_textChanged(const QString &) { setChanged(true); }
+void PrintPropertiesDialog::on_stop_textChanged(const QString &) { setChanged(true); }
+void PrintPropertiesDialog::on_horizontalEdit_textChanged(const QString &) { setChanged(true); }
+void PrintPropertiesDialog::on_verticalEdit_textChanged(const QString &) { setChanged(true); }
 // clang-format on
 
 // The gap fields double as the black mark fields. A change of the media type fills them from the stored options and so
@@ -811,23 +759,12 @@ void PrintPropertiesDialog::selectCommand(bool isSelected, int slot)
     describeFields();
 }
 
-// clang-format off: a table
-void PrintPropertiesDialog::on_jobStartRadioButton_toggled(bool bChecked)
-{
-    selectCommand(bChecked, 0);
-}
-void PrintPropertiesDialog::on_labelStartRadioButton_toggled(bool bChecked)
-{
-    selectCommand(bChecked, 1);
-}
-void PrintPropertiesDialog::on_labelEndRadioButton_toggled(bool bChecked)
-{
-    selectCommand(bChecked, 2);
-}
-void PrintPropertiesDialog::on_jobEndRadioButton_toggled(bool bChecked)
-{
-    selectCommand(bChecked, 3);
-}
+// A table of one-line functions.
+// clang-format off
+void PrintPropertiesDialog::on_jobStartRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 0); }
+void PrintPropertiesDialog::on_labelStartRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 1); }
+void PrintPropertiesDialog::on_labelEndRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 2); }
+void PrintPropertiesDialog::on_jobEndRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 3); }
 // clang-format on
 
 void PrintPropertiesDialog::on_commandEdit_textChanged()
