@@ -51,6 +51,11 @@ public:
             QCoreApplication::installTranslator(&translator);
     }
 
+    Qt::LayoutDirection direction() const
+    {
+        return translator.isEmpty() ? Qt::LeftToRight : QLocale(translator.language()).textDirection();
+    }
+
 private:
     QTranslator translator;
 };
@@ -131,6 +136,7 @@ int main(int argc, char **argv)
     int windowArgc = 1; // the arguments are not Qt's
     const QApplication application(windowArgc, argv);
     const Catalogue catalogue;
+    QApplication::setLayoutDirection(catalogue.direction());
     QApplication::setDesktopFileName(QStringLiteral("label-printer-properties"));
     return editProperties(queue) == QDialog::Accepted ? saved : cancelled;
 }

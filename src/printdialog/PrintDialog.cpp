@@ -81,6 +81,7 @@ PrintDialog::PrintDialog(QWidget *parent)
     ui->stackedWidget->setCurrentWidget(ui->page_Simple);
     ui->yesButton->setIcon(style()->standardIcon(QStyle::SP_DialogYesButton));
     ui->noButton->setIcon(style()->standardIcon(QStyle::SP_DialogNoButton));
+    ui->yesButton->setDefault(true); // else Qt would give Enter to Properties
     ui->numCopies->setRange(1, maximumCopies);
     setNumCopies(1);
     makeRoom();
@@ -96,6 +97,7 @@ PrintDialog::PrintDialog(QWidget *parent, QPrinter *hostPrinter, CupsSupport *cu
     ui->stackedWidget->setCurrentWidget(ui->page_SelectPrinter);
     ui->yesButton_2->setIcon(style()->standardIcon(QStyle::SP_DialogYesButton));
     ui->noButton_2->setIcon(style()->standardIcon(QStyle::SP_DialogNoButton));
+    ui->yesButton_2->setDefault(true);
     // The box that this form shows is numCopies_2, and its minimum lifts it to 1. numCopies() and setNumCopies() are
     // about the other form's box here as well: hosts count on setNumCopies() not touching what the user sees.
     ui->numCopies_2->setRange(1, maximumCopies);

@@ -249,6 +249,7 @@ private Q_SLOTS:
     void shortFormEnds_data();
     void shortFormEnds();
     void shortFormAsksTheHostsQuestion();
+    void enterAccepts();
 
     void printersAreListed();
     void currentPrinterIsChosenAtFirst();
@@ -489,6 +490,17 @@ void PrintDialogTest::shortFormAsksTheHostsQuestion()
     QCOMPARE(form.numCopies(), 100);
     form.setNumCopies(0);
     QCOMPARE(form.numCopies(), 1);
+}
+
+void PrintDialogTest::enterAccepts()
+{
+    PrintDialog shortForm(nullptr);
+    for (PrintDialog *form : {&shortForm, dialog.get()}) {
+        form->show();
+        QTest::keyClick(form, Qt::Key_Return);
+        QCOMPARE(form->result(), int(QDialog::Accepted));
+        QVERIFY(!form->isVisible());
+    }
 }
 
 void PrintDialogTest::printersAreListed()
