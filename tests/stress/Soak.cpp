@@ -36,9 +36,9 @@ private:
 namespace {
 
 const char queue[] = "soak";
-const int warmUp = 50; // openings after which every cache is filled
-const int usualCount = 100; // openings
-const qint64 slack = 512; // bytes; less than one for each opening of a full run
+const int warmUp = 50;      // openings after which every cache is filled
+const int usualCount = 150; // openings
+const qint64 slack = 2048;  // bytes; about two for each opening of a full run
 
 // What is allocated at the moment, in bytes.
 qint64 memoryInUse()
