@@ -77,7 +77,7 @@ Result ProgramTest::press(const QStringList &arguments, const QString &key, cons
     environment.insert("TITLE", title);
     environment.insert("KEY", key);
     process.setProcessEnvironment(environment);
-    process.start("xvfb-run", QStringList{"-a", "bash", "-c", script, "-", PROGRAM} + arguments);
+    process.start(WITH_XVFB, QStringList{"bash", "-c", script, "-", PROGRAM} + arguments);
     Result result;
     if (process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit)
         result.exitStatus = process.exitCode();

@@ -20,6 +20,8 @@
 
 #include <memory>
 
+Q_DECLARE_METATYPE(QDialogButtonBox::StandardButton)
+
 namespace {
 
 constexpr int initialResult = -5;
@@ -433,6 +435,5 @@ void ExtDialogTest::opensWithoutAPrinter()
     QCOMPARE(savedFile(), QByteArray());
 }
 
-Q_DECLARE_METATYPE(QDialogButtonBox::StandardButton)
 PROPERTIESDIALOG_TEST_MAIN(ExtDialogTest)
 #include "ExtDialogTest.moc"
