@@ -38,7 +38,7 @@ namespace {
 const char queue[] = "soak";
 const int warmUp = 50;      // openings after which every cache is filled
 const int usualCount = 150; // openings
-const qint64 slack = 2048;  // bytes; about two for each opening of a full run
+const qint64 slack = 4096;  // bytes; about four for each opening of a full run
 
 // What is allocated at the moment, in bytes.
 qint64 memoryInUse()
