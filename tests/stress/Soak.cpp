@@ -36,9 +36,9 @@ private:
 namespace {
 
 const char queue[] = "soak";
-const int warmUp = 50;      // openings after which every cache is filled
+const int warmUp = 50; // openings after which every cache is filled
 const int usualCount = 150; // openings
-const qint64 slack = 4096;  // bytes; about four for each opening of a full run
+const qint64 slack = 4096; // bytes; about four for each opening of a full run
 
 // What is allocated at the moment, in bytes.
 qint64 memoryInUse()
