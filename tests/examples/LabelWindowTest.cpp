@@ -16,6 +16,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSlider>
@@ -39,6 +40,21 @@ public:
             }
             action(dialog);
             return true;
+        });
+        return *this;
+    }
+
+    /** The same for a dialog that may not be ready yet: @p action is repeated until it has ended the dialog. */
+    template<class Dialog>
+    User &thenUntilClosed(std::function<void(Dialog *)> action)
+    {
+        steps.append([action] {
+            auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible()) {
+                return false;
+            }
+            action(dialog);
+            return !dialog->isVisible();
         });
         return *this;
     }
@@ -177,8 +193,9 @@ void LabelWindowTest::printsToFile()
         box->click();
         click(dialog, "yesButton_2");
     });
-    user.then<QFileDialog>([fileName](QFileDialog *dialog) {
-        dialog->selectFile(fileName);
+    user.thenUntilClosed<QFileDialog>([fileName](QFileDialog *dialog) {
+        // Typed, not selected: what can be selected depends on how far it has read the folder.
+        dialog->findChild<QLineEdit *>("fileNameEdit")->setText(fileName);
         static_cast<QDialog *>(dialog)->accept();
     });
     user.begin();

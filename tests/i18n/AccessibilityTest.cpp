@@ -23,7 +23,7 @@
 #include <QRadioButton>
 #include <QSlider>
 #include <QSpinBox>
-#include <QStyleFactory>
+#include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -470,7 +470,7 @@ void AccessibilityTest::textsStandOut_data()
     QTest::addColumn<QPalette>("palette");
     for (const char *window : {"properties", "print", "question", "offset"}) {
         QTest::addRow("%s dark", window) << window << darkPalette();
-        QTest::addRow("%s light", window) << window << QStyleFactory::create("Fusion")->standardPalette();
+        QTest::addRow("%s light", window) << window << QApplication::style()->standardPalette();
     }
 }
 
