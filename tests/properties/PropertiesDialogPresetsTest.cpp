@@ -250,12 +250,12 @@ void PropertiesDialogPresetsTest::init()
 
 void PropertiesDialogPresetsTest::listsAreFilled()
 {
-    writeScript("b", " -oDarkness=4", "#name=Zebra\n");
+    writeScript("b", " -oDarkness=4", "#name=Zulu\n");
     writeScript("a", " -oDarkness=4");
     writeScript("_hidden", " -oDarkness=4");
     OpenDialog open;
-    QCOMPARE(items(open, "preset0"), builtIn({"a", "Zebra"}));
-    QCOMPARE(items(open, "preset1"), builtIn({"a", "Zebra"}));
+    QCOMPARE(items(open, "preset0"), builtIn({"a", "Zulu"}));
+    QCOMPARE(items(open, "preset1"), builtIn({"a", "Zulu"}));
     // Without a link the first one is current.
     QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("a"));
     QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("a"));
@@ -267,12 +267,12 @@ void PropertiesDialogPresetsTest::listsAreFilled()
 void PropertiesDialogPresetsTest::currentPresetOfTheLink()
 {
     writeScript("a", "");
-    writeScript("b", "", "#name=Zebra\n#description=Stripes\n");
+    writeScript("b", "", "#name=Zulu\n#description=Stripes\n");
     makeCurrent("b");
     OpenDialog open;
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zebra"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zebra"));
-    QCOMPARE(open.text("nameEdit"), QString("Zebra"));
+    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zulu"));
+    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zulu"));
+    QCOMPARE(open.text("nameEdit"), QString("Zulu"));
     QCOMPARE(open.plainText("descriptionEdit"), QString("Stripes"));
 }
 
@@ -437,13 +437,13 @@ void PropertiesDialogPresetsTest::states()
 void PropertiesDialogPresetsTest::updateCurrentPreset()
 {
     writeScript("a", "");
-    writeScript("b", "", "#name=Zebra\n#description=Stripes\n");
+    writeScript("b", "", "#name=Zulu\n#description=Stripes\n");
     OpenDialog open;
     Preset zebra("Q", "b", {}, QString(), QString(), -1);
     QVERIFY(open.dialog.updateCurrentPreset(&zebra));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zebra"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zebra"));
-    QCOMPARE(open.text("nameEdit"), QString("Zebra"));
+    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zulu"));
+    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zulu"));
+    QCOMPARE(open.text("nameEdit"), QString("Zulu"));
     QCOMPARE(open.plainText("descriptionEdit"), QString("Stripes"));
     // It is shown, not applied.
     QVERIFY(!open.isEnabled("applyButton"));
@@ -453,12 +453,12 @@ void PropertiesDialogPresetsTest::updateCurrentPreset()
     open.choose("preset0", 0);
     open.find<QComboBox>("preset0")->blockSignals(false);
     QVERIFY(open.dialog.updateCurrentPreset(&zebra));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zebra"));
+    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zulu"));
     open.find<QComboBox>("preset1")->blockSignals(true);
     open.choose("preset1", 0);
     open.find<QComboBox>("preset1")->blockSignals(false);
     QVERIFY(open.dialog.updateCurrentPreset(&zebra));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zebra"));
+    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zulu"));
 }
 
 void PropertiesDialogPresetsTest::updateCurrentPresetOfNone()
@@ -571,17 +571,17 @@ void PropertiesDialogPresetsTest::chooseTheCurrentOne()
 void PropertiesDialogPresetsTest::chooseByText()
 {
     writeScript("a", "");
-    writeScript("b", " -oDarkness=4", "#name=Zebra\n");
+    writeScript("b", " -oDarkness=4", "#name=Zulu\n");
     OpenDialog open;
     open.dialog.setCurrentPreset(QString());
     open.dialog.setCurrentPreset("nobody");
     QVERIFY(!open.isEnabled("applyButton"));
     QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("a"));
     open.dialog.setCurrentPreset("b"); // by its file name
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zebra"));
+    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zulu"));
     QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
     open.dialog.setCurrentPreset("a");
-    open.dialog.setCurrentPreset("Zebra"); // by its name
+    open.dialog.setCurrentPreset("Zulu"); // by its name
     QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
 }
 
@@ -1040,16 +1040,16 @@ void PropertiesDialogPresetsTest::renamePreset()
     writeScript("a", " -oDarkness=4");
     writeScript("b", "");
     OpenDialog open;
-    rename(open, "Zebra");
-    QCOMPARE(items(open, "preset0"), builtIn({"Zebra", "b"}));
-    QCOMPARE(items(open, "preset1"), builtIn({"Zebra", "b"}));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zebra"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zebra"));
+    rename(open, "Zulu");
+    QCOMPARE(items(open, "preset0"), builtIn({"Zulu", "b"}));
+    QCOMPARE(items(open, "preset1"), builtIn({"Zulu", "b"}));
+    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zulu"));
+    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zulu"));
     QVERIFY(open.isEnabled("applyButton"));
     QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 10); // still not applied
     open.click("applyButton");
     // The file stays the same.
-    QVERIFY(fileContent(scriptPath("Q", "a")).startsWith("#!/bin/bash\n#name=Zebra\nlpoptions -pQ -oDarkness=4 "));
+    QVERIFY(fileContent(scriptPath("Q", "a")).startsWith("#!/bin/bash\n#name=Zulu\nlpoptions -pQ -oDarkness=4 "));
 }
 
 void PropertiesDialogPresetsTest::renameToTheSame()
@@ -1062,7 +1062,7 @@ void PropertiesDialogPresetsTest::renameToTheSame()
 
 void PropertiesDialogPresetsTest::renameToNothing()
 {
-    writeScript("a", "", "#name=Zebra\n");
+    writeScript("a", "", "#name=Zulu\n");
     OpenDialog open;
     rename(open, QString());
     QCOMPARE(items(open, "preset1"), builtIn({"a"}));
@@ -1091,10 +1091,10 @@ void PropertiesDialogPresetsTest::renameWithTheKeyboard()
     auto *edit = open.find<QLineEdit>("nameEdit");
     edit->setFocus();
     edit->selectAll();
-    QTest::keyClicks(edit, "Zebra");
+    QTest::keyClicks(edit, "Zulu");
     QCOMPARE(items(open, "preset1"), builtIn({"a"})); // not while typing
     QTest::keyClick(edit, Qt::Key_Tab);
-    QCOMPARE(items(open, "preset1"), builtIn({"Zebra"}));
+    QCOMPARE(items(open, "preset1"), builtIn({"Zulu"}));
     QVERIFY(open.isEnabled("applyButton"));
 }
 
@@ -1137,7 +1137,7 @@ void PropertiesDialogPresetsTest::nothingSelected()
         }
         list->blockSignals(false);
         open.setPlainText("descriptionEdit", "after");
-        rename(open, "Zebra");
+        rename(open, "Zulu");
         open.click("presetUpdateButton");
         open.click("presetDeleteButton");
         QVERIFY(!open.isEnabled("applyButton"));
