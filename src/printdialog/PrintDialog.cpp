@@ -193,7 +193,7 @@ void PrintDialog::reject()
 void PrintDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
-    if (event->type() == QEvent::LayoutDirectionChange) {
+    if (FormRoom::isChangedBy(*event)) {
         makeRoom();
     }
     if (event->type() != QEvent::LanguageChange) {

@@ -4,6 +4,7 @@
 #include "ExtDialog.h"
 
 #include "CupsSupport.h"
+#include "FormRoom.h"
 #include "ui_ExtDialog.h"
 
 #include <QEvent>
@@ -73,7 +74,7 @@ void ExtDialog::changeEvent(QEvent *event)
             ui->offset->setItemText(index, tr(offsetTexts[static_cast<std::size_t>(index)]));
         }
         makeRoom();
-    } else if (event->type() == QEvent::LayoutDirectionChange) {
+    } else if (FormRoom::isChangedBy(*event)) {
         makeRoom();
     }
 }

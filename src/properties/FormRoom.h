@@ -4,6 +4,7 @@
 #ifndef FORMROOM_H
 #define FORMROOM_H
 
+#include <QEvent>
 #include <QLayout>
 #include <QWidget>
 
@@ -18,15 +19,24 @@ inline bool hasLargeFont(const QWidget &form)
     return form.fontMetrics().height() > usualFontHeight;
 }
 
-/** Has all layouts ask again what their widgets need. By themselves they do so only later, and only while shown. */
+/** Whether a change event makes a form need another size or order, apart from that of the language. */
+inline bool isChangedBy(const QEvent &event)
+{
+    return event.type() == QEvent::FontChange || event.type() == QEvent::StyleChange
+           || event.type() == QEvent::LayoutDirectionChange;
+}
+
+/** Has all layouts ask their widgets again what they need. By themselves they do so only later, and only while shown. */
 inline void freshenSizeHints(const QWidget &form)
 {
     const QList<QLayout *> layouts = form.findChildren<QLayout *>();
     for (auto layout = layouts.crbegin(); layout != layouts.crend(); ++layout) { // inner ones first
-        if (!(*layout)->parent()->isWidgetType())
-            continue; // goes with the one that it is in
         (*layout)->invalidate();
-        (*layout)->activate();
+        if (!(*layout)->parent()->isWidgetType())
+            continue; // placed with the one that it is in
+        (*layout)->parentWidget()->updateGeometry();
+        if (form.isVisible())
+            (*layout)->activate(); // one that is not shown yet is placed once, when it is
     }
 }
 

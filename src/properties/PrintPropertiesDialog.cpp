@@ -20,6 +20,7 @@
 #include <QIntValidator>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QPixmapCache>
 #include <QPrintEngine>
 #include <QPrinter>
 #include <QProcess>
@@ -53,6 +54,13 @@ struct Family
     int number;
     bool showGapOffset;
 };
+
+// Setting a description, even to what it is, makes Qt look for plug-ins on the disk.
+void describe(QWidget *widget, const QString &text)
+{
+    if (widget->accessibleDescription() != text)
+        widget->setAccessibleDescription(text);
+}
 
 // The first marker that the printer's name contains decides.
 constexpr Family families[] = {
@@ -100,6 +108,20 @@ bool probeHostSettings()
 QString inchesText(double inches)
 {
     return std::isfinite(inches) ? numberFormat.arg(inches, 0, 'f', decimals) : QString();
+}
+
+// Cutting the picture out of its background takes longer than loading the settings, and has the same outcome each time.
+QIcon maskedIcon()
+{
+    const QString file = QStringLiteral(":/b/printer.png");
+    const QString key = QStringLiteral("PropertiesDialog masked ") + file;
+    QPixmap icon;
+    if (!QPixmapCache::find(key, &icon)) {
+        icon.load(file);
+        icon.setMask(icon.createHeuristicMask(true));
+        QPixmapCache::insert(key, icon);
+    }
+    return QIcon(icon);
 }
 
 QLocale cLocale()
@@ -181,23 +203,19 @@ PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer_
     }
 
     ui->setupUi(this);
+    preview = new Preview(ui->frame);
+    preview->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    preview->setGeometry(0, 0, ui->frame->width(), ui->frame->height());
     setResult(0);
     setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint
                    | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
     showOwnTexts();
-    QPixmap icon(QStringLiteral(":/b/printer.png"));
-    icon.setMask(icon.createHeuristicMask(true));
-    setWindowIcon(QIcon(icon));
+    setWindowIcon(maskedIcon());
     ui->helpButton->hide();
     ui->tabs->setCurrentIndex(0);
     forceCustomStock = probeHostSettings();
     createPresets(printerName);
     createValidators();
-
-    preview = new Preview(ui->frame);
-    preview->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    preview->setGeometry(0, 0, ui->frame->width(), ui->frame->height());
-
     fillLists();
     hideUnusedRows();
     on_mediaType_currentIndexChanged(cups->getCategory());
@@ -280,9 +298,9 @@ void PrintPropertiesDialog::hideUnusedRows()
 void PrintPropertiesDialog::makeRoom()
 {
     widenFields();
+    FormRoom::freshenSizeHints(*this);
     for (QGroupBox *box : {ui->previewGroupBox, ui->orientationGroupBox, ui->effectsGroupBox})
         box->setMinimumSize(box->minimumSize().expandedTo(box->minimumSizeHint()));
-    FormRoom::freshenSizeHints(*this);
     ui->tabs->updateGeometry(); // its pages do not tell it
     const QMargins margins = layout()->contentsMargins();
     const int tabsWidth = ui->tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
@@ -311,6 +329,7 @@ void PrintPropertiesDialog::showOwnTexts()
     setWindowTitle(QObject::tr("%1 Printing Preferences").arg(printer ? printer->printerName() : QString()));
     ui->stopLabel->setText(isOffsetGroup(modelFamily) ? tr("Vertical Offset") : tr("Stop Position"));
     showGapLabels(ui->mediaType->currentIndex());
+    preview->setAccessibleName(ui->previewGroupBox->title());
     ui->aboutVersionLabel->setText(tr("Version %1").arg(BuildConstants::version));
     ui->aboutDateLabel->setText(tr("%1").arg(BuildConstants::releaseDate));
 }
@@ -318,18 +337,20 @@ void PrintPropertiesDialog::showOwnTexts()
 // What a screen reader says of the picture, and of the one field that means something else with each choice beside it.
 void PrintPropertiesDialog::describeFields()
 {
+    static constexpr const char *texts[] = {
+        QT_TR_NOOP("Orientation: %1"),
+        QT_TR_NOOP("Orientation: %1, mirrored"),
+        QT_TR_NOOP("Orientation: %1, negative"),
+        QT_TR_NOOP("Orientation: %1, mirrored and negative"),
+    };
     const QRadioButton *const orientations[] = {ui->portraitRadioButton, ui->landscapeRadioButton,
                                                 ui->landscape180RadioButton, ui->portrait180RadioButton};
-    const QString texts[] = {tr("Orientation: %1"), tr("Orientation: %1, mirrored"), tr("Orientation: %1, negative"),
-                             tr("Orientation: %1, mirrored and negative")};
     const int effects = (preview->mirror ? 1 : 0) + (preview->negative ? 2 : 0);
-    preview->setAccessibleName(ui->previewGroupBox->title());
-    preview->setAccessibleDescription(
-        texts[effects].arg(orientations[preview->orientation - CupsSupport::Portrait]->text()));
+    describe(preview, tr(texts[effects]).arg(orientations[preview->orientation - CupsSupport::Portrait]->text()));
 
     const QRadioButton *const commands[] = {ui->jobStartRadioButton, ui->labelStartRadioButton, ui->labelEndRadioButton,
                                             ui->jobEndRadioButton};
-    ui->commandEdit->setAccessibleDescription(commands[commandSlot]->text());
+    describe(ui->commandEdit, commands[commandSlot]->text());
 }
 
 // ----- loading -----
@@ -710,7 +731,9 @@ void PrintPropertiesDialog::on_mediaType_currentIndexChanged(int iIndex)
     ui->feed->setVisible(showFeed);
     ui->feedLabel->setVisible(showFeed);
     ui->feedUnits->setVisible(showFeed);
-    makeRoom();
+    if (iIndex != fittedMediaType)
+        makeRoom();
+    fittedMediaType = iIndex;
     setChanged(true);
 }
 
@@ -798,8 +821,15 @@ void PrintPropertiesDialog::showEvent(QShowEvent *)
 void PrintPropertiesDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
-    if (event->type() != QEvent::LanguageChange)
-        return;
+    const bool isOtherLanguage = event->type() == QEvent::LanguageChange;
+    if (isOtherLanguage)
+        retranslate();
+    if (isOtherLanguage || FormRoom::isChangedBy(*event))
+        makeRoom();
+}
+
+void PrintPropertiesDialog::retranslate()
+{
     // Numbers have no language, and a stored one beyond the slider's range is shown as it is.
     const QString speed = ui->speedValue->text();
     const QString darkness = ui->darknessValue->text();
@@ -808,7 +838,6 @@ void PrintPropertiesDialog::changeEvent(QEvent *event)
     ui->darknessValue->setText(darkness);
     showOwnTexts();
     describeFields();
-    makeRoom();
 }
 
 // ----- presets -----

@@ -12,6 +12,8 @@
 #include <QPageLayout>
 #include <QString>
 
+#include <optional>
+
 class DoubleValidator;
 class Preset;
 class Presets;
@@ -157,6 +159,7 @@ private:
     void makeRoom();
     void widenFields();
     void describeFields();
+    void retranslate();
     void showOwnTexts();
     void showDefaultPageSize();
     void showFamily();
@@ -182,6 +185,7 @@ private:
     bool changed = true;
     int modelFamily = 0;
     int commandSlot = 3;
+    std::optional<int> fittedMediaType; // the one whose rows the dialog's size was last fitted to
     QString jobStartCommand;
     QString labelStartCommand;
     QString labelEndCommand;

@@ -246,6 +246,11 @@ int findFaults(int &argc, char **argv)
             dialogs[0].examineAll(what + " switched");
         }
     }
+    // The font that the user changes to while the dialogs are there.
+    QApplication::setFont(QFont("DejaVu Sans", 9));
+    dialogs[0].open();
+    QApplication::setFont(QFont("DejaVu Sans", 12));
+    dialogs[0].examineAll(QStringLiteral("en %1 %2dpi enlarged").arg(style).arg(dpi));
     std::printf("%d examined\n", examinedWidgets);
     return 0;
 }
