@@ -53,7 +53,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     // The last value of each keyword counts.
     QStringList seen;
     for (auto i = (list.size() / 2) * 2 - 2; i >= 0; i -= 2) {
-        const QString keyword = list.at(i);
+        const QString &keyword = list.at(i);
         if (keyword.isEmpty() || !isAscii(keyword) || seen.contains(keyword, Qt::CaseInsensitive))
             continue;
         seen << keyword;

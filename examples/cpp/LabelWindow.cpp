@@ -100,7 +100,7 @@ void LabelWindow::sendToPrinter(int copies)
     const QStringList options{QStringLiteral("copies"), QString::number(copies)};
     const int job = cups.printFile(file.fileName(), QString(), tr("Label"), options);
     if (job == 0) {
-        QMessageBox::warning(this, tr("Warning"), QString::fromUtf8(cups.getCupsError()));
+        QMessageBox::warning(this, tr("Warning"), QString::fromUtf8(CupsSupport::getCupsError()));
         return;
     }
     status->setText(tr("Job %1 was sent to %2.").arg(job).arg(cups.getCurrentPrinterName()));

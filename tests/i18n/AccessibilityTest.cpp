@@ -185,12 +185,12 @@ void AccessibilityTest::initTestCase()
 
 void AccessibilityTest::init()
 {
-    printer.reset(new QPrinter(QPrinter::ScreenResolution));
-    cups.reset(new CupsSupport);
-    properties.reset(new PrintPropertiesDialog(nullptr, printer.get(), cups.get()));
-    print.reset(new PrintDialog(nullptr, printer.get(), cups.get()));
-    question.reset(new PrintDialog(nullptr));
-    offset.reset(new ExtDialog(nullptr, cups.get()));
+    printer = std::make_unique<QPrinter>(QPrinter::ScreenResolution);
+    cups = std::make_unique<CupsSupport>();
+    properties = std::make_unique<PrintPropertiesDialog>(nullptr, printer.get(), cups.get());
+    print = std::make_unique<PrintDialog>(nullptr, printer.get(), cups.get());
+    question = std::make_unique<PrintDialog>(nullptr);
+    offset = std::make_unique<ExtDialog>(nullptr, cups.get());
 }
 
 void AccessibilityTest::cleanup()

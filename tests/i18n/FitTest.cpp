@@ -191,10 +191,10 @@ struct Dialogs
 
     void open()
     {
-        properties.reset(new PrintPropertiesDialog(nullptr, &printer, &cups));
-        print.reset(new PrintDialog(nullptr, &printer, &cups));
-        question.reset(new PrintDialog(nullptr));
-        offset.reset(new ExtDialog(nullptr, &cups));
+        properties = std::make_unique<PrintPropertiesDialog>(nullptr, &printer, &cups);
+        print = std::make_unique<PrintDialog>(nullptr, &printer, &cups);
+        question = std::make_unique<PrintDialog>(nullptr);
+        offset = std::make_unique<ExtDialog>(nullptr, &cups);
     }
 
     void examineAll(const QString &what)

@@ -97,9 +97,9 @@ int callPropertiesDialog(int &argc, char **argv)
     QApplication application(argc, argv);
     QWidget window;
     QTranslator translator;
-    if (application.arguments().contains("window"))
+    if (QApplication::arguments().contains("window"))
         window.show();
-    if (application.arguments().contains("catalogue")) {
+    if (QApplication::arguments().contains("catalogue")) {
         if (!translator.load(compiledCatalogue("fr")))
             qFatal("cannot load the catalogue");
         QCoreApplication::installTranslator(&translator);

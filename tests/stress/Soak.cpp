@@ -47,7 +47,7 @@ qint64 memoryInUse()
     return qint64(__sanitizer_get_current_allocated_bytes()); // mallinfo2() is the other allocator's
 #else
     const struct mallinfo2 info = mallinfo2();
-    return qint64(info.uordblks + info.hblkhd);
+    return qint64(info.uordblks) + qint64(info.hblkhd);
 #endif
 }
 
