@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "DialogUnderTest.h"
+#include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
 

@@ -88,10 +88,8 @@ private Q_SLOTS:
     void focusFollowsTheTable();
     void framesAreDrawn_data();
     void framesAreDrawn();
-    void titleIsLargeAndBold();
-    void questionIsBoldAndCentred();
-    void shortFormHasTallFields_data();
-    void shortFormHasTallFields();
+    void fontsAndSizes_data();
+    void fontsAndSizes();
     void buttonsCloseTheDialog_data();
     void buttonsCloseTheDialog();
     void textsAreTranslatable_data();
@@ -288,33 +286,32 @@ void PrintDialogFormTest::framesAreDrawn()
     QCOMPARE(frame->frameShadow(), QFrame::Raised);
 }
 
-void PrintDialogFormTest::titleIsLargeAndBold()
+void PrintDialogFormTest::fontsAndSizes_data()
 {
-    QCOMPARE(ui.lblPrintTitle->font().pointSize(), 11);
-    QCOMPARE(int(ui.lblPrintTitle->font().weight()), int(QFont::Bold));
+    widgetsAreInTheirCells_data();
 }
 
-void PrintDialogFormTest::questionIsBoldAndCentred()
+void PrintDialogFormTest::fontsAndSizes()
 {
-    QCOMPARE(int(ui.textLabel->font().weight()), int(QFont::Bold));
-    QCOMPARE(ui.textLabel->font().pointSize(), dialog->font().pointSize());
-    QCOMPARE(ui.textLabel->alignment(), Qt::Alignment(Qt::AlignHCenter | Qt::AlignVCenter));
-}
+    QFETCH(int, index);
+    const QString name = cells[index].name;
+    const QWidget *found = widget(name);
 
-void PrintDialogFormTest::shortFormHasTallFields_data()
-{
-    QTest::addColumn<QString>("name");
-
-    for (const char *name : {"numCopies", "yesButton", "noButton", "propertiesButton"}) {
-        QTest::newRow(name) << name;
+    const QStringList bold = {"lblPrintTitle", "textLabel"};
+    QCOMPARE(found->font().bold(), bold.contains(name));
+    QCOMPARE(found->font().pointSize(), name == "lblPrintTitle" ? 11 : dialog->font().pointSize());
+    const QStringList tall = {"numCopies", "yesButton", "noButton", "propertiesButton"};
+    QCOMPARE(found->minimumSize(), QSize(0, tall.contains(name) ? 27 : 0));
+    QCOMPARE(found->maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    QVERIFY(found->isEnabled());
+    if (const auto *label = qobject_cast<const QLabel *>(found))
+        QCOMPARE(label->alignment(), name == "textLabel" ? Qt::AlignCenter : QLabel().alignment());
+    if (const auto *button = qobject_cast<const QAbstractButton *>(found)) {
+        QVERIFY(!button->isChecked());
+        QVERIFY(button->icon().isNull());
     }
-}
-
-void PrintDialogFormTest::shortFormHasTallFields()
-{
-    QFETCH(QString, name);
-
-    QCOMPARE(widget(name)->minimumHeight(), 27);
+    if (const auto *list = qobject_cast<const QComboBox *>(found))
+        QCOMPARE(list->count(), 0);
 }
 
 void PrintDialogFormTest::buttonsCloseTheDialog_data()

@@ -264,6 +264,7 @@ private Q_SLOTS:
     void labelsStayWhenThereIsNoSuchPrinter();
     void printingToAFileDependsOnTheModel_data();
     void printingToAFileDependsOnTheModel();
+    void labelsComeWithTheName();
     void updateFormStartsAnew();
 
     void printToFileIsEnabledByNegation();
@@ -272,6 +273,7 @@ private Q_SLOTS:
 
     void useDefaultChoosesTheDefaultPrinter();
     void useDefaultReturnsToTheEarlierChoice();
+    void useDefaultShowsTheDefaultPrinterAgain();
     void cancelUndoesUseDefault();
     void okAfterUseDefaultWasUntickedKeepsThePrinter();
     void useDefaultCopesWithNewQueues();
@@ -290,6 +292,7 @@ private Q_SLOTS:
     void propertiesButtonsEndWithMinusOne();
     void exec2RunsThePropertiesDialog_data();
     void exec2RunsThePropertiesDialog();
+    void exec2RunsItForEveryNegativeResult();
 
     void languageChangeKeepsThePrinterTexts();
     void languageChangeKeepsWhatIsEnabled();
@@ -705,6 +708,7 @@ void PrintDialogTest::printingToAFileDependsOnTheModel_data()
     QTest::newRow("longer") << "Quillon Vantry 2" << false;
     QTest::newRow("shorter") << "Vantry" << false;
     QTest::newRow("none") << "" << false;
+    QTest::newRow("read byte by byte") << QString::fromLatin1("Quillon Vantr\xc3\xbf") << false;
 }
 
 void PrintDialogTest::printingToAFileDependsOnTheModel()
@@ -721,6 +725,14 @@ void PrintDialogTest::printingToAFileDependsOnTheModel()
     QVERIFY(child<QWidget>(*dialog, "chkPrintToFile")->isEnabled());
     choose("aisle");
     QCOMPARE(child<QWidget>(*dialog, "chkPrintToFile")->isEnabled(), enabled);
+}
+
+/** To a host that lets its users type into the list. */
+void PrintDialogTest::labelsComeWithTheName()
+{
+    printerList()->setEditable(true);
+    dialog->updateLabels(indexOf("kitchen"));
+    QCOMPARE(printerList()->currentText(), QString("Kitchen Labels"));
 }
 
 void PrintDialogTest::updateFormStartsAnew()
@@ -805,6 +817,15 @@ void PrintDialogTest::useDefaultReturnsToTheEarlierChoice()
     QCOMPARE(text(*dialog, "lblLocation"), QString("Küche, Süd"));
 }
 
+/** The labels and what depends on them are shown anew even if the list stays where it is. */
+void PrintDialogTest::useDefaultShowsTheDefaultPrinterAgain()
+{
+    dialog->setPrintToFileEnabled(false);
+    click(*dialog, "chkDefaultPrinter");
+    QCOMPARE(printerList()->currentIndex(), indexOf("aisle"));
+    QVERIFY(!child<QWidget>(*dialog, "chkPrintToFile")->isEnabled());
+}
+
 void PrintDialogTest::cancelUndoesUseDefault()
 {
     const QString name = printer->printerName();
@@ -848,11 +869,15 @@ void PrintDialogTest::useDefaultCopesWithoutAnyQueues()
 {
     makeDialog("kitchen");
     scheduler.stop();
+    const auto *printToFile = child<QWidget>(*dialog, "chkPrintToFile");
+    const bool wasEnabled = printToFile->isEnabled();
     click(*dialog, "chkDefaultPrinter");
     const int count = printerList()->count();
     const QList<Question> questions = clickOk(*dialog);
     scheduler.start();
 
+    QVERIFY(!wasEnabled);
+    QVERIFY(printToFile->isEnabled()); // as in any form that is filled anew, and no printer disables it
     QCOMPARE(count, 0);
     QVERIFY(questions.isEmpty());
     QCOMPARE(dialog->result(), 1);
@@ -1049,6 +1074,20 @@ void PrintDialogTest::exec2RunsThePropertiesDialog()
     QCOMPARE(properties.runs, runs);
     QVERIFY(clicker.buttons.isEmpty());
     QVERIFY(!form.isVisible());
+}
+
+void PrintDialogTest::exec2RunsItForEveryNegativeResult()
+{
+    OtherDialog properties;
+    QTimer::singleShot(0, dialog.get(), [this] { dialog->done(-2); });
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, dialog.get(), [&] {
+        if (properties.runs > 0 && dialog->isVisible())
+            dialog->accept();
+    });
+    timer.start(0);
+    QCOMPARE(dialog->exec2(properties), 1);
+    QCOMPARE(properties.runs, 1);
 }
 
 void PrintDialogTest::languageChangeKeepsThePrinterTexts()

@@ -10,19 +10,37 @@
 #include <PropertiesDialog/PrintPropertiesDialog.h>
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMap>
 #include <QPlainTextEdit>
 #include <QPrinter>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QSlider>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 
 #include <cups/cups.h>
+
+#include <memory>
+
+template<class Widget>
+Widget *childOf(const QDialog &dialog, const QString &name)
+{
+    auto *child = dialog.findChild<Widget *>(name);
+    if (!child)
+        qFatal("the dialog has no %s", qPrintable(name));
+    return child;
+}
 
 /** The properties dialog of the default printer, shown, with what it works on, as propertiesDialog() makes it. */
 struct OpenDialog
@@ -36,11 +54,7 @@ struct OpenDialog
     template<class Widget = QWidget>
     Widget *find(const char *name)
     {
-        auto *widget = dialog.findChild<Widget *>(name);
-        if (!widget) {
-            qFatal("the dialog has no %s", name);
-        }
-        return widget;
+        return childOf<Widget>(dialog, name);
     }
 
     void click(const char *name) { find<QAbstractButton>(name)->click(); }
@@ -51,6 +65,69 @@ struct OpenDialog
     void choose(const char *name, int index) { find<QComboBox>(name)->setCurrentIndex(index); }
     void slide(const char *name, int value) { find<QSlider>(name)->setValue(value); }
     bool isEnabled(const char *name) { return find(name)->isEnabled(); }
+};
+
+/** What a widget shows, whatever it is: a text, a number, the index of a list, or "True" and "False". */
+inline QString shownBy(const QWidget *widget)
+{
+    if (auto *edit = qobject_cast<const QLineEdit *>(widget))
+        return edit->text();
+    if (auto *edit = qobject_cast<const QPlainTextEdit *>(widget))
+        return edit->toPlainText();
+    if (auto *label = qobject_cast<const QLabel *>(widget))
+        return label->text();
+    if (auto *slider = qobject_cast<const QSlider *>(widget))
+        return QString::number(slider->value());
+    if (auto *list = qobject_cast<const QComboBox *>(widget))
+        return QString::number(list->currentIndex());
+    if (auto *box = qobject_cast<const QGroupBox *>(widget))
+        return box->isChecked() ? "True" : "False";
+    if (auto *button = qobject_cast<const QAbstractButton *>(widget))
+        return button->isChecked() ? "True" : "False";
+    qFatal("nothing to read from %s", qPrintable(widget->objectName()));
+}
+
+inline void selectQueue(CupsSupport &cups, const QString &queue)
+{
+    for (int i = 0; i < cups.getDestCount(); ++i) {
+        cups.setCurrentPrinter(i);
+        if (cups.getCurrentQueueName() == queue)
+            return;
+    }
+    qFatal("no queue %s: %s", qPrintable(queue), CupsSupport::getCupsError());
+}
+
+/** The properties dialog of a queue with all that it needs, not yet shown. */
+struct DialogUnderTest
+{
+    /** @param options an option list for the working copy of the queue's settings, before the dialog is made. */
+    explicit DialogUnderTest(const QString &queue, const QStringList &options = {})
+    {
+        printer.setPrinterName(queue);
+        if (printer.printerName() != queue)
+            qFatal("no printer %s: %s", qPrintable(queue), CupsSupport::getCupsError());
+        selectQueue(cups, queue);
+        cups.setOptions(options);
+        dialog = std::make_unique<PrintPropertiesDialog>(nullptr, &printer, &cups);
+    }
+
+    template<class Widget = QWidget>
+    Widget *widget(const QString &name) const
+    {
+        return childOf<Widget>(*dialog, name);
+    }
+
+    QString shown(const QString &name) const { return shownBy(widget(name)); }
+    QLineEdit *edit(const QString &name) const { return widget<QLineEdit>(name); }
+    QComboBox *list(const QString &name) const { return widget<QComboBox>(name); }
+    QAbstractButton *button(const QString &name) const { return widget<QAbstractButton>(name); }
+
+    /** Whether there are unsaved changes. */
+    bool isChanged() const { return button("applyButton")->isEnabled(); }
+
+    QPrinter printer{QPrinter::ScreenResolution};
+    CupsSupport cups;
+    std::unique_ptr<PrintPropertiesDialog> dialog;
 };
 
 using Options = QMap<QByteArray, QByteArray>;
@@ -81,9 +158,21 @@ inline Options workingCopy(const CupsSupport &cups)
     return options;
 }
 
+inline QString homePath(const QString &name)
+{
+    return qEnvironmentVariable("HOME") + "/" + name;
+}
+
+/** Makes an empty HOME of the process's. */
+inline void clearHome()
+{
+    QDir(homePath(".cups")).removeRecursively();
+    QDir(homePath(".gconf")).removeRecursively();
+}
+
 inline QString cupsFolder()
 {
-    return QDir::homePath() + "/.cups";
+    return homePath(".cups");
 }
 
 inline QByteArray fileContent(const QString &path)
@@ -128,6 +217,20 @@ public:
 private:
     QTemporaryDir folder{QStringLiteral("/tmp/pd-XXXXXX")};
     QByteArray pathBefore;
+};
+
+/** While it lives, every text is "CONTEXT: text". */
+class MarkingTranslator : public QTranslator
+{
+public:
+    MarkingTranslator() { QCoreApplication::installTranslator(this); }
+    ~MarkingTranslator() override { QCoreApplication::removeTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    {
+        return QString("%1: %2").arg(QString(context), QString::fromUtf8(sourceText));
+    }
 };
 
 #endif

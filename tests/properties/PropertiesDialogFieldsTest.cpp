@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "DialogUnderTest.h"
+#include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
 
@@ -141,6 +141,7 @@ private slots:
     void commandsAreKeptApart();
     void switchingCommandsMarksNothing();
     void retypedCommandMarksNothing();
+    void uncheckedCommandDoesNothing_data();
     void uncheckedCommandDoesNothing();
     void typedCommandComesBack();
 
@@ -572,8 +573,10 @@ void PropertiesDialogFieldsTest::previewIsPaintedAgain()
     t.dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(t.dialog.get()));
     PaintCounter paints(t.dialog->findChild<Preview *>());
-    QCoreApplication::processEvents();
-    paints.count = 0;
+    do { // until the window is complete
+        paints.count = 0;
+        QTest::qWait(50);
+    } while (paints.count > 0);
     t.button(name)->setChecked(true);
     QTRY_VERIFY(paints.count > 0);
 }
@@ -695,20 +698,32 @@ void PropertiesDialogFieldsTest::retypedCommandMarksNothing()
     QVERIFY(t.isChanged());
 }
 
+void PropertiesDialogFieldsTest::uncheckedCommandDoesNothing_data()
+{
+    QTest::addColumn<int>("slot");
+    for (int slot = 0; slot < 4; ++slot)
+        QTest::newRow(commandSlots[slot].keyword) << slot;
+}
+
 void PropertiesDialogFieldsTest::uncheckedCommandDoesNothing()
 {
-    DialogUnderTest t("LP", {"JobStart", "a\\\\r", "LabelEnd", "b\\\\r"});
+    QFETCH(int, slot);
+    const Command &other = commandSlots[(slot + 1) % 4];
+    DialogUnderTest t("LP", {commandSlots[slot].keyword, "a\\\\r", other.keyword, "b\\\\r"});
     t.dialog->show();
     for (const Command &command : commandSlots)
         t.button(command.radio)->setAutoExclusive(false);
-    t.button("labelEndRadioButton")->setChecked(true);
-    t.button("jobStartRadioButton")->setChecked(false);
-    t.button("labelEndRadioButton")->setChecked(false);
+    for (const Command &command : commandSlots)
+        t.button(command.radio)->setChecked(false);
+    t.button(commandSlots[slot].radio)->setChecked(true);
+    t.button(other.radio)->setChecked(true);
+    t.button(commandSlots[slot].radio)->setChecked(false);
     QCOMPARE(t.shown("commandEdit"), "b\n");
     t.widget<QPlainTextEdit>("commandEdit")->setPlainText("c");
-    t.button("jobStartRadioButton")->setChecked(true);
+    t.button(commandSlots[slot].radio)->setChecked(true);
     QCOMPARE(t.shown("commandEdit"), "a\n");
-    t.button("labelEndRadioButton")->setChecked(true);
+    t.button(other.radio)->setChecked(false);
+    t.button(other.radio)->setChecked(true);
     QCOMPARE(t.shown("commandEdit"), "c");
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "DialogUnderTest.h"
+#include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "PropertiesDialog.h"
 #include "TestMain.h"
@@ -514,6 +514,9 @@ void PropertiesDialogLoadTest::offsetValidators()
         QVERIFY(validator);
         QCOMPARE(validator->bottom(), -limit);
         QCOMPARE(validator->top(), limit);
+        // The same texts are accepted in every country.
+        QCOMPARE(validator->locale().language(), QLocale::C);
+        QVERIFY(validator->locale().numberOptions().testFlag(QLocale::RejectGroupSeparator));
     }
 }
 
@@ -650,7 +653,9 @@ void PropertiesDialogLoadTest::loadsWithoutCups()
                               "Stop",        "1",          "Shift",
                               "1",           "OffsetH",    "5",
                               "OffsetV",     "6",          "orientation-requested",
-                              "6",           "JobStart",   "A"});
+                              "6",           "JobStart",   "A",
+                              "LabelStart",  "A",          "LabelEnd",
+                              "A",           "JobEnd",     "A"});
     t.dialog->show();
     t.printer.setPageOrientation(printerOrientation);
     t.edit("widthEdit")->setText("7.77");
@@ -673,6 +678,10 @@ void PropertiesDialogLoadTest::loadsWithoutCups()
     QCOMPARE(t.shown("horizontalEdit"), "0");
     QCOMPARE(t.shown("verticalEdit"), "0");
     QCOMPARE(t.shown("commandEdit"), "");
+    for (const char *radio : {"labelStartRadioButton", "labelEndRadioButton", "jobEndRadioButton"}) {
+        t.button(radio)->setChecked(true);
+        QCOMPARE(t.shown("commandEdit"), "");
+    }
     QCOMPARE(t.shown("widthEdit"), "7.77");
 }
 
@@ -922,13 +931,18 @@ void PropertiesDialogLoadTest::equalCommandIsNotSetAgain()
 void PropertiesDialogLoadTest::previewIsLoaded()
 {
     DialogUnderTest t("LP", {"orientation-requested", "6", "MirrorPrint", "True", "NegativePrint", "True"});
-    const auto *preview = t.dialog->findChild<Preview *>();
+    auto *preview = t.dialog->findChild<Preview *>();
     t.dialog->show();
     QCOMPARE(preview->orientation, 6);
     QVERIFY(preview->mirror);
     QVERIFY(preview->negative);
     QCOMPARE(preview->labelWidth, 1200.0);
     QCOMPARE(preview->labelHeight, 1200.0);
+
+    // Also when no field changes.
+    preview->orientation = 0;
+    t.dialog->updateDialog();
+    QCOMPARE(preview->orientation, 6);
 }
 
 void PropertiesDialogLoadTest::mediaTypeIsLoadedAgain()
@@ -1273,7 +1287,7 @@ void PropertiesDialogLoadTest::entryWithoutPrinter()
     const QByteArray server = qgetenv("CUPS_SERVER");
     std::unique_ptr<PrivateScheduler> withoutQueues;
     if (hasScheduler)
-        withoutQueues.reset(new PrivateScheduler);
+        withoutQueues = std::make_unique<PrivateScheduler>();
     const QString socket = hasScheduler ? withoutQueues->socket() : QString("/nowhere");
     const auto result =
         TestMain::runChild(child.toLatin1().constData(), {"okButton", "cancelButton"}, {{"CUPS_SERVER", socket}});

@@ -212,6 +212,8 @@ private slots:
     void newPresetNames();
     void newPresetDropsUnsavedEdits();
     void updateButton();
+    void updateButtonWithOneDifference_data();
+    void updateButtonWithOneDifference();
     void updateButtonWithoutADifference();
     void deleteButton();
     void deleteCurrent();
@@ -949,6 +951,27 @@ void PropertiesDialogPresetsTest::updateButton()
              script.constData());
     QVERIFY2(script.contains(" -rFeed "), script.constData()); // what it had and the settings have not
     QVERIFY2(script.contains(" -oPrintSpeed=1 "), script.constData());
+}
+
+void PropertiesDialogPresetsTest::updateButtonWithOneDifference_data()
+{
+    QTest::addColumn<QByteArray>("presetOptions");
+    QTest::addColumn<QStringList>("settings");
+    QTest::newRow("cleared only") << QByteArray(" -oDarkness=4") << QStringList{};
+    QTest::newRow("set only") << QByteArray("") << QStringList{"Darkness=4"};
+}
+
+void PropertiesDialogPresetsTest::updateButtonWithOneDifference()
+{
+    QFETCH(QByteArray, presetOptions);
+    QFETCH(QStringList, settings);
+    writeScript("a", presetOptions);
+    if (!settings.isEmpty())
+        scheduler.setUserOptions("Q", settings);
+    OpenDialog open;
+    QVERIFY(!open.isEnabled("applyButton"));
+    open.click("presetUpdateButton");
+    QVERIFY(open.isEnabled("applyButton"));
 }
 
 void PropertiesDialogPresetsTest::updateButtonWithoutADifference()

@@ -212,6 +212,11 @@ void PropertiesDialogSaveTest::initTestCase()
     for (const char *name : {"KERN", "LUMA", "TIK", "ZED"}) {
         scheduler.addQueue(name);
     }
+    const QByteArray customDarkness = "*CustomDarkness True: \"pop\"\n*ParamCustomDarkness Level: 1 int 0 19\n";
+    scheduler.addQueue("Customs",
+                       scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
+                                           {{"*CloseUI: *Darkness\n", "*CloseUI: *Darkness\n" + customDarkness},
+                                            {"*PrintSpeed 1/1", "*PrintSpeed Customary/Customary"}}));
     scheduler.addQueue("Every", PrivateScheduler::samplePpd("every-option"));
     scheduler.addQueue("Few", PrivateScheduler::samplePpd("few-options"));
 }
@@ -263,6 +268,13 @@ void PropertiesDialogSaveTest::printerMargins()
     QCOMPARE(open.printer.pageLayout().margins(QPageLayout::Point), QMarginsF(10, 11, 12, 13));
     open.dialog.saveValues();
     QCOMPARE(open.printer.pageLayout().margins(QPageLayout::Point), QMarginsF(0, 0, 0, 0));
+
+    // Whether the host counts from the edge of the sheet is the host's.
+    for (bool fullPage : {true, false}) {
+        open.printer.setFullPage(fullPage);
+        open.dialog.saveValues();
+        QCOMPARE(open.printer.fullPage(), fullPage);
+    }
 }
 
 void PropertiesDialogSaveTest::engineProperties_data()
@@ -276,7 +288,8 @@ void PropertiesDialogSaveTest::engineProperties_data()
 void PropertiesDialogSaveTest::engineProperties()
 {
     QFETCH(QByteArray, radio);
-    scheduler.setUserOptions("Q", {"PageSize=Custom.288x144", "Darkness=4"});
+    scheduler.setServerDefault("Customs");
+    scheduler.setUserOptions("Customs", {"PageSize=Custom.288x144", "Darkness=Custom.5", "PrintSpeed=Customary"});
     RecordingPrinter printer;
     printer.setPageSize(label);
     CupsSupport cups;
@@ -284,8 +297,9 @@ void PropertiesDialogSaveTest::engineProperties()
     dialog.show();
     dialog.findChild<QAbstractButton *>(radio)->click();
     const QStringList options = cups.options();
-    QVERIFY(options.contains("Custom")); // or the test would show nothing
-    QVERIFY(options.contains("Darkness"));
+    // Or the test would show nothing: each of these becomes the size in full, and no other.
+    QCOMPARE(options.count("Custom"), 2);
+    QVERIFY(options.contains("Customary"));
     printer.engine->record.clear();
     dialog.saveValues();
 
@@ -414,6 +428,10 @@ void PropertiesDialogSaveTest::field_data()
     row("gap size 0", "Q", typedFor(1, "gapSize", "0"), "GapSize", "0.000");
     row("gap size to the thousandth", "Q", typedFor(1, "gapSize", "0.12345"), "GapSize", "3.136");
     row("gap size, downward", "Q", typedFor(1, "gapSize", "0.12342"), "GapSize", "3.135");
+    row("gap size, half", "Q", typedFor(1, "gapSize", "0.0625"), "GapSize", "1.588"); // of 1587.5
+    row("gap offset, half below 0", "Q", typedFor(1, "gapOffset", "-0.0625"), "GapOffset", "-1.587");
+    row("mark size, half", "Q", typedFor(2, "gapSize", "0.0625"), "MarkSize", "1.588");
+    row("mark offset, half", "Q", typedFor(2, "gapOffset", "0.0625"), "MarkOffset", "1.588");
     row("gap offset", "Q", typedFor(1, "gapOffset", "0.5"), "GapOffset", "12.700");
     row("gap offset below 0", "Q", typedFor(1, "gapOffset", "-0.12"), "GapOffset", "-3.048");
     row("mark size", "Q", typedFor(2, "gapSize", "0.12"), "MarkSize", "3.048");
@@ -438,10 +456,12 @@ void PropertiesDialogSaveTest::field_data()
     row("overlap of the PPD file", "Q", typed("overlap", "12"), "Overlap", noValue);
 
     row("stop", "Q", typed("stop", "0.5"), "Stop", "12.700");
+    row("stop, half", "Q", typed("stop", "0.0625"), "Stop", "1.588");
     row("stop, family 1", "KERN", typed("stop", "0.5"), "Stop", "12.700");
     row("stop, family 2", "LUMA", typed("stop", "0.5"), "Stop", "12.700");
     row("vertical offset, family 4", "TIK", typed("stop", "-0.5"), "Shift", "-12.700");
     row("vertical offset, family 5", "ZED", typed("stop", "0.5"), "Shift", "12.700");
+    row("vertical offset of family 4, half", "TIK", typed("stop", "0.0625"), "Shift", "1.588");
     row("stop of family 0 is no shift", "Q", typed("stop", "0.5"), "Shift", noValue);
     row("shift of family 4 is no stop", "TIK", typed("stop", "0.5"), "Stop", noValue);
     row("shift of family 5 is no stop", "ZED", typed("stop", "0.5"), "Stop", noValue);
@@ -510,6 +530,8 @@ void PropertiesDialogSaveTest::skippedField_data()
     // Whole numbers only.
     row(fields[5], "1.5");
     row(fields[6], "1.5");
+    row(fields[5], "0x7");
+    row(fields[6], "0x7");
 }
 
 void PropertiesDialogSaveTest::skippedField()
@@ -626,7 +648,6 @@ void PropertiesDialogSaveTest::valueOfTheDefaultIsNotStored()
     }
 }
 
-// A media type that the list does not have leaves it without a choice, whose index is stored like any other.
 void PropertiesDialogSaveTest::unlistedMediaType()
 {
     scheduler.setUserOptions("Q", {"LabelCategory=7"});
