@@ -634,7 +634,7 @@ void CupsSupport::collectMarkedOptionsHelper(QStringList &list, const ppd_group_
 }
 
 int CupsSupport::printFile(const QString &fileName, const QString &printerDescription, const QString &title,
-                           const QStringList &list)
+                           const QStringList &list) const
 {
     int index = -1;
     if (!printerDescription.isEmpty())
@@ -651,7 +651,7 @@ int CupsSupport::printFile(const QString &fileName, const QString &printerDescri
                           job.count, job.options);
 }
 
-int CupsSupport::printFiles(const QStringList &fileNames, const QString &title, const QStringList &list)
+int CupsSupport::printFiles(const QStringList &fileNames, const QString &title, const QStringList &list) const
 {
     const cups_dest_t *dest = currentDest();
     if (!dest || fileNames.isEmpty())

@@ -351,7 +351,7 @@ public:
      * @return the job number, 0 on failure (see getCupsError()).
      */
     int printFile(const QString &fileName, const QString &printerDescription, const QString &title,
-                  const QStringList &list);
+                  const QStringList &list) const;
 
     /**
      * Prints several files as one job on the current printer.
@@ -361,7 +361,7 @@ public:
      * @param list an option list.
      * @return the job number, 0 on failure (see getCupsError()).
      */
-    int printFiles(const QStringList &fileNames, const QString &title, const QStringList &list);
+    int printFiles(const QStringList &fileNames, const QString &title, const QStringList &list) const;
 
     /** @} */
 

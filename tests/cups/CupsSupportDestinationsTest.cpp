@@ -188,6 +188,8 @@ private slots:
     void ppdFileIsMarkedWithDefaultsAndSavedOptions();
     void closedPpdFileIsOpenedAgainWithFreshMarks();
     void noPpdFileOfRawQueue();
+    void missingPpdFileIsAskedForOnce();
+    void ppdFileComesBackWithTheScheduler();
     void unreadablePpdFile();
     void temporaryPpdFilesAreRemoved();
     void setCurrentPrinterChangesThePpdFile();
@@ -217,6 +219,9 @@ private slots:
     void nothingIsSavedBeforeSetDests();
     void setDestsOfPrinterWithoutPpdFile();
     void errorText();
+
+private:
+    bool spoilPpdFile() const;
 };
 
 void CupsSupportDestinationsTest::firstIsCurrentWithoutDefault()
@@ -336,15 +341,50 @@ void CupsSupportDestinationsTest::noPpdFileOfRawQueue()
     QCOMPARE(cups->getDarkness(), 7);
 }
 
+void CupsSupportDestinationsTest::missingPpdFileIsAskedForOnce()
+{
+    // What makes it ask again.
+    for (void (*const again)(CupsSupport &) : {
+             +[](CupsSupport &cups) { cups.closePpdFile(); },
+             +[](CupsSupport &cups) { cups.setCurrentPrinter(3); },
+             +[](CupsSupport &cups) { cups.getDefaultPrinter(); },
+         }) {
+        scheduler->addQueue("LP4", QString());
+        scheduler->startRequests();
+        const auto cups = supportFor(3);
+        QCOMPARE(cups->getDarkness(), 7);
+        QVERIFY(cups->getPpdFile() == nullptr);
+        QCOMPARE(scheduler->requests().filter("LP4.ppd").size(), 1);
+        scheduler->setPpd("LP4", PrivateScheduler::samplePpd("few-options"));
+        QVERIFY(cups->getPpdFile() == nullptr);
+        again(*cups);
+        QCOMPARE(cups->getDarkness(), 10);
+        scheduler->removeQueue("LP4");
+    }
+}
+
+void CupsSupportDestinationsTest::ppdFileComesBackWithTheScheduler()
+{
+    const auto cups = supportFor(LP3);
+    QVERIFY(cups->getPpdFile() == nullptr); // there is none
+    scheduler->stop();
+    cups->setCurrentPrinter(LP2);
+    QVERIFY(cups->getPpdFile() == nullptr); // nobody knows
+    scheduler->start();
+    QCOMPARE(cups->getDarkness(), 10);
+}
+
+// Makes the PPD file of LP2 one that cannot be read; lpadmin would refuse it.
+bool CupsSupportDestinationsTest::spoilPpdFile() const
+{
+    QFile file(scheduler->dir() + "/etc/ppd/LP2.ppd");
+    return file.open(QIODevice::WriteOnly) && file.write("no PPD file\n") > 0;
+}
+
 void CupsSupportDestinationsTest::unreadablePpdFile()
 {
     const auto cups = supportFor(LP2);
-    // lpadmin would refuse it.
-    QFile file(scheduler->dir() + "/etc/ppd/LP2.ppd");
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.write("no PPD file\n") > 0);
-    file.close();
-
+    QVERIFY(spoilPpdFile());
     cups->setCurrentPrinter(LP2);
     QVERIFY(cups->getPpdFile() == nullptr);
     QCOMPARE(cups->getDarkness(), 7);
@@ -366,6 +406,10 @@ void CupsSupportDestinationsTest::temporaryPpdFilesAreRemoved()
         QCOMPARE(QDir(folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
         cups->setCurrentPrinter(LP2);
         cups->setCurrentPrinter(LP3);
+        QVERIFY(spoilPpdFile());
+        cups->setCurrentPrinter(LP2);
+        QVERIFY(cups->getPpdFile() == nullptr);
+        scheduler->setPpd("LP2", PrivateScheduler::samplePpd("label-300"));
     }
     QCOMPARE(QDir(folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
     if (before.isNull()) {
@@ -612,6 +656,7 @@ void CupsSupportDestinationsTest::printerForSelectOption()
     QCOMPARE(cups.printerForSelectOption("printer-info", "raw printer"), -1);
     QCOMPARE(cups.printerForSelectOption("printer-info", ""), -1);
     QCOMPARE(cups.printerForSelectOption("Darkness", "4"), int(LP2)); // the first one; LP1 has no such option
+    QCOMPARE(cups.printerForSelectOption("darkness", "4"), int(LP2)); // libcups does not tell the case of keywords
     QCOMPARE(cups.printerForSelectOption("Darkness", "10"), -1); // the PPD file's default is not a saved option
     QCOMPARE(cups.printerForSelectOption("NoSuchOption", "4"), -1);
 }
@@ -632,6 +677,7 @@ void CupsSupportDestinationsTest::setDestsRemovesDefaultsInOnePass_data()
         {"GapOffset", "0.000", "GapSize", "3.000", "MarkOffset", "0.000", "MarkSize", "5.000"})
                                << QStringList({"GapSize", "3.000", "MarkSize", "5.000"});
     QTest::newRow("same number, other text") << QStringList({"GapOffset", "0.0"}) << QStringList({"GapOffset", "0.0"});
+    QTest::newRow("same flag, other text") << QStringList({"Direct", "false"}) << QStringList({"Direct", "false"});
     QTest::newRow("not in the PPD file") << QStringList({"MyOption", "1"}) << QStringList({"MyOption", "1"});
 }
 

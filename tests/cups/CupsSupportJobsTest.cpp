@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <memory>
 #include <vector>
 
 class CupsSupportJobsTest : public CupsTest
@@ -38,6 +39,7 @@ private slots:
     void printFileOnOtherPrinterWithoutCurrentOne();
     void printFileTitle_data();
     void printFileTitle();
+    void printFileTitleOfNameBeyondLatin1();
     void printFileSendsSavedAndGivenOptions();
     void printFileOfOtherPrinterSendsItsOptions();
     void printFileOnInstance();
@@ -46,6 +48,7 @@ private slots:
     void printFileWithNameBeyondAscii();
     void printFileFailures();
     void printFiles();
+    void printFilesTitle_data();
     void printFilesTitle();
     void printFilesSendsSavedAndGivenOptions();
     void printFilesOnCurrentPrinter();
@@ -93,6 +96,10 @@ void CupsSupportJobsTest::setOptions_data()
                                  << QStringList({"Darkness", "4"});
     QTest::newRow("the last one counts") << QStringList({"Darkness", "5", "Darkness", "6"}) << true
                                          << QStringList({"Darkness", "6", "Feed", "24"});
+    QTest::newRow("keyword in other case")
+        << QStringList({"darkness", "5"}) << true << QStringList({"darkness", "5", "Feed", "24"});
+    QTest::newRow("value in other case") << QStringList({"Direct", "True", "Direct", "true"}) << true
+                                         << QStringList({"Darkness", "4", "Feed", "24", "Direct", "true"});
     QTest::newRow("there and back") << QStringList({"Darkness", "5", "Darkness", "4"}) << true << unchanged;
 }
 
@@ -153,7 +160,7 @@ void CupsSupportJobsTest::deleteOptions()
     QCOMPARE(saved(*cups, "Feed"), QByteArray("24"));
     cups->deleteOptions({});
     QCOMPARE(cups->cupsOptions().size(), before.size() + 2);
-    cups->deleteOptions({"Feed", "Feed"});
+    cups->deleteOptions({"feed", "Feed"}); // one option to libcups
     QCOMPARE(cups->cupsOptions(), before);
 }
 
@@ -186,6 +193,9 @@ void CupsSupportJobsTest::ppdDefaults()
                            "orientation-requested 5 JobStart None JobEnd None LabelStart None LabelEnd None");
     const auto cups = supportFor(LP1);
     QCOMPARE(cups->ppdDefaults(), expected.split(' '));
+    // Unlike what is saved, a PPD file is in the user's encoding.
+    setPpdDefault(*cups, "LabelEnd", "Größe");
+    QCOMPARE(cups->ppdDefaults().last(), QString::fromUtf8("Größe"));
 }
 
 void CupsSupportJobsTest::ppdDefaultsOfRawQueue()
@@ -275,6 +285,7 @@ void CupsSupportJobsTest::collectMarkedOptionsHelper()
     HandMadeOption several("Several", "b", {"a", "b", "c"});
     HandMadeOption otherwise("Otherwise", "a", {"a", "b"});
     HandMadeOption otherCase("OtherCase", "a", {"a", "A"});
+    HandMadeOption beyondAscii("Größe", "a", {"a", "ä"});
     std::vector<ppd_option_t> options{
         changed.mark(2).record(),
         unchanged.mark(0).record(),
@@ -282,6 +293,7 @@ void CupsSupportJobsTest::collectMarkedOptionsHelper()
         several.mark(0).mark(1).mark(2).record(),
         otherwise.mark(1, 2).record(),
         otherCase.mark(1).record(),
+        beyondAscii.mark(1).record(),
     };
     HandMadeOption hidden("Hidden", "a", {"a", "b"});
     std::vector<ppd_option_t> subgroupOptions{hidden.mark(1).record()};
@@ -292,7 +304,8 @@ void CupsSupportJobsTest::collectMarkedOptionsHelper()
     const CupsSupport cups;
     QStringList list{"before", "it"};
     cups.collectMarkedOptionsHelper(list, &group);
-    QCOMPARE(list, QStringList({"before", "it", "Changed", "c", "Several", "a", "Several", "c", "OtherCase", "A"}));
+    QCOMPARE(list, QStringList({"before", "it", "Changed", "c", "Several", "a", "Several", "c", "OtherCase", "A",
+                                QString::fromUtf8("Größe"), QString::fromUtf8("ä")}));
 }
 
 void CupsSupportJobsTest::collectMarkedOptionsOfGroup()
@@ -353,7 +366,7 @@ void CupsSupportJobsTest::collectMarkedOptionsOfPpdFile()
 
 void CupsSupportJobsTest::printFile()
 {
-    auto cups = supportFor(LP1);
+    const std::unique_ptr<const CupsSupport> cups = supportFor(LP1);
     const int number = cups->printFile(file("a.txt", "Text\n"), QString(), "A title", {});
     QVERIFY(number > 0);
     const CapturedJob printed = scheduler->job(number);
@@ -413,6 +426,7 @@ void CupsSupportJobsTest::printFileTitle_data()
     QTest::newRow("title") << "A title" << QByteArray("A title");
     QTest::newRow("blank") << " " << QByteArray(" ");
     QTest::newRow("quotes") << "It's \"quoted\" \\" << QByteArray("It's \"quoted\" \\");
+    QTest::newRow("Latin-1") << QString::fromUtf8("Größe") << QByteArray("Größe");
     QTest::newRow("beyond Latin-1") << QString::fromUtf8("5 €") << QByteArray("5 ?");
     QTest::newRow("empty") << "" << QFile::encodeName(folder.filePath("a.txt"));
     QTest::newRow("null") << QString() << QFile::encodeName(folder.filePath("a.txt"));
@@ -427,20 +441,33 @@ void CupsSupportJobsTest::printFileTitle()
     QTEST(scheduler->job(number).title, "printed");
 }
 
+// The file's name in the title's place is reduced like any title.
+void CupsSupportJobsTest::printFileTitleOfNameBeyondLatin1()
+{
+    const int number =
+        supportFor(LP1)->printFile(file(QString::fromUtf8("Größe €.txt"), "Text\n"), QString(), QString(), {});
+    QVERIFY(number > 0);
+    QCOMPARE(scheduler->job(number).title, QByteArray(QFile::encodeName(folder.filePath("Größe ?.txt"))));
+}
+
 void CupsSupportJobsTest::printFileSendsSavedAndGivenOptions()
 {
     auto cups = supportFor(LP1);
-    cups->setOptions({"Darkness", "4", "Feed", "24", "JobStart", "a b"});
+    cups->setOptions({"Aaa", "1", "Darkness", "4", "Feed", "24", "JobStart", "a b"}); // no option sorts before Aaa
     const QStringList before = cups->cupsOptions();
-    const int number = cups->printFile(file("a.txt", "Text\n"), QString(), "title",
-                                       {"Feed", "100", "PrintSpeed", "4", "PrintSpeed", "5", "CutMedia"});
+    const int number = cups->printFile(
+        file("a.txt", "Text\n"), QString(), "title",
+        {"Feed", "100", "PrintSpeed", "4", "PrintSpeed", "5", "JobEnd", QString::fromUtf8("Größe €"), "CutMedia"});
     QVERIFY(number > 0);
     const CapturedJob printed = scheduler->job(number);
+    QCOMPARE(printed.option("Aaa"), QByteArray("1"));
     QCOMPARE(printed.option("Darkness"), QByteArray("4"));
     QCOMPARE(printed.option("JobStart"), QByteArray("a b"));
     QCOMPARE(printed.option("Feed"), QByteArray("100")); // overridden
     QCOMPARE(printed.option("PrintSpeed"), QByteArray("5")); // the later one
+    QCOMPARE(printed.option("JobEnd"), QByteArray("Gr\366\337e ?")); // Latin-1, as what is saved
     QVERIFY(printed.option("CutMedia").isNull()); // has no value
+    QVERIFY(printed.option("100").isNull()); // is a value
     // For this job only.
     QCOMPARE(cups->cupsOptions(), before);
     QVERIFY(!QFile::exists(optionsPath()));
@@ -511,7 +538,7 @@ void CupsSupportJobsTest::printFileFailures()
 
 void CupsSupportJobsTest::printFiles()
 {
-    auto cups = supportFor(LP1);
+    const std::unique_ptr<const CupsSupport> cups = supportFor(LP1);
     const QStringList names{file("b.txt", "second\n"), file("a.txt", "first\n"), file("c.txt", "third\n")};
     const int number = cups->printFiles({names.at(1), names.at(0), names.at(2)}, "Three files", {});
     QVERIFY(number > 0);
@@ -521,12 +548,21 @@ void CupsSupportJobsTest::printFiles()
     QCOMPARE(printed.data, QByteArray("first\nsecond\nthird\n"));
 }
 
+void CupsSupportJobsTest::printFilesTitle_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QByteArray>("printed");
+    QTest::newRow("null") << QString() << QByteArray("");
+    QTest::newRow("Latin-1 and beyond") << QString::fromUtf8("Größe 5 €") << QByteArray("Größe 5 ?");
+}
+
 void CupsSupportJobsTest::printFilesTitle()
 {
+    QFETCH(QString, title);
     auto cups = supportFor(LP1);
-    const int number = cups->printFiles({file("a.txt", "Text\n")}, QString(), {});
+    const int number = cups->printFiles({file("a.txt", "Text\n")}, title, {});
     QVERIFY(number > 0);
-    QCOMPARE(scheduler->job(number).title, QByteArray(""));
+    QTEST(scheduler->job(number).title, "printed");
 }
 
 void CupsSupportJobsTest::printFilesSendsSavedAndGivenOptions()

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -458,6 +459,12 @@ void CupsSupportOptionsTest::getValue()
     QVERIFY(cups->getValue("darkness") == nullptr); // upper and lower case differ
     QCOMPARE(QByteArray(cups->getValue("printer-info")), QByteArray("First Printer"));
     QVERIFY(cups->getValue("NoSuchOption") == nullptr);
+    // An option without a value counts as not saved.
+    char *&value = cups->printerOption("Darkness")->value;
+    char *const original = std::exchange(value, nullptr);
+    const QByteArray withoutValue = cups->getValue("Darkness");
+    value = original;
+    QCOMPARE(withoutValue, QByteArray("10"));
     // The mark is not asked.
     ppdMarkOption(cups->getPpdFile(), "PrintSpeed", "5");
     QCOMPARE(QByteArray(cups->getValue("PrintSpeed")), QByteArray("3"));
@@ -491,6 +498,8 @@ void CupsSupportOptionsTest::setValue()
     QCOMPARE(cups->setValue("GapSize", "3.000"), before + 1);
     QCOMPARE(cups->setValue("Darkness", "10"), before);
     QVERIFY(cups->printerOption("Darkness") == nullptr);
+    QCOMPARE(cups->setValue("Direct", "false"), before + 1); // the default is "False"
+    QCOMPARE(cups->setValue("Direct", "False"), before);
     QCOMPARE(cups->setValue("NoSuchOption", "x"), before + 1);
     QCOMPARE(cups->setValue("NoSuchOption", ""), before + 1);
     QCOMPARE(saved(*cups, "NoSuchOption"), QByteArray(""));
@@ -716,6 +725,7 @@ void CupsSupportOptionsTest::setString_data()
     row("Latin-1", QString::fromUtf8("Größe"),
         "Gr\xf6\xdf"
         "e|");
+    row("NUL", QString("A") + QChar(0) + "B", "A?B|");
     row("beyond Latin-1", QString::fromUtf8("5 € 印"), "5 ? ?|");
 }
 

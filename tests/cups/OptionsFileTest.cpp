@@ -208,8 +208,7 @@ void OptionsFileTest::valueReadsBack_data()
              "a\fb",
              "\v",
              "\f",
-             "Gr\xf6\xdf"
-             "e",
+             "Gr\366\337e", // in octal, which ends after three digits
              "\xa0",
              "\xff\x80",
              "5 \xe2\x82\xac",

@@ -73,9 +73,14 @@ void PresetOrcaTest::switchesList()
 void PresetOrcaTest::laterWrites()
 {
     QVERIFY(PresetFiles::reset());
+    // What has been read by then was read with the usual list.
+    QVERIFY(PresetFiles::writeFile(PresetFiles::script("LP1", "Read"), "lpoptions -pLP1 -oShift=1 -oStart=2\n"));
+    Preset read("LP1", "Read", {}, QString(), QString(), -1);
+    QCOMPARE(read.name(), QString("Read"));
     const QStringList options{"Start", "1.000", "Stop", "2.000", "GapOffset", "3.000", "Shift", "4.000"};
     Preset earlier("LP1", "Earlier", {}, QString(), QString(), -1);
     Preset orca("LP-ORCA", "Orca", options, QString(), QString(), -1);
+    QCOMPARE(read.options().join(' '), QString("Start 2"));
     QVERIFY(earlier.setOptions(options));
     QCOMPARE(earlier.options().join(' '), QString("GapOffset 3.000 Shift 4.000 Stop 2.000"));
 

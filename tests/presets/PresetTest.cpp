@@ -76,6 +76,7 @@ private Q_SLOTS:
     void clearOptions_data();
     void clearOptions();
     void clearOptionsDoesNotRead();
+    void clearOptionsOfRead();
 
     void loadReplacesWhatTheScriptHolds();
     void loadKeepsWhatTheScriptLacks();
@@ -88,6 +89,7 @@ private Q_SLOTS:
     void saveDoesNothing();
     void saveUnknownState();
     void saveWritesScript();
+    void saveKeepsWhatWasRead();
     void saveWritesReadableScript_data();
     void saveWritesReadableScript();
     void saveFails();
@@ -316,6 +318,22 @@ void PresetTest::setters_data()
         p.setName("");
     };
     row("still no name", stillNoName, Preset::Clean);
+    // Whatever the state was; a preset that was to be deleted is not any more.
+    const auto deletedName = [](Preset &p) {
+        p.setState(Preset::Deleted);
+        p.setName("Other");
+    };
+    row("name of deleted", deletedName, Preset::Modified);
+    const auto deletedDescription = [](Preset &p) {
+        p.setState(Preset::Deleted);
+        p.setDescription("x");
+    };
+    row("description of deleted", deletedDescription, Preset::Modified);
+    const auto deletedIndex = [](Preset &p) {
+        p.setState(Preset::Deleted);
+        p.setIndex(0);
+    };
+    row("index of deleted", deletedIndex, Preset::Modified);
 }
 
 void PresetTest::setters()
@@ -421,6 +439,24 @@ void PresetTest::clearOptionsDoesNotRead()
     QVERIFY(preset.clearOptions());
     QVERIFY(preset.save({}));
     QCOMPARE(readFile(preset.pathName()), QByteArray("#!/bin/bash\nlpoptions -pLP1\n"));
+}
+
+// The script has been read, though nobody has asked for its options.
+void PresetTest::clearOptionsOfRead()
+{
+    QVERIFY(writeScript());
+    UserPreset preset;
+    preset.name();
+    QCOMPARE(preset.state(), Preset::Clean);
+    QVERIFY(preset.clearOptions());
+    QCOMPARE(preset.state(), Preset::Modified);
+    QCOMPARE(preset.options(), QStringList());
+
+    QVERIFY(writeScript("#!/bin/bash\n"));
+    UserPreset without;
+    without.name();
+    QVERIFY(!without.clearOptions());
+    QCOMPARE(without.state(), Preset::Clean);
 }
 
 // ----- load -----
@@ -554,6 +590,20 @@ void PresetTest::saveWritesScript()
                                                          "ppdhack 4.00 6.13 LP1\n"));
     QVERIFY(QFileInfo(script("LP1", "Wide")).isExecutable());
     QCOMPARE(PresetFiles::entries(PresetFiles::folder("LP1")), QStringList{"Wide.sh"});
+}
+
+// Also what nobody has asked for.
+void PresetTest::saveKeepsWhatWasRead()
+{
+    QVERIFY(writeScript());
+    UserPreset preset;
+    preset.setDescription("Other");
+    QVERIFY(preset.save({}));
+    QCOMPARE(readFile(preset.pathName()), QByteArray("#!/bin/bash\n"
+                                                     "#name=Wide labels\n"
+                                                     "#description=Other\n"
+                                                     "lpoptions -pLP1 -oDarkness=12 -oDirect=True\n"
+                                                     "ppdhack 4.00 6.00 LP1\n"));
 }
 
 void PresetTest::saveWritesReadableScript_data()

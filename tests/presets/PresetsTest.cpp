@@ -157,6 +157,7 @@ void PresetsTest::listsFiles_data()
     QTest::newRow("sorted by code") << "Z.sh" << QStringList{"Z", "m"};
     QTest::newRow("suffix twice") << "x.sh.sh" << QStringList{"m", "x"};
     QTest::newRow("suffix inside") << "x.sh.y.sh" << QStringList{"m", "x.y"};
+    QTest::newRow("suffix inside in upper case") << "x.SH.sh" << QStringList{"m", "x.SH"};
     QTest::newRow("blank and mark") << "x _.sh" << QStringList{"m", "x _"};
     QTest::newRow("hidden preset") << "_x.sh" << QStringList{"m"};
     QTest::newRow("hidden file") << ".x.sh" << QStringList{"m"};
@@ -247,7 +248,8 @@ void PresetsTest::listsNothingForHostilePrinter()
     QVERIFY(writeScript("a"));
     QVERIFY(writeFile(home + "/outside.sh", ""));
     QVERIFY(QDir::setCurrent(home));
-    const Presets presets(printer);
+    Presets presets(printer);
+    QVERIFY(presets.load());
     QCOMPARE(presets.getPresetNames(), QStringList());
     QCOMPARE(presets.linkPathName(), QString());
     QVERIFY(QDir::setCurrent("/") && QFile::remove(home + "/outside.sh"));
@@ -278,7 +280,8 @@ void PresetsTest::linkNamesCurrent_data()
 void PresetsTest::linkNamesCurrent()
 {
     QFETCH(QString, target);
-    QVERIFY(writeScripts({"a", "b", "_current"}));
+    QVERIFY(writeScripts({"b", "_current"}));
+    QVERIFY(writeScript("a", "#name=b\n")); // the link holds a file name, not a name
     QCOMPARE(symlink(QFile::encodeName(target).constData(), QFile::encodeName(link()).constData()), 0);
     QTEST(nameOf(Presets("LP1").currentPreset()), "current");
 }
@@ -698,6 +701,8 @@ void PresetsTest::saveLinksCurrent()
         QVERIFY(writeFile(link(), "text"));
     else if (!before.isEmpty())
         QCOMPARE(symlink(QFile::encodeName(before).constData(), QFile::encodeName(link()).constData()), 0);
+    // What an earlier process of this number left behind when it ended in between.
+    QVERIFY(QFile::link("/nowhere", link() + '.' + QString::number(QCoreApplication::applicationPid())));
     Presets presets("LP1");
     presets.setCurrentPreset(presets.findPreset("b"));
     QVERIFY(presets.save({}));
