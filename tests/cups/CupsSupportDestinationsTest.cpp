@@ -21,12 +21,18 @@
 // The destinations that are flagged as default beside the real one, see lastOfSeveralDefaultsWins().
 static QByteArrayList extraDefaults;
 
+// Whether the user has but one destination, the first.
+static bool isOneDestination = false;
+
 // libcups flags no second destination with a scheduler alone; destinations found in the network can be. So the flags
 // are added on the way.
 int cupsGetDests2(http_t *http, cups_dest_t **dests)
 {
     static const auto real = reinterpret_cast<decltype(&cupsGetDests2)>(dlsym(RTLD_NEXT, "cupsGetDests2"));
-    const int count = real(http, dests);
+    int count = real(http, dests);
+    while (isOneDestination && count > 1) {
+        count = cupsRemoveDest((*dests)[1].name, (*dests)[1].instance, count, dests);
+    }
     for (int i = 0; i < count; ++i) {
         const cups_dest_t &dest = (*dests)[i];
         QByteArray name = dest.name;
@@ -179,6 +185,7 @@ class CupsSupportDestinationsTest : public CupsTest
 
 private slots:
     void firstIsCurrentWithoutDefault();
+    void oneDestination();
     void serverDefaultIsCurrent();
     void userDefaultIsCurrent_data();
     void userDefaultIsCurrent();
@@ -230,6 +237,22 @@ void CupsSupportDestinationsTest::firstIsCurrentWithoutDefault()
     QCOMPARE(cups.getDestCount(), 3);
     QCOMPARE(cups.getCurrentIndex(), 0);
     QCOMPARE(cups.getCurrentQueueName(), QString("LP1"));
+}
+
+void CupsSupportDestinationsTest::oneDestination()
+{
+    isOneDestination = true;
+    CupsSupport cups;
+    isOneDestination = false;
+    QCOMPARE(cups.getDestCount(), 1);
+    QCOMPARE(cups.getCurrentQueueName(), QString("LP1"));
+    QCOMPARE(cups.getCurrentPrinterName(), QString("First Printer"));
+    QVERIFY(cups.getPpdFile() != nullptr);
+    QCOMPARE(cups.printerForSelectOption("printer-info", "First Printer"), int(LP1));
+    QVERIFY(cups.setDarkness(4) > 0);
+    QCOMPARE(cups.getDarkness(), 4);
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(saved(*supportFor(LP1), "Darkness"), QByteArray("4"));
 }
 
 void CupsSupportDestinationsTest::serverDefaultIsCurrent()
@@ -518,6 +541,9 @@ void CupsSupportDestinationsTest::getDefaultPrinterReturnsToTheDefault()
     cups.setCurrentPrinter(LP1);
     QCOMPARE(cups.getDefaultPrinter(), int(LP2));
     QCOMPARE(cups.getCurrentIndex(), int(LP2));
+    scheduler->setUserDefault("LP1"); // the first of all
+    QCOMPARE(cups.getDefaultPrinter(), int(LP1));
+    QCOMPARE(cups.getCurrentIndex(), int(LP1));
 }
 
 void CupsSupportDestinationsTest::getDefaultPrinterKeepsIndexWithoutDefault()

@@ -377,6 +377,7 @@ void PresetScriptTest::pageSizeLine_data()
     QTest::newRow("zero") << QSizeF(0, 0) << QByteArray();
     QTest::newRow("no width") << QSizeF(0, 50) << QByteArray();
     QTest::newRow("no height") << QSizeF(50, 0) << QByteArray();
+    QTest::newRow("small") << QSizeF(0.5, 0.25) << QByteArray("ppdhack 0.50 0.25 LP1\n");
     QTest::newRow("both") << QSizeF(1.5, 50) << QByteArray("ppdhack 1.50 50.00 LP1\n");
 }
 
@@ -786,6 +787,7 @@ void PresetScriptTest::parsePpdhack_data()
     row("carriage returns", "x\rppdhack 1 2 LP1\r", false, untouched);
     row("case", "PPDHACK 1 2 LP1\n", false, untouched);
     row("behind a NUL", QByteArray("x\0\nppdhack 1 2 LP1\n", 19), false, untouched);
+    row("behind a NUL at the start", QByteArray("\0\nppdhack 1 2 LP1\n", 18), false, untouched);
     row("before a NUL", QByteArray("ppdhack 1 2\0 LP1\n", 17), true, QSizeF(1, 2));
 }
 
