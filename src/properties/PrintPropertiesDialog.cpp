@@ -828,6 +828,7 @@ void PrintPropertiesDialog::changeEvent(QEvent *event)
         makeRoom();
 }
 
+// All texts but the items of the media type and cut lists, which deliberately stay those that the dialog was opened with.
 void PrintPropertiesDialog::retranslate()
 {
     // Numbers have no language, and a stored one beyond the slider's range is shown as it is.
