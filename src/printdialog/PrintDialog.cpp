@@ -8,8 +8,11 @@
 #include "Scheduler.h"
 #include "ui_PrintDialog.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QIcon>
 #include <QMessageBox>
+#include <QPixmapCache>
 #include <QPrinter>
 #include <QStyle>
 
@@ -71,6 +74,27 @@ void showText(QLabel *label, const QString &text)
     label->setToolTip(text.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()));
 }
 
+/**
+ * Gives the button the style's icon. In the one size that it shows, and kept for as long as nothing about it changes:
+ * without an icon theme, styles decode theirs from files in all sizes, which would be a quarter of what an opening takes.
+ */
+void showStyleIcon(QAbstractButton *button, QStyle::StandardPixmap icon)
+{
+    const QStyle *style = button->style();
+    const QString key = QStringLiteral("PropertiesDialog %1 %2 %3 %4 %5 %6")
+                            .arg(QLatin1String(style->metaObject()->className()), QIcon::themeName())
+                            .arg(icon)
+                            .arg(button->iconSize().width())
+                            .arg(qApp->devicePixelRatio())
+                            .arg(QGuiApplication::palette().cacheKey());
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = style->standardIcon(icon).pixmap(button->iconSize());
+        QPixmapCache::insert(key, pixmap);
+    }
+    button->setIcon(QIcon(pixmap));
+}
+
 } // namespace
 
 PrintDialog::PrintDialog(QWidget *parent)
@@ -79,8 +103,8 @@ PrintDialog::PrintDialog(QWidget *parent)
 {
     ui->setupUi(this);
     ui->stackedWidget->setCurrentWidget(ui->page_Simple);
-    ui->yesButton->setIcon(style()->standardIcon(QStyle::SP_DialogYesButton));
-    ui->noButton->setIcon(style()->standardIcon(QStyle::SP_DialogNoButton));
+    showStyleIcon(ui->yesButton, QStyle::SP_DialogYesButton);
+    showStyleIcon(ui->noButton, QStyle::SP_DialogNoButton);
     ui->yesButton->setDefault(true); // else Qt would give Enter to Properties
     ui->numCopies->setRange(1, maximumCopies);
     setNumCopies(1);
@@ -95,8 +119,8 @@ PrintDialog::PrintDialog(QWidget *parent, QPrinter *hostPrinter, CupsSupport *cu
 {
     ui->setupUi(this);
     ui->stackedWidget->setCurrentWidget(ui->page_SelectPrinter);
-    ui->yesButton_2->setIcon(style()->standardIcon(QStyle::SP_DialogYesButton));
-    ui->noButton_2->setIcon(style()->standardIcon(QStyle::SP_DialogNoButton));
+    showStyleIcon(ui->yesButton_2, QStyle::SP_DialogYesButton);
+    showStyleIcon(ui->noButton_2, QStyle::SP_DialogNoButton);
     ui->yesButton_2->setDefault(true);
     // The box that this form shows is numCopies_2, and its minimum lifts it to 1. numCopies() and setNumCopies() are
     // about the other form's box here as well: hosts count on setNumCopies() not touching what the user sees.

@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
+#include <QProxyStyle>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -292,6 +293,7 @@ private Q_SLOTS:
     void propertiesButtonsEndWithMinusOne();
     void exec2RunsThePropertiesDialog_data();
     void exec2RunsThePropertiesDialog();
+    void iconsAreThoseOfTheStyleNow();
     void exec2RunsItForEveryNegativeResult();
 
     void languageChangeKeepsThePrinterTexts();
@@ -1074,6 +1076,33 @@ void PrintDialogTest::exec2RunsThePropertiesDialog()
     QCOMPARE(properties.runs, runs);
     QVERIFY(clicker.buttons.isEmpty());
     QVERIFY(!form.isVisible());
+}
+
+// Icons are kept between openings; those of an earlier style are of no use.
+void PrintDialogTest::iconsAreThoseOfTheStyleNow()
+{
+    class BlueStyle : public QProxyStyle
+    {
+    public:
+        QIcon standardIcon(StandardPixmap, const QStyleOption *, const QWidget *) const override
+        {
+            QPixmap pixmap(16, 16);
+            pixmap.fill(Qt::blue);
+            return QIcon(pixmap);
+        }
+    };
+    const auto middle = [] {
+        const PrintDialog form(nullptr);
+        return image(child<QAbstractButton>(form, "yesButton")->icon()).pixelColor(8, 8);
+    };
+    const QString usual = QApplication::style()->objectName();
+    const QColor before = middle();
+    QApplication::setStyle(new BlueStyle);
+    const QColor inBlue = middle();
+    QApplication::setStyle(usual);
+    QCOMPARE(inBlue, QColor(Qt::blue));
+    QCOMPARE(middle(), before);
+    QVERIFY(before != inBlue);
 }
 
 void PrintDialogTest::exec2RunsItForEveryNegativeResult()
