@@ -27,7 +27,7 @@ double millisecondsSince(Clock::time_point start)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-/** Reports each dialog once, when its first paint event and those of everything in it are over. */
+// Reports each dialog once, when its first paint event and those of everything in it are over.
 class PaintWatch : public QObject
 {
 public:
@@ -39,9 +39,8 @@ public:
 
     bool eventFilter(QObject *object, QEvent *event) override
     {
-        if (event->type() != QEvent::Paint) {
+        if (event->type() != QEvent::Paint)
             return false;
-        }
         auto *dialog = qobject_cast<QDialog *>(object);
         if (dialog && !seen.contains(dialog)) {
             seen.insert(dialog);
@@ -57,20 +56,18 @@ private:
     QSet<QObject *> seen;
 };
 
-/** Qt's offscreen platform says with each window what it cannot do. */
+// Qt's offscreen platform says with each window what it cannot do.
 void ignoreMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    if (type == QtFatalMsg || !message.startsWith("This plugin does not support")) {
+    if (type == QtFatalMsg || !message.startsWith("This plugin does not support"))
         std::fprintf(stderr, "%s\n", qPrintable(message));
-    }
 }
 
 void writeFile(const QString &path, const QByteArray &content)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(path));
-    }
 }
 
 QByteArray printerEntry(int index)
@@ -131,9 +128,8 @@ Benchmark::Extent::Extent(int argc, char **argv)
 
 void Benchmark::Extent::repeat(const std::function<void(bool)> &round) const
 {
-    for (int i = 0; i < warmUps + runs; ++i) {
+    for (int i = 0; i < warmUps + runs; ++i)
         round(i >= warmUps);
-    }
 }
 
 Benchmark::Table::Table(const QString &title_, const QStringList &headings)
@@ -160,13 +156,12 @@ Benchmark::Table::~Table()
 int Benchmark::Table::widthOf(int column) const
 {
     int width = 0;
-    for (const QStringList &row : rows) {
+    for (const QStringList &row : rows)
         width = std::max(width, int(row.at(column).size()));
-    }
     return width;
 }
 
-/** Numbers are aligned with each other at their ends, words at their beginnings. */
+// Numbers are aligned with each other at their ends, words at their beginnings.
 bool Benchmark::Table::isNumeric(int column) const
 {
     const QString cell = rows.size() > 1 ? rows[1].at(column) : QString();
@@ -198,10 +193,8 @@ Benchmark::PaintCounter::PaintCounter(QWidget *window_, int *count_)
 
 bool Benchmark::PaintCounter::eventFilter(QObject *object, QEvent *event)
 {
-    if (event->type() == QEvent::Paint && object->isWidgetType()
-        && static_cast<QWidget *>(object)->window() == window) {
+    if (event->type() == QEvent::Paint && object->isWidgetType() && static_cast<QWidget *>(object)->window() == window)
         ++*count;
-    }
     return false;
 }
 
@@ -254,9 +247,8 @@ double Benchmark::measuredInProcesses(const char *function, const Extent &extent
     Samples samples;
     for (int i = 0; i < extent.runs; ++i) {
         const TestMain::ChildResult result = TestMain::runChild(function);
-        if (result.exitCode != 0) {
+        if (result.exitCode != 0)
             qFatal("%s failed", function);
-        }
         samples.add(result.output.toDouble());
     }
     return samples.median();
@@ -298,9 +290,8 @@ QString Benchmark::ppdWithOptions(PrivateScheduler &scheduler, int options)
     for (int first = 0; first < options; first += groupSize) {
         const QByteArray group = "Extra" + QByteArray::number(first / groupSize);
         generated += "*OpenGroup: " + group + "/Extra Group\n";
-        for (int i = first; i < std::min(first + groupSize, options); ++i) {
+        for (int i = first; i < std::min(first + groupSize, options); ++i)
             generated += generatedOption(i);
-        }
         generated += "*CloseGroup: " + group + '\n';
     }
     const QByteArray behindOptions = "*DefaultFont:";
@@ -316,13 +307,11 @@ void Benchmark::saveUserOptions(PrivateScheduler &scheduler)
 int Benchmark::run(int argc, char **argv, void (*program)(const Extent &extent))
 {
     // The same for everybody, and without the X server's part.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
     const int exitCode = TestMain::prepare(argc, argv);
-    if (exitCode >= 0) {
+    if (exitCode >= 0)
         return exitCode;
-    }
     qInstallMessageHandler(ignoreMessages);
     const QApplication application(argc, argv);
     const Extent extent(argc, argv);

@@ -19,17 +19,15 @@ namespace {
 
 constexpr double goal = 2048; // KiB
 
-/** The most memory that this process has had so far, in KiB. */
+// The most memory that this process has had so far, in KiB.
 double peak()
 {
     QFile status("/proc/self/status");
     if (status.open(QIODevice::ReadOnly)) {
         const QList<QByteArray> lines = status.readAll().split('\n');
-        for (const QByteArray &line : lines) {
-            if (line.startsWith("VmHWM:")) {
+        for (const QByteArray &line : lines)
+            if (line.startsWith("VmHWM:"))
                 return line.simplified().split(' ').at(1).toDouble();
-            }
-        }
     }
     qFatal("the kernel does not tell the peak of memory");
 }
@@ -40,7 +38,7 @@ double peakOfOpening()
     return peak();
 }
 
-/** What nobody can do without: a QPrinter and the destinations in memory while the empty form is shown. */
+// What nobody can do without: a QPrinter and the destinations in memory while the empty form is shown.
 double peakOfBareForm()
 {
     const QPrinter printer(QPrinter::ScreenResolution);
@@ -58,15 +56,14 @@ double peakOfQt()
     return peak();
 }
 
-/** The bytes that each opening leaves behind in this process. */
+// The bytes that each opening leaves behind in this process.
 double keptByOpening(int openings)
 {
     peakOfOpening();
     peakOfOpening();
     const auto before = mallinfo2().uordblks;
-    for (int i = 0; i < openings; ++i) {
+    for (int i = 0; i < openings; ++i)
         peakOfOpening();
-    }
     return (double(mallinfo2().uordblks) - double(before)) / openings;
 }
 
@@ -88,10 +85,10 @@ void program(const Extent &extent)
     }
 }
 
-const TestMain::ChildFunction opening("opening",
-                                      [](int &argc, char **argv) { return printMeasured(argc, argv, peakOfOpening); });
-const TestMain::ChildFunction bare("bare",
-                                   [](int &argc, char **argv) { return printMeasured(argc, argv, peakOfBareForm); });
+const TestMain::ChildFunction opening(
+    "opening", [](int &argc, char **argv) { return printMeasured(argc, argv, peakOfOpening); });
+const TestMain::ChildFunction bare(
+    "bare", [](int &argc, char **argv) { return printMeasured(argc, argv, peakOfBareForm); });
 const TestMain::ChildFunction qt("qt", [](int &argc, char **argv) { return printMeasured(argc, argv, peakOfQt); });
 
 } // namespace

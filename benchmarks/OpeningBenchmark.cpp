@@ -49,7 +49,7 @@ enum Part {
     PartCount
 };
 
-/** The dialog, which tells how long it takes to load its fields. */
+// The dialog, which tells how long it takes to load its fields.
 class TimedDialog : public PrintPropertiesDialog
 {
 public:
@@ -64,7 +64,7 @@ protected:
     }
 };
 
-/** Opens the dialog step by step, as propertiesDialog() does. */
+// Opens the dialog step by step, as propertiesDialog() does.
 void timeParts(std::array<Samples, PartCount> &parts, bool counts)
 {
     double times[PartCount] = {};
@@ -83,12 +83,10 @@ void timeParts(std::array<Samples, PartCount> &parts, bool counts)
         times[Show] = timeToFirstPaint([&dialog] { dialog.exec(); }) - dialog.loading;
         times[LoadFields] = dialog.loading;
     }
-    for (const Part part : {BuildForm, OpenPpd, MakePrinter}) {
+    for (const Part part : {BuildForm, OpenPpd, MakePrinter})
         times[part] -= times[part - 1];
-    }
-    for (std::size_t part = 0; counts && part < PartCount; ++part) {
+    for (std::size_t part = 0; counts && part < PartCount; ++part)
         parts[part].add(times[part]);
-    }
 }
 
 // ----- what libcups takes for the same -----
@@ -108,14 +106,12 @@ void timeCups(std::array<Samples, CallCount> &calls, bool counts)
     int count = 0;
     times[GetDests] = milliseconds([&] { count = cupsGetDests(&dests); });
     const cups_dest_t *dest = cupsGetDest(nullptr, nullptr, count, dests);
-    if (dest == nullptr) {
+    if (dest == nullptr)
         qFatal("there is no default printer");
-    }
     const char *path = nullptr;
     times[GetPpd] = milliseconds([&] { path = cupsGetPPD(dest->name); });
-    if (path == nullptr) {
+    if (path == nullptr)
         qFatal("no PPD file of %s: %s", dest->name, cupsLastErrorString());
-    }
     ppd_file_t *ppd = nullptr;
     times[OpenFile] = milliseconds([&] { ppd = ppdOpenFile(path); });
     times[Mark] = milliseconds([&] {
@@ -125,9 +121,8 @@ void timeCups(std::array<Samples, CallCount> &calls, bool counts)
     unlink(path);
     ppdClose(ppd);
     cupsFreeDests(count, dests);
-    for (std::size_t call = 0; counts && call < CallCount; ++call) {
+    for (std::size_t call = 0; counts && call < CallCount; ++call)
         calls[call].add(times[call]);
-    }
 }
 
 // ----- the measurement -----
@@ -144,10 +139,10 @@ struct Measurement
 
     double cups() const
     {
-        return std::accumulate(calls.begin(), calls.end(), 0.0,
-                               [](double sum, const Samples &call) { return sum + call.median(); });
+        return std::accumulate(
+            calls.begin(), calls.end(), 0.0, [](double sum, const Samples &call) { return sum + call.median(); });
     }
-    /** What is neither QPrinter's, nor libcups', nor the form's. */
+    // What is neither QPrinter's, nor libcups', nor the form's.
     double own() const { return ours.median() - parts[MakePrinter].median() - cups() - bareForm.median(); }
 };
 
@@ -172,7 +167,7 @@ Measurement measure(const Extent &extent)
     return m;
 }
 
-/** One size in each of the tables that it belongs to. */
+// One size in each of the tables that it belongs to.
 class Report
 {
 public:
@@ -199,14 +194,12 @@ public:
                        text(m.cups() / firstCups), text(m.ours.growth()), text(m.coldOurs), text(m.coldQt),
                        text(m.coldOurs / m.coldQt)});
         QStringList cells{name};
-        for (const Samples &part : m.parts) {
+        for (const Samples &part : m.parts)
             cells << text(part.median());
-        }
         parts.addRow(cells);
         cells = QStringList{name, text(m.parts[MakePrinter].median())};
-        for (const Samples &call : m.calls) {
+        for (const Samples &call : m.calls)
             cells << text(call.median());
-        }
         cells << text(m.bareForm.median()) << text(m.ours.median()) << text(m.own())
               << withGoal(m.own() / m.ours.median(), 0.15);
         floor.addRow(cells);
@@ -232,9 +225,8 @@ QStringList requestsOf(PrivateScheduler &scheduler, const std::function<void()> 
 
 QString reasonFor(const QString &request)
 {
-    if (request.startsWith("GET ")) {
+    if (request.startsWith("GET "))
         return "the PPD file itself";
-    }
     static const QMap<QString, QString> reasons{
         {"CUPS-Get-Printers", "all destinations with their state and defaults"},
         {"CUPS-Get-Default", "which destination is the default"},
@@ -246,15 +238,19 @@ QString reasonFor(const QString &request)
 void reportRequests(PrivateScheduler &scheduler)
 {
     QMap<QString, QStringList> requests;
-    requests["opening"] = requestsOf(scheduler, [] { timeToOpen(); });
-    requests["qt"] = requestsOf(scheduler, [] { timeToQt(); });
+    requests["opening"] = requestsOf(
+        scheduler, [] { timeToOpen(); });
+    requests["qt"] = requestsOf(
+        scheduler, [] { timeToQt(); });
     requests["printer"] = requestsOf(
         scheduler, [] { const QPrinter printer(QPrinterInfo::printerInfo(queueName(0)), QPrinter::ScreenResolution); });
-    requests["dests"] = requestsOf(scheduler, [] {
-        cups_dest_t *dests = nullptr;
-        const int count = cupsGetDests(&dests);
-        cupsFreeDests(count, dests);
-    });
+    requests["dests"] = requestsOf(
+        scheduler,
+        [] {
+            cups_dest_t *dests = nullptr;
+            const int count = cupsGetDests(&dests);
+            cupsFreeDests(count, dests);
+        });
     requests["ppd"] = requestsOf(scheduler, [] { unlink(cupsGetPPD(queueName(0).toLatin1().constData())); });
     scheduler.addQueue("Plain", {});
     scheduler.setUserDefault("Plain");
@@ -262,9 +258,8 @@ void reportRequests(PrivateScheduler &scheduler)
     scheduler.setUserDefault(queueName(0));
 
     QStringList names;
-    for (const QStringList &list : std::as_const(requests)) {
+    for (const QStringList &list : std::as_const(requests))
         names << list;
-    }
     names.removeDuplicates();
     names.sort();
 
@@ -280,9 +275,8 @@ void reportRequests(PrivateScheduler &scheduler)
         neededAll += count("dests") + count("ppd");
         QStringList cells{name};
         for (const int number :
-             {count("opening"), count("printer"), beyond, count("dests"), count("ppd"), count("qt"), count("plain")}) {
+             {count("opening"), count("printer"), beyond, count("dests"), count("ppd"), count("qt"), count("plain")})
             cells << QString::number(number);
-        }
         table.addRow(cells << reasonFor(name));
     }
     const QString ppd = "GET /printers/" + queueName(0) + ".ppd";
@@ -318,8 +312,8 @@ void program(const Extent &extent)
     }
 }
 
-const TestMain::ChildFunction coldOpening("open",
-                                          [](int &argc, char **argv) { return printMeasured(argc, argv, timeToOpen); });
+const TestMain::ChildFunction coldOpening(
+    "open", [](int &argc, char **argv) { return printMeasured(argc, argv, timeToOpen); });
 const TestMain::ChildFunction coldQt("qt", [](int &argc, char **argv) { return printMeasured(argc, argv, timeToQt); });
 
 } // namespace

@@ -32,9 +32,8 @@ QByteArray scriptOf(bool landscape)
                   {"Darkness", landscape ? "3" : "12", "orientation-requested", landscape ? "4" : "3", "PrintSpeed",
                    "2", "LabelCategory", "1", "GapSize", "3.048", "MirrorPrint", "True"},
                   "Model", "What this preset is good for.", -1);
-    if (!preset.save({})) {
+    if (!preset.save({}))
         qFatal("cannot write %s", qPrintable(preset.pathName()));
-    }
     QFile file(preset.pathName());
     file.open(QIODevice::ReadOnly);
     const QByteArray script = file.readAll();
@@ -42,7 +41,7 @@ QByteArray scriptOf(bool landscape)
     return script;
 }
 
-/** Makes the folder hold @p count presets, as the library writes them. */
+// Makes the folder hold @p count presets, as the library writes them.
 void writePresets(int count)
 {
     QDir(folder()).removeRecursively();
@@ -52,37 +51,33 @@ void writePresets(int count)
         QByteArray script = scripts[i % 2];
         script.replace("#name=Model", "#name=Labels of customer " + number);
         QFile file(folder() + "/preset" + number.rightJustified(5, '0') + ".sh");
-        if (!file.open(QIODevice::WriteOnly) || file.write(script) != script.size()) {
+        if (!file.open(QIODevice::WriteOnly) || file.write(script) != script.size())
             qFatal("cannot write %s", qPrintable(file.fileName()));
-        }
     }
 }
 
-/** Reads the same files as any Qt program does. */
+// Reads the same files as any Qt program does.
 void readInPlainLoop()
 {
     const QDir dir(folder());
     const QStringList names = dir.entryList({"*.sh"}, QDir::Files);
     for (const QString &name : names) {
         QFile file(dir.filePath(name));
-        if (!file.open(QIODevice::ReadOnly) || file.readAll().isEmpty()) {
+        if (!file.open(QIODevice::ReadOnly) || file.readAll().isEmpty())
             qFatal("cannot read %s", qPrintable(name));
-        }
     }
 }
 
-/** Reads them with as little as that takes. */
+// Reads them with as little as that takes.
 void readWithSystemCalls()
 {
     DIR *const dir = opendir(QFile::encodeName(folder()).constData());
-    if (dir == nullptr) {
+    if (dir == nullptr)
         qFatal("cannot list %s", qPrintable(folder()));
-    }
     char buffer[4096];
     while (const dirent *entry = readdir(dir)) {
-        if (entry->d_name[0] == '.') {
+        if (entry->d_name[0] == '.')
             continue;
-        }
         const int file = openat(dirfd(dir), entry->d_name, O_RDONLY | O_CLOEXEC);
         while (read(file, buffer, sizeof buffer) > 0) {
         }
@@ -96,7 +91,7 @@ double timeToOpen()
     return timeToFirstPaint([] { propertiesDialog(); });
 }
 
-/** Opens the dialog, chooses two user presets in turn, and returns the median time until the fields were repainted. */
+// Opens the dialog, chooses two user presets in turn, and returns the median time until the fields were repainted.
 double timeToChoose(const Extent &extent)
 {
     Samples samples;
@@ -112,12 +107,10 @@ double timeToChoose(const Extent &extent)
                            list->setCurrentIndex(index);
                            QCoreApplication::processEvents();
                        });
-                       if (painted == 0 || list->currentIndex() != index) {
+                       if (painted == 0 || list->currentIndex() != index)
                            qFatal("the choice of a preset is not shown");
-                       }
-                       if (counts) {
+                       if (counts)
                            samples.add(time);
-                       }
                    });
                    dialog->reject();
                });
@@ -141,9 +134,8 @@ void program(const Extent &extent)
         writePresets(0);
         extent.repeat([&](bool counts) {
             const double time = timeToOpen();
-            if (counts) {
+            if (counts)
                 empty.add(time);
-            }
         });
         Samples full;
         Samples plain;
@@ -161,9 +153,8 @@ void program(const Extent &extent)
         });
         const double beyond = full.median() - empty.median();
         const double cost = 1000.0 * beyond / presets;
-        if (firstCost <= 0.0) {
+        if (firstCost <= 0.0)
             firstCost = cost;
-        }
         opening.addRow({QString::number(presets), text(full.median()), text(empty.median()), text(beyond),
                         text(plain.median()), withGoal(beyond / plain.median(), 2.0), text(cost),
                         text(cost / firstCost), text(full.growth()), text(calls.median()),

@@ -22,15 +22,13 @@ constexpr double goal = 0.2; // milliseconds
 QWidget *previewOf(const QDialog *dialog)
 {
     const QList<QWidget *> widgets = dialog->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (qstrcmp(widget->metaObject()->className(), "Preview") == 0) {
+    for (QWidget *widget : widgets)
+        if (qstrcmp(widget->metaObject()->className(), "Preview") == 0)
             return widget;
-        }
-    }
     qFatal("the dialog has no preview");
 }
 
-/** Each kind of label is painted as often. A repaint includes what lies under the preview; that is Qt's work. */
+// Each kind of label is painted as often. A repaint includes what lies under the preview; that is Qt's work.
 void measure(QDialog *dialog, int repaints)
 {
     struct Look
@@ -57,15 +55,13 @@ void measure(QDialog *dialog, int repaints)
         Samples samples;
         samples.reserve(repaints);
         const auto before = mallinfo2().uordblks;
-        for (int i = 0; i < repaints; ++i) {
+        for (int i = 0; i < repaints; ++i)
             samples.add(milliseconds([&] { preview->repaint(); }));
-        }
         const auto after = mallinfo2().uordblks;
         QImage image(preview->size(), QImage::Format_ARGB32_Premultiplied);
         Samples alone;
-        for (int i = 0; i < repaints; ++i) {
+        for (int i = 0; i < repaints; ++i)
             alone.add(milliseconds([&] { preview->render(&image, {}, {}, QWidget::RenderFlags()); }));
-        }
         const double kept = (double(after) - double(before)) / repaints;
         table.addRow({look.name, text(samples.median(), 4), withGoal(samples.median(), goal), text(alone.median(), 4),
                       text(samples.growth()), text(kept, 1)});

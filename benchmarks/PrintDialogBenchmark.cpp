@@ -84,8 +84,8 @@ void program(const Extent &extent)
     }
 }
 
-const TestMain::ChildFunction coldOpening("open",
-                                          [](int &argc, char **argv) { return printMeasured(argc, argv, timeToOpen); });
+const TestMain::ChildFunction coldOpening(
+    "open", [](int &argc, char **argv) { return printMeasured(argc, argv, timeToOpen); });
 const TestMain::ChildFunction coldQt("qt", [](int &argc, char **argv) { return printMeasured(argc, argv, timeToQt); });
 
 } // namespace

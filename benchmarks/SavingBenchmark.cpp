@@ -22,19 +22,17 @@ template<class Widget>
 Widget *find(QDialog *dialog, const char *name)
 {
     auto *widget = dialog->findChild<Widget *>(name);
-    if (widget == nullptr) {
+    if (widget == nullptr)
         qFatal("the dialog has no %s", name);
-    }
     return widget;
 }
 
-/** Replaces a file of the same folder as carefully as the library has to: what each file costs besides its content. */
+// Replaces a file of the same folder as carefully as the library has to: what each file costs besides its content.
 void replaceFile()
 {
     QSaveFile file(QDir::homePath() + "/.cups/benchmark");
-    if (!file.open(QIODevice::WriteOnly) || file.write("x") != 1 || !file.flush() || !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write("x") != 1 || !file.flush() || !file.commit())
         qFatal("cannot write %s", qPrintable(file.fileName()));
-    }
 }
 
 struct Measurement
@@ -56,9 +54,8 @@ Measurement measure(PrivateScheduler &scheduler, const Extent &extent)
         const QByteArray value = QByteArray::number(darkness);
         dest->num_options = cupsAddOption("Darkness", value.constData(), dest->num_options, &dest->options);
         return milliseconds([&] {
-            if (cupsSetDests2(CUPS_HTTP_DEFAULT, count, dests) != 0) {
+            if (cupsSetDests2(CUPS_HTTP_DEFAULT, count, dests) != 0)
                 qFatal("cupsSetDests failed");
-            }
         });
     };
     const auto measureIn = [&](QDialog *dialog) {

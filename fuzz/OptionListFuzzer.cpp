@@ -5,27 +5,25 @@
 
 #include "Fuzz.h"
 
-#include "CupsSupport.h"
+#include "cups/CupsSupport.h"
 #include "FakeScheduler.h"
-#include "Preset.h"
+#include "presets/Preset.h"
 
 namespace {
 
 QString valueOf(const QStringList &list, const QString &keyword)
 {
-    for (int i = 0; i + 1 < list.size(); i += 2) {
+    for (int i = 0; i + 1 < list.size(); i += 2)
         if (list.at(i).compare(keyword, Qt::CaseInsensitive) == 0)
             return list.at(i + 1);
-    }
     return QString();
 }
 
 bool isAscii(const QString &text)
 {
-    for (const QChar c : text) {
+    for (const QChar c : text)
         if (c.unicode() > 0x7f)
             return false;
-    }
     return true;
 }
 

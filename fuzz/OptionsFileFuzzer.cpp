@@ -5,8 +5,8 @@
 
 #include "Fuzz.h"
 
+#include "cups/OptionsFile.h"
 #include "FakeScheduler.h"
-#include "OptionsFile.h"
 
 #include <cups/cups.h>
 

@@ -5,9 +5,9 @@
 
 #include "Fuzz.h"
 
-#include "CupsSupport.h"
+#include "cups/CupsSupport.h"
 #include "FakeScheduler.h"
-#include "PrintPropertiesDialog.h"
+#include "properties/PrintPropertiesDialog.h"
 
 #include <QApplication>
 #include <QPrinter>

@@ -5,8 +5,8 @@
 
 #include "Fuzz.h"
 
-#include "Preset.h"
-#include "PresetScript.h"
+#include "presets/Preset.h"
+#include "presets/PresetScript.h"
 
 int LLVMFuzzerInitialize(int *, char ***)
 {

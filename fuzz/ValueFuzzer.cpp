@@ -5,7 +5,7 @@
 
 #include "Fuzz.h"
 
-#include "CupsSupport.h"
+#include "cups/CupsSupport.h"
 #include "FakeScheduler.h"
 
 #include <cstdlib>

@@ -62,10 +62,9 @@ private:
 
 int indexOf(const CupsSupport &cups, const QString &queue)
 {
-    for (int i = 0; i < cups.getDestCount(); ++i) {
+    for (int i = 0; i < cups.getDestCount(); ++i)
         if (cups.getQueueName(i) == queue)
             return i;
-    }
     return -1;
 }
 

@@ -43,17 +43,15 @@ void LabelWindow::print()
 {
     PrintDialog dialog(this, &printer, &cups);
     PrintPropertiesDialog properties(this, &printer, &cups);
-    if (dialog.exec2(properties) != QDialog::Accepted) {
+    if (dialog.exec2(properties) != QDialog::Accepted)
         return;
-    }
 
     // PrintDialog::numCopies() is about the short form of the dialog. The full form has a box of its own.
     const int copies = dialog.findChild<QSpinBox *>(QStringLiteral("numCopies_2"))->value();
-    if (dialog.printToFile()) {
+    if (dialog.printToFile())
         saveAsFile();
-    } else {
+    else
         sendToPrinter(copies);
-    }
 }
 
 void LabelWindow::chooseOffset()
@@ -67,14 +65,12 @@ bool LabelWindow::writePdf(const QString &fileName) const
     pdf.setTitle(tr("Label"));
     pdf.setPageMargins(QMarginsF(), QPageLayout::Point);
     const QSize label = cups.getDefaultPageSize();
-    if (label.isValid()) {
+    if (label.isValid())
         pdf.setPageSize(QPageSize(label));
-    }
 
     QPainter painter;
-    if (!painter.begin(&pdf)) {
+    if (!painter.begin(&pdf))
         return false;
-    }
     painter.drawText(QRect(0, 0, pdf.width(), pdf.height()), Qt::AlignCenter, text->toPlainText());
     return painter.end();
 }
@@ -82,9 +78,8 @@ bool LabelWindow::writePdf(const QString &fileName) const
 void LabelWindow::saveAsFile()
 {
     const QString fileName = QFileDialog::getSaveFileName(this, tr("Print to file"), QString(), tr("PDF (*.pdf)"));
-    if (!fileName.isEmpty() && !writePdf(fileName)) {
+    if (!fileName.isEmpty() && !writePdf(fileName))
         QMessageBox::warning(this, tr("Warning"), tr("%1 cannot be written.").arg(fileName));
-    }
 }
 
 void LabelWindow::sendToPrinter(int copies)

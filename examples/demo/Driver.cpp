@@ -46,9 +46,8 @@ const QString pageHeight = QStringLiteral("6.00");
 
 void expect(bool condition, const QString &what)
 {
-    if (!condition) {
+    if (!condition)
         fail(what);
-    }
 }
 
 // Where the mouse has to go to tick a group box.
@@ -91,9 +90,8 @@ void Driver::edit()
     auto *slider = find<QSlider>("darknessSlider");
     click(slider);
     QTest::keyClick(window(), Qt::Key_Home);
-    for (int step = 0; step < darkness; ++step) {
+    for (int step = 0; step < darkness; ++step)
         QTest::keyClick(window(), Qt::Key_Right);
-    }
     expect(slider->value() == darkness, QStringLiteral("the darkness cannot be set"));
 
     showTab(2);
@@ -120,9 +118,8 @@ void Driver::edit()
     // The page size belongs to the preset that is current.
     showTab(0);
     auto *group = find<QGroupBox>("stockGroupBox");
-    if (!group->isChecked()) {
+    if (!group->isChecked())
         click(group, checkBoxOf(group));
-    }
     retype("widthEdit", pageWidth);
     retype("heightEdit", pageHeight);
 
@@ -255,13 +252,11 @@ void Driver::choose(QComboBox *box, int index)
 
 void Driver::type(const QString &text)
 {
-    for (const QChar character : text) {
-        if (character == QLatin1Char('\n')) {
+    for (const QChar character : text)
+        if (character == QLatin1Char('\n'))
             QTest::keyClick(window(), Qt::Key_Return);
-        } else {
+        else
             QTest::keyClick(window(), character.toLatin1());
-        }
-    }
 }
 
 void Driver::retype(const char *name, const QString &text)

@@ -30,9 +30,8 @@ int open()
 int main(int argc, char *argv[])
 {
     const QString mode = QString::fromLocal8Bit(argc > 1 ? argv[1] : "");
-    if (mode.isEmpty()) {
+    if (mode.isEmpty())
         return open() == 1 ? 0 : 1;
-    }
 
     QApplication application(argc, argv);
     if (mode == QLatin1String("--edit")) {

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "CupsSupport.h"
+#include "cups/CupsSupport.h"
 
-#include "CLocale.h"
-#include "OptionsFile.h"
-#include "Rounding.h"
-#include "Scheduler.h"
+#include "cups/CLocale.h"
+#include "cups/OptionsFile.h"
+#include "cups/Rounding.h"
+#include "cups/Scheduler.h"
 
 #include <QByteArray>
 #include <QList>
@@ -51,10 +51,9 @@ Record *findRecord(Record *records, int count, Predicate matches)
 template<typename Predicate>
 ppd_option_t *findPpdOption(const ppd_file_t *ppd, Predicate matches)
 {
-    for (int i = 0; ppd && i < ppd->num_groups; ++i) {
+    for (int i = 0; ppd && i < ppd->num_groups; ++i)
         if (ppd_option_t *found = findRecord(ppd->groups[i].options, ppd->groups[i].num_options, matches))
             return found;
-    }
     return nullptr;
 }
 
@@ -97,7 +96,12 @@ private:
 
 // ----- destinations and the current printer -----
 
+struct CupsSupport::Private
+{
+};
+
 CupsSupport::CupsSupport()
+    : d(std::make_unique<Private>())
 {
     getDefaultPrinter();
 }
@@ -124,10 +128,9 @@ int CupsSupport::getDefaultPrinter()
     // Printers may have gone since the last time; an index past the end would be no printer for good.
     if (currentIndex >= destCount)
         currentIndex = 0;
-    for (int i = 0; i < destCount; ++i) {
+    for (int i = 0; i < destCount; ++i)
         if (dests[i].is_default)
             currentIndex = i;
-    }
     return currentIndex;
 }
 
@@ -252,8 +255,8 @@ int CupsSupport::printerForSelectOption(const char *keyword, const char *value) 
 
 ppd_option_t *CupsSupport::ppdOption(const char *keyword) const
 {
-    return findPpdOption(getPpdFile(),
-                         [keyword](const ppd_option_t &option) { return qstrcmp(option.keyword, keyword) == 0; });
+    return findPpdOption(
+        getPpdFile(), [keyword](const ppd_option_t &option) { return qstrcmp(option.keyword, keyword) == 0; });
 }
 
 const char *CupsSupport::getDefaultValue(const char *keyword) const
@@ -590,10 +593,9 @@ QStringList CupsSupport::options() const
 QStringList CupsSupport::cupsOptions() const
 {
     QStringList list;
-    if (const cups_dest_t *dest = currentDest()) {
+    if (const cups_dest_t *dest = currentDest())
         for (int i = 0; i < dest->num_options; ++i)
             list << QString::fromLatin1(dest->options[i].name) << QString::fromLatin1(dest->options[i].value);
-    }
     return list;
 }
 

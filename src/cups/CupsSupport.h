@@ -4,13 +4,15 @@
 #ifndef CUPSSUPPORT_H
 #define CUPSSUPPORT_H
 
-#include "propertiesdialog_export.h"
+#include <PropertiesDialog/propertiesdialog_export.h>
 
 #include <QRect>
 #include <QSize>
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
+
+#include <memory>
 
 // The libcups records that this interface passes by pointer; include <cups/cups.h> and <cups/ppd.h> to look inside.
 typedef struct cups_dest_s cups_dest_t;
@@ -366,6 +368,8 @@ public:
     /** @} */
 
 private:
+    struct Private;
+
     cups_dest_t *currentDest() const;
     void openPpdFile() const;
 
@@ -373,6 +377,7 @@ private:
     int destCount = 0;
     cups_dest_t *dests = nullptr;
     mutable ppd_file_t *ppd = nullptr; // opened by the first getter that needs it
+    const std::unique_ptr<Private> d; // whatever else there is to remember, so that hosts need not be rebuilt
 };
 
 #endif

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "OptionsFile.h"
+#include "cups/OptionsFile.h"
 
-#include "Scheduler.h"
+#include "cups/Scheduler.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -112,7 +112,7 @@ void fetchServerOptions(FreeDests &server)
         cupsFreeOptions(current.num_options, current.options);
         current = {};
     };
-    for (ipp_attribute_t *a = ippFirstAttribute(response.get()); a; a = ippNextAttribute(response.get())) {
+    for (ipp_attribute_t *a = ippFirstAttribute(response.get()); a; a = ippNextAttribute(response.get()))
         if (!ippGetName(a))
             finish();
         else if (ippGetGroupTag(a) != IPP_TAG_PRINTER)
@@ -121,7 +121,6 @@ void fetchServerOptions(FreeDests &server)
             current.name = const_cast<char *>(ippGetString(a, 0, nullptr));
         else
             addServerOption(a, &current);
-    }
     finish();
 }
 

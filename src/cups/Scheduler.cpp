@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "Scheduler.h"
+#include "cups/Scheduler.h"
 
 #include <cups/cups.h>
 

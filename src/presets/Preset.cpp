@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "Preset.h"
+#include "presets/Preset.h"
 
-#include "PresetScript.h"
+#include "presets/PresetScript.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -4,7 +4,7 @@
 #ifndef PRESET_H
 #define PRESET_H
 
-#include "propertiesdialog_export.h"
+#include <PropertiesDialog/propertiesdialog_export.h>
 
 #include <QByteArray>
 #include <QSizeF>

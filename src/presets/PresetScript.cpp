@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "PresetScript.h"
+#include "presets/PresetScript.h"
 
 #include <QDir>
 #include <QFile>
@@ -80,8 +80,8 @@ bool climbs(const QString &path)
 
 bool hasControlCharacter(const QString &text)
 {
-    return std::any_of(text.cbegin(), text.cend(),
-                       [](QChar c) { return c < QLatin1Char(' ') || c == QLatin1Char(0x7f); });
+    return std::any_of(
+        text.cbegin(), text.cend(), [](QChar c) { return c < QLatin1Char(' ') || c == QLatin1Char(0x7f); });
 }
 
 // ----- writing -----
@@ -95,10 +95,9 @@ QString attribute(const QString &key, const QString &value)
 // as it is, quotes inside the value included.
 QString shellWord(QString value)
 {
-    for (const QLatin1String flag : {QLatin1String("True"), QLatin1String("False")}) {
+    for (const QLatin1String flag : {QLatin1String("True"), QLatin1String("False")})
         if (value.compare(flag, Qt::CaseInsensitive) == 0)
             return flag;
-    }
     value.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
     return value.contains(QLatin1Char(' ')) ? QLatin1Char('\'') + value + QLatin1Char('\'') : value;
 }
@@ -171,10 +170,9 @@ void PresetScript::useExtendedOptionNames()
 
 QStringList::size_type PresetScript::valueIndex(const QStringList &options, const QString &keyword)
 {
-    for (QStringList::size_type i = 1; i < options.size(); i += 2) {
+    for (QStringList::size_type i = 1; i < options.size(); i += 2)
         if (options.at(i - 1) == keyword)
             return i;
-    }
     return -1;
 }
 

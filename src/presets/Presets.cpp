@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "Presets.h"
+#include "presets/Presets.h"
 
-#include "Preset.h"
-#include "PresetScript.h"
+#include "presets/Preset.h"
+#include "presets/PresetScript.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -58,10 +58,9 @@ bool Presets::load()
 
     const QStringList entries = QDir(folder).entryList({QLatin1String("*") + PresetScript::suffix},
                                                        QDir::Files | QDir::CaseSensitive, QDir::Name);
-    for (const QString &entry : entries) {
+    for (const QString &entry : entries)
         if (!entry.startsWith(hiddenMark))
             addPreset(new Preset(m_printerName, withoutSuffix(entry), {}, QString(), QString(), -1));
-    }
 
     const QString target = QFile::symLinkTarget(linkPathName());
     if (!target.isEmpty())

@@ -4,7 +4,7 @@
 #ifndef PRESETS_H
 #define PRESETS_H
 
-#include "propertiesdialog_export.h"
+#include <PropertiesDialog/propertiesdialog_export.h>
 
 #include <QList>
 #include <QString>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "PrintDialog.h"
+#include "printdialog/PrintDialog.h"
 
-#include "CupsSupport.h"
-#include "FormRoom.h"
-#include "Scheduler.h"
+#include "cups/CupsSupport.h"
+#include "cups/Scheduler.h"
+#include "properties/FormRoom.h"
 #include "ui_PrintDialog.h"
 
 #include <QApplication>
@@ -23,24 +23,24 @@ namespace {
 
 constexpr int maximumCopies = 100;
 
-/** The forms' sizes, and the place of all that the full one shows: for usual fonts and short words. */
+// The forms' sizes, and the place of all that the full one shows: for usual fonts and short words.
 constexpr QSize shortFormSize(380, 110);
 constexpr QSize fullFormSize(462, 291);
 constexpr QRect fullFormPlace(10, 10, 326, 290);
 
-/** What there is at least to be room for in the printer list and beside the labels, in characters. */
+// What there is at least to be room for in the printer list and beside the labels, in characters.
 constexpr int shownCharacters = 14;
 
-/** The result that tells exec2() to run the properties dialog. */
+// The result that tells exec2() to run the properties dialog.
 constexpr int propertiesWanted = -1;
 
-/** The only make and model for which printing to a file is offered. */
+// The only make and model for which printing to a file is offered.
 QString printToFileModel()
 {
     return QStringLiteral("Quillon Vantry");
 }
 
-/** The IPP "printer-state" in words, deliberately not translated; beyond the three states of IPP it is "Invalid". */
+// The IPP "printer-state" in words, deliberately not translated; beyond the three states of IPP it is "Invalid".
 QString stateText(int state)
 {
     switch (state) {
@@ -55,18 +55,17 @@ QString stateText(int state)
     }
 }
 
-/** What the user reads of a printer's state: the state and, where the scheduler names any, the reasons for it. */
+// What the user reads of a printer's state: the state and, where the scheduler names any, the reasons for it.
 QString statusText(const CupsSupport &cups, int index)
 {
     const QString state = stateText(QString::fromLatin1(cups.getValue("printer-state", index)).toInt());
     const QString reasons = QString::fromLatin1(cups.getValue("printer-state-reasons", index));
-    if (reasons.isEmpty() || reasons == QLatin1String("none")) {
+    if (reasons.isEmpty() || reasons == QLatin1String("none"))
         return state;
-    }
     return state + QLatin1String(": ") + reasons;
 }
 
-/** Shows a text of the scheduler, which is never rich text. What the fixed width cuts off is in the tool tip. */
+// Shows a text of the scheduler, which is never rich text. What the fixed width cuts off is in the tool tip.
 void showText(QLabel *label, const QString &text)
 {
     label->setTextFormat(Qt::PlainText);
@@ -74,10 +73,8 @@ void showText(QLabel *label, const QString &text)
     label->setToolTip(text.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()));
 }
 
-/**
- * Gives the button the style's icon. In the one size that it shows, and kept for as long as nothing about it changes:
- * without an icon theme, styles decode theirs from files in all sizes, which would be a quarter of what an opening takes.
- */
+// Gives the button the style's icon. In the one size that it shows, and kept for as long as nothing about it changes:
+// without an icon theme, styles decode theirs from files in all sizes, which would be a quarter of what an opening takes.
 void showStyleIcon(QAbstractButton *button, QStyle::StandardPixmap icon)
 {
     const QStyle *style = button->style();
@@ -200,9 +197,8 @@ void PrintDialog::updateForm()
 
 void PrintDialog::updateLabels(int index)
 {
-    if (index < 0 || index >= printers.size()) {
+    if (index < 0 || index >= printers.size())
         return;
-    }
     showPrinterTexts(printers.at(index));
     ui->cboPrinterName->setEditText(printers.at(index).name);
     ui->chkPrintToFile->setEnabled(printers.at(index).type == printToFileModel());
@@ -217,22 +213,18 @@ void PrintDialog::reject()
 void PrintDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
-    if (FormRoom::isChangedBy(*event)) {
+    if (FormRoom::isChangedBy(*event))
         makeRoom();
-    }
-    if (event->type() != QEvent::LanguageChange) {
+    if (event->type() != QEvent::LanguageChange)
         return;
-    }
     const QString question = ui->textLabel->text();
     ui->retranslateUi(this);
-    if (questionIsHosts) {
+    if (questionIsHosts)
         ui->textLabel->setText(question);
-    }
     // The texts alone: whether "Print to file" is enabled may be the host's choice and does not depend on the language.
     const int index = ui->cboPrinterName->currentIndex();
-    if (index >= 0) {
+    if (index >= 0)
         showPrinterTexts(printers.at(index));
-    }
     makeRoom();
 }
 
@@ -269,9 +261,8 @@ void PrintDialog::chk_printToFile_changed_state(bool checked)
 {
     // A file holds the job once: the copies wait until the box is unticked.
     ui->numCopies_2->setEnabled(!checked);
-    if (checked) {
+    if (checked)
         savedCopies = ui->numCopies_2->value();
-    }
     ui->numCopies_2->setValue(checked ? 1 : savedCopies);
 }
 
@@ -294,21 +285,18 @@ void PrintDialog::chk_chkDefaultPrinter_changed_state(bool checked)
 
 void PrintDialog::cbo_Printers_change(int index)
 {
-    if (ui->cboPrinterName->count() > 0) {
+    if (ui->cboPrinterName->count() > 0)
         updateLabels(index);
-    }
 }
 
-/** Lets nothing be cut off, also with large fonts and long words; and places it where one begins to read. */
+// Lets nothing be cut off, also with large fonts and long words; and places it where one begins to read.
 void PrintDialog::makeRoom()
 {
     if (ui->stackedWidget->currentWidget() == ui->page_Simple) {
-        if (FormRoom::hasLargeFont(*this)) {
+        if (FormRoom::hasLargeFont(*this))
             for (QWidget *widget :
-                 std::initializer_list<QWidget *>{ui->numCopies, ui->yesButton, ui->noButton, ui->propertiesButton}) {
+                 std::initializer_list<QWidget *>{ui->numCopies, ui->yesButton, ui->noButton, ui->propertiesButton})
                 widget->setMinimumHeight(std::max(widget->minimumHeight(), widget->sizeHint().height()));
-            }
-        }
         FormRoom::freshenSizeHints(*this);
         setFixedSize(shortFormSize.expandedTo(ui->page_Simple->minimumSizeHint()));
         return;
@@ -322,7 +310,7 @@ void PrintDialog::makeRoom()
     ui->layoutWidget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
 }
 
-/** What the scheduler said of each destination when they were fetched. */
+// What the scheduler said of each destination when they were fetched.
 QList<PrintDialog::PrinterItem> PrintDialog::readPrinters() const
 {
     QList<PrinterItem> items;
@@ -339,7 +327,7 @@ QList<PrintDialog::PrinterItem> PrintDialog::readPrinters() const
     return items;
 }
 
-/** Whether the list still shows the destinations that the CupsSupport holds, so that both count them alike. */
+// Whether the list still shows the destinations that the CupsSupport holds, so that both count them alike.
 bool PrintDialog::listIsCurrent() const
 {
     const QList<PrinterItem> items = readPrinters();
@@ -347,10 +335,8 @@ bool PrintDialog::listIsCurrent() const
                       [](const PrinterItem &one, const PrinterItem &other) { return one.name == other.name; });
 }
 
-/**
- * Fills the form anew because queues came or went. The default printer is then chosen as the user wished, but no index
- * says any more which printer was current before: OK has to ask.
- */
+// Fills the form anew because queues came or went. The default printer is then chosen as the user wished, but no index
+// says any more which printer was current before: OK has to ask.
 void PrintDialog::startOver()
 {
     updateForm();
@@ -364,7 +350,7 @@ void PrintDialog::showPrinterTexts(const PrinterItem &item)
     showText(ui->lblLocation, item.location);
 }
 
-/** Makes the chosen printer the one where both the CupsSupport and the host's QPrinter print, and accepts. */
+// Makes the chosen printer the one where both the CupsSupport and the host's QPrinter print, and accepts.
 void PrintDialog::changePrinter(int index)
 {
     cups->setCurrentPrinter(index);
@@ -385,7 +371,7 @@ void PrintDialog::changePrinter(int index)
     accept();
 }
 
-/** Undoes what "Use Default" did to the CupsSupport as soon as it was ticked. */
+// Undoes what "Use Default" did to the CupsSupport as soon as it was ticked.
 void PrintDialog::restoreCurrentPrinter()
 {
     if (currentMoved && initialIndex >= 0) {

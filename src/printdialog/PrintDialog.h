@@ -4,7 +4,7 @@
 #ifndef PRINTDIALOG_H
 #define PRINTDIALOG_H
 
-#include "propertiesdialog_export.h"
+#include <PropertiesDialog/propertiesdialog_export.h>
 
 #include <QDialog>
 #include <QList>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "DoubleValidator.h"
+#include "properties/DoubleValidator.h"
 
 #include <QLocale>
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "ExtDialog.h"
+#include "properties/ExtDialog.h"
 
-#include "CupsSupport.h"
-#include "FormRoom.h"
+#include "cups/CupsSupport.h"
+#include "properties/FormRoom.h"
 #include "ui_ExtDialog.h"
 
 #include <QEvent>
@@ -15,7 +15,7 @@
 
 namespace {
 
-/** The choices in the order of the list. A leading blank takes the place of a plus sign, so that the texts line up. */
+// The choices in the order of the list. A leading blank takes the place of a plus sign, so that the texts line up.
 constexpr std::array<const char *, 7> offsetTexts = {
     QT_TRANSLATE_NOOP("ExtDialog", "-0.75mm"), QT_TRANSLATE_NOOP("ExtDialog", "-0.50mm"),
     QT_TRANSLATE_NOOP("ExtDialog", "-0.25mm"), QT_TRANSLATE_NOOP("ExtDialog", " 0.00mm"),
@@ -23,19 +23,17 @@ constexpr std::array<const char *, 7> offsetTexts = {
     QT_TRANSLATE_NOOP("ExtDialog", " 0.75mm"),
 };
 
-/** The form's places, for usual fonts and short words. */
+// The form's places, for usual fonts and short words.
 constexpr QSize formSize(280, 90);
 constexpr QRect labelPlace(10, 10, 91, 31);
 constexpr QRect listPlace(100, 10, 171, 31);
 constexpr QRect buttonsPlace(100, 50, 171, 31);
 
-/** The index of " 0.00mm". */
+// The index of " 0.00mm".
 constexpr int zeroIndex = 3;
 
-/**
- * The printer dots taken for a quarter millimetre. Deliberately a whole number, so that the offset is one as well; only
- * a resolution of exactly 203 dpi has the small step.
- */
+// The printer dots taken for a quarter millimetre. Deliberately a whole number, so that the offset is one as well; only
+// a resolution of exactly 203 dpi has the small step.
 int dotsPerStep(const CupsSupport &cups)
 {
     return cups.getResolution().height() == 203.0 ? 2 : 3;
@@ -50,9 +48,8 @@ ExtDialog::ExtDialog(QWidget *parent, CupsSupport *cupsSupport)
 {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
     ui->setupUi(this);
-    for (const char *text : offsetTexts) {
+    for (const char *text : offsetTexts)
         ui->offset->addItem(tr(text));
-    }
     makeRoom();
 
     // The division truncates towards zero: an offset between two steps shows the one nearer to zero. An offset past the
@@ -70,16 +67,15 @@ void ExtDialog::changeEvent(QEvent *event)
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
-        for (int index = 0; index < ui->offset->count(); ++index) {
+        for (int index = 0; index < ui->offset->count(); ++index)
             ui->offset->setItemText(index, tr(offsetTexts[static_cast<std::size_t>(index)]));
-        }
         makeRoom();
     } else if (FormRoom::isChangedBy(*event)) {
         makeRoom();
     }
 }
 
-/** Moves the form's widgets apart where their texts need it, and to the other side where one reads from the right. */
+// Moves the form's widgets apart where their texts need it, and to the other side where one reads from the right.
 void ExtDialog::makeRoom()
 {
     const QSize label = ui->offsetLabel->sizeHint();
@@ -105,9 +101,8 @@ void ExtDialog::makeRoom()
 void ExtDialog::on_buttonBox_accepted()
 {
     const int index = ui->offset->currentIndex();
-    if (index >= 0) {
+    if (index >= 0)
         cups->setExtendedOffset((index - zeroIndex) * dotsPerStep(*cups));
-    }
     hide();
     setResult(Accepted);
 }

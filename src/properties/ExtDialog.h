@@ -4,7 +4,7 @@
 #ifndef EXTDIALOG_H
 #define EXTDIALOG_H
 
-#include "propertiesdialog_export.h"
+#include <PropertiesDialog/propertiesdialog_export.h>
 
 #include <QDialog>
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "Preview.h"
+#include "properties/Preview.h"
 
-#include "CupsSupport.h"
-#include "Rounding.h"
+#include "cups/CupsSupport.h"
+#include "cups/Rounding.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -23,7 +23,7 @@ QAccessibleInterface *pictureInterface(const QString &, QObject *object)
     return preview ? new QAccessibleWidget(preview, QAccessible::Graphic) : nullptr;
 }
 
-/** Tells screen readers that a preview is a picture, for as long as the library is loaded. */
+// Tells screen readers that a preview is a picture, for as long as the library is loaded.
 class PictureInterfaces
 {
 public:
@@ -34,13 +34,11 @@ public:
     PictureInterfaces &operator=(const PictureInterfaces &) = delete;
 };
 
-/**
- * Where a label of these proportions goes, @p usable being the size of the widget less a pixel on each side.
- *
- * A tall label scales with the usable width and a wide one with the usable height: the widget is square in the dialog,
- * and there it comes to the same. The margin is the truncated half of what is left over, taken off on both sides, so
- * that the label stays centred and an odd pixel goes to the label.
- */
+// Where a label of these proportions goes, @p usable being the size of the widget less a pixel on each side.
+//
+// A tall label scales with the usable width and a wide one with the usable height: the widget is square in the dialog,
+// and there it comes to the same. The margin is the truncated half of what is left over, taken off on both sides, so
+// that the label stays centred and an odd pixel goes to the label.
 QRect labelRect(double labelWidth, double labelHeight, const QSize &usable)
 {
     if (usable.isEmpty())
@@ -58,7 +56,7 @@ QRect labelRect(double labelWidth, double labelHeight, const QSize &usable)
     return QRect(1, margin + 1, usable.width(), usable.height() - 2 * margin);
 }
 
-/** The label in black and white. Where the screen has more pixels than @p size, so has the image, to be sharp there. */
+// The label in black and white. Where the screen has more pixels than @p size, so has the image, to be sharp there.
 QImage labelImage(const QString &text, const QSize &size, qreal devicePixelRatio)
 {
     QImage image((QSizeF(size) * devicePixelRatio).toSize(), QImage::Format_Mono);
@@ -69,15 +67,13 @@ QImage labelImage(const QString &text, const QSize &size, qreal devicePixelRatio
     return image;
 }
 
-/** An arrow of head and shaft, its tip at the origin, pointing left. */
+// An arrow of head and shaft, its tip at the origin, pointing left.
 constexpr QPoint arrowPoints[] = {{0, 0}, {10, 10}, {10, 5}, {30, 5}, {30, -5}, {10, -5}, {10, -10}, {0, 0}};
 
-/**
- * The arrow of this orientation, at the middle of its edge; empty when it is none.
- *
- * The left and top arrows touch the first pixel of the widget, the right and bottom ones stop two pixels short of the
- * last: @p usable is two pixels smaller than the widget. The arrows are meant to be uneven in this.
- */
+// The arrow of this orientation, at the middle of its edge; empty when it is none.
+//
+// The left and top arrows touch the first pixel of the widget, the right and bottom ones stop two pixels short of the
+// last: @p usable is two pixels smaller than the widget. The arrows are meant to be uneven in this.
 QPolygon arrow(int orientation, const QSize &usable)
 {
     const QPoint centre(usable.width() / 2, usable.height() / 2);

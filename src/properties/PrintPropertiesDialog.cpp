@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "PrintPropertiesDialog.h"
+#include "properties/PrintPropertiesDialog.h"
 
 #include "BuildConstants.h"
-#include "DoubleValidator.h"
-#include "FormRoom.h"
-#include "Preset.h"
-#include "PresetScript.h"
-#include "Presets.h"
-#include "Preview.h"
-#include "Rounding.h"
+#include "cups/Rounding.h"
+#include "presets/Preset.h"
+#include "presets/Presets.h"
+#include "presets/PresetScript.h"
+#include "properties/DoubleValidator.h"
+#include "properties/FormRoom.h"
+#include "properties/Preview.h"
 #include "ui_PrintPropertiesDialog.h"
 
 #include <QBitmap>
@@ -310,10 +310,9 @@ void PrintPropertiesDialog::makeRoom()
 void PrintPropertiesDialog::widenFields()
 {
     const bool hasLargeFont = FormRoom::hasLargeFont(*this);
-    if (hasLargeFont) {
+    if (hasLargeFont)
         for (QComboBox *list : {ui->preset0, ui->preset1})
             list->setMinimumWidth(presetListWidth * fontMetrics().height() / FormRoom::usualFontHeight);
-    }
     for (QLineEdit *edit : findChildren<QLineEdit *>()) {
         const int frame = edit->minimumSizeHint().width() - edit->fontMetrics().maxWidth();
         const int needed = edit->fontMetrics().horizontalAdvance(QStringLiteral("0.00")) + frame;
@@ -857,10 +856,9 @@ bool shows(const QComboBox *list, const QStringList &names)
 {
     if (list->count() != names.size())
         return false;
-    for (int i = 0; i < list->count(); ++i) {
+    for (int i = 0; i < list->count(); ++i)
         if (list->itemText(i) != names.at(i))
             return false;
-    }
     return true;
 }
 

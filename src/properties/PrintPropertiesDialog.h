@@ -4,9 +4,9 @@
 #ifndef PRINTPROPERTIESDIALOG_H
 #define PRINTPROPERTIESDIALOG_H
 
-#include "propertiesdialog_export.h"
+#include <PropertiesDialog/propertiesdialog_export.h>
 
-#include "CupsSupport.h"
+#include <PropertiesDialog/CupsSupport.h>
 
 #include <QDialog>
 #include <QPageLayout>

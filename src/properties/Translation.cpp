@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "Translation.h"
+#include "properties/Translation.h"
 
 #include "BuildConstants.h"
 

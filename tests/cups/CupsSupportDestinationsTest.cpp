@@ -30,18 +30,15 @@ int cupsGetDests2(http_t *http, cups_dest_t **dests)
 {
     static const auto real = reinterpret_cast<decltype(&cupsGetDests2)>(dlsym(RTLD_NEXT, "cupsGetDests2"));
     int count = real(http, dests);
-    while (isOneDestination && count > 1) {
+    while (isOneDestination && count > 1)
         count = cupsRemoveDest((*dests)[1].name, (*dests)[1].instance, count, dests);
-    }
     for (int i = 0; i < count; ++i) {
         const cups_dest_t &dest = (*dests)[i];
         QByteArray name = dest.name;
-        if (dest.instance != nullptr) {
+        if (dest.instance != nullptr)
             name.append('/').append(dest.instance);
-        }
-        if (extraDefaults.contains(name)) {
+        if (extraDefaults.contains(name))
             (*dests)[i].is_default = 1;
-        }
     }
     return count;
 }
@@ -114,9 +111,8 @@ static int withoutPrinter(int &argc, char **argv)
 {
     CupsSupport cups;
     print("count", QByteArray::number(cups.getDestCount()));
-    if (argc > 1) {
+    if (argc > 1)
         cups.setCurrentPrinter(atoi(argv[1]));
-    }
     print("index", QByteArray::number(cups.getCurrentIndex()));
     reportWithoutPrinter(cups);
     return 0;
@@ -144,9 +140,8 @@ public:
         address.sun_family = AF_UNIX;
         qstrncpy(address.sun_path, encodedPath.constData(), sizeof address.sun_path);
         if (bind(listener, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
-            || listen(listener, 10) != 0) {
+            || listen(listener, 10) != 0)
             qFatal("cannot listen on %s", encodedPath.constData());
-        }
         qputenv("CUPS_SERVER", encodedPath);
     }
 
@@ -154,9 +149,8 @@ public:
     int newConnections()
     {
         int count = 0;
-        while (accept(listener, nullptr, nullptr) >= 0) {
+        while (accept(listener, nullptr, nullptr) >= 0)
             ++count;
-        }
         return count;
     }
 
@@ -435,11 +429,10 @@ void CupsSupportDestinationsTest::temporaryPpdFilesAreRemoved()
         scheduler->setPpd("LP2", PrivateScheduler::samplePpd("label-300"));
     }
     QCOMPARE(QDir(folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
-    if (before.isNull()) {
+    if (before.isNull())
         qunsetenv("TMPDIR");
-    } else {
+    else
         qputenv("TMPDIR", before);
-    }
 }
 
 void CupsSupportDestinationsTest::setCurrentPrinterChangesThePpdFile()
@@ -640,9 +633,8 @@ void CupsSupportDestinationsTest::descriptionWithoutPrinterInfo()
 
     QStringList keywords;
     const QStringList options = cups.cupsOptions();
-    for (int i = 0; i < options.size(); i += 2) {
+    for (int i = 0; i < options.size(); i += 2)
         keywords << options.at(i);
-    }
     cups.deleteOptions(keywords);
     QCOMPARE(cups.cupsOptions(), QStringList());
     QCOMPARE(cups.getCurrentPrinterName(), QString(""));

@@ -67,9 +67,8 @@ QString CupsSupportJobsTest::file(const QString &name, const QByteArray &content
 {
     const QString path = folder.filePath(name);
     QFile output(path);
-    if (!output.open(QIODevice::WriteOnly) || output.write(content) != content.size()) {
+    if (!output.open(QIODevice::WriteOnly) || output.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(path));
-    }
     return path;
 }
 
@@ -114,12 +113,10 @@ void CupsSupportJobsTest::setOptions()
     QTEST(cups->setOptions(list), "changed");
     const QStringList after = cups->cupsOptions();
     QCOMPARE(after.size(), before.size() + added.size());
-    for (const QString &option : before + added) {
+    for (const QString &option : before + added)
         QVERIFY2(after.contains(option), qPrintable(option));
-    }
-    for (int i = 0; i < added.size(); i += 2) {
+    for (int i = 0; i < added.size(); i += 2)
         QCOMPARE(QString::fromLatin1(saved(*cups, added.at(i).toLatin1())), added.at(i + 1));
-    }
 }
 
 void CupsSupportJobsTest::setOptionsKeepsPpdDefaults()
@@ -337,13 +334,11 @@ void CupsSupportJobsTest::collectMarkedOptionsOfPpdFile()
     ppd_file_t *ppd = cups->getPpdFile();
     ppd_group_t *positions = nullptr;
     ppd_group_t *resolutions = nullptr;
-    for (int i = 0; i < ppd->num_groups; ++i) {
-        if (qstrcmp(ppd->groups[i].name, "Positions") == 0) {
+    for (int i = 0; i < ppd->num_groups; ++i)
+        if (qstrcmp(ppd->groups[i].name, "Positions") == 0)
             positions = ppd->groups + i;
-        } else if (qstrcmp(ppd->groups[i].name, "Resolutions") == 0) {
+        else if (qstrcmp(ppd->groups[i].name, "Resolutions") == 0)
             resolutions = ppd->groups + i;
-        }
-    }
     QVERIFY(positions != nullptr && resolutions != nullptr);
 
     HandMadeOption inSubgroup("InSubgroup", "a", {"a", "b"});
@@ -510,9 +505,8 @@ void CupsSupportJobsTest::printFileOnRawQueue()
 void CupsSupportJobsTest::printFileSendsAnyBytes()
 {
     QByteArray bytes("\x1b@");
-    for (int i = 0; i < 200000; ++i) {
+    for (int i = 0; i < 200000; ++i)
         bytes += char(i * 7);
-    }
     auto cups = supportFor(LP1);
     const int number = cups->printFile(file("a.prn", bytes), QString(), "title", {"raw", "true"});
     QVERIFY(number > 0);

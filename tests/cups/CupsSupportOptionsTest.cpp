@@ -190,9 +190,8 @@ private:
 void CupsSupportOptionsTest::addAccessors()
 {
     QTest::addColumn<int>("accessor");
-    for (int i = 0; i < accessors().size(); ++i) {
+    for (int i = 0; i < accessors().size(); ++i)
         QTest::newRow(accessors().at(i).keyword) << i;
-    }
 }
 
 Accessor CupsSupportOptionsTest::fetchAccessor()
@@ -410,11 +409,9 @@ void CupsSupportOptionsTest::subgroupsAreNotSearched()
     const auto cups = supportFor(LP1);
     ppd_file_t *ppd = cups->getPpdFile();
     ppd_group_t *group = nullptr;
-    for (int i = 0; i < ppd->num_groups; ++i) {
-        if (qstrcmp(ppd->groups[i].name, "Printing") == 0) {
+    for (int i = 0; i < ppd->num_groups; ++i)
+        if (qstrcmp(ppd->groups[i].name, "Printing") == 0)
             group = ppd->groups + i;
-        }
-    }
     QVERIFY(group != nullptr);
 
     // libcups' parser makes no subgroups; libcups itself knows them.
@@ -804,9 +801,8 @@ void CupsSupportOptionsTest::emptyStringRemovesEmptyPpdDefault()
 void CupsSupportOptionsTest::savedAndReadAgain()
 {
     const auto cups = supportFor(LP1);
-    for (const Accessor &accessor : accessors()) {
+    for (const Accessor &accessor : accessors())
         QVERIFY(accessor.set(*cups, sample(accessor).value) > 0);
-    }
     QCOMPARE(cups->setDests(), 0);
     const auto fresh = supportFor(LP1);
     for (const Accessor &accessor : accessors()) {

@@ -31,9 +31,8 @@ void CupsTest::writeOptionsFile(const QByteArray &content)
 {
     QDir::home().mkdir(".cups");
     QFile file(optionsPath());
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(optionsPath()));
-    }
 }
 
 QByteArray CupsTest::saved(const CupsSupport &cups, const char *keyword)
@@ -45,9 +44,8 @@ QByteArray CupsTest::saved(const CupsSupport &cups, const char *keyword)
 void CupsTest::setPpdDefault(const CupsSupport &cups, const char *keyword, const QByteArray &choice)
 {
     ppd_option_t *option = cups.ppdOption(keyword);
-    if (option == nullptr) {
+    if (option == nullptr)
         qFatal("the PPD file has no %s", keyword);
-    }
     qstrncpy(option->defchoice, choice.constData(), sizeof option->defchoice);
 }
 

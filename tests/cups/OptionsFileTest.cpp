@@ -44,9 +44,8 @@ static int saveWithLimit(int &, char **argv)
     const rlim_t bytes = QByteArray(argv[1]).toULong();
     const rlimit limit = {bytes, bytes};
     std::signal(SIGXFSZ, SIG_IGN);
-    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
         return 1;
-    }
     const int result = cups.setDests();
     std::printf("%d\n", result);
     return 0;
@@ -104,9 +103,8 @@ private:
 Options OptionsFileTest::freshlyRead(const QStringList &destination)
 {
     const TestMain::ChildResult result = TestMain::runChild("printOptions", destination);
-    if (result.exitCode != 0) {
+    if (result.exitCode != 0)
         qFatal("%s is not listed", qPrintable(destination.join('/')));
-    }
     Options options;
     const QList<QByteArray> lines = result.output.split('\n');
     for (const QByteArray &line : lines) {
@@ -212,9 +210,8 @@ void OptionsFileTest::valueReadsBack_data()
              "\xa0",
              "\xff\x80",
              "5 \xe2\x82\xac",
-         }) {
+         })
         row(value);
-    }
 }
 
 void OptionsFileTest::valueReadsBack()
@@ -262,11 +259,9 @@ void OptionsFileTest::everyCharacterReadsBack()
     }
     QCOMPARE(cups.setDests(), 0);
     const Options options = freshlyRead({"LP1"});
-    for (int code = 1; code < 256; ++code) {
-        if (!isLineBreak(code)) {
+    for (int code = 1; code < 256; ++code)
+        if (!isLineBreak(code))
             QCOMPARE(options.value("Option" + QByteArray::number(code)), before + char(code) + after);
-        }
-    }
 }
 
 void OptionsFileTest::valuesOfSeveralOptionsReadBack()
@@ -276,9 +271,8 @@ void OptionsFileTest::valuesOfSeveralOptionsReadBack()
         {"LabelX", "'#'"}, {"LabelY", "\""}, {"LabelZ", "{#"},
     };
     const auto cups = supportFor(LP2);
-    for (auto it = values.begin(); it != values.end(); ++it) {
+    for (auto it = values.begin(); it != values.end(); ++it)
         QVERIFY(cups->setValue(it.key(), it.value().constData()) > 0);
-    }
     QCOMPARE(cups->setDests(), 0);
     const Options options = freshlyRead({"LP2"});
     for (auto it = values.begin(); it != values.end(); ++it) {
@@ -434,9 +428,8 @@ void OptionsFileTest::entriesOfOtherQueuesAreKept()
     cups.setDarkness(5);
     QCOMPARE(cups.setDests(), 0);
     const QByteArrayList lines = readOptionsFile().split('\n');
-    for (const QByteArray &line : others) {
+    for (const QByteArray &line : others)
         QCOMPARE(lines.count(line), 1);
-    }
     QCOMPARE(lines.count("Dest LP1 Darkness=5 Feed=24"), 1);
     QCOMPARE(readOptionsFile().count("LP1"), 1);
     QVERIFY(readOptionsFile().endsWith('\n'));

@@ -32,9 +32,8 @@ public:
         while (!server.canReadLine() && server.waitForReadyRead(patienceMs)) {
         }
         number = server.readLine().trimmed();
-        if (number.isEmpty()) {
+        if (number.isEmpty())
             qFatal("the X server does not start: %s", qPrintable(server.errorString()));
-        }
     }
     ~XServer()
     {
@@ -88,9 +87,8 @@ public:
         }
         const QByteArray line = host.readLine();
         state = QJsonDocument::fromJson(line).object();
-        if (line.isEmpty()) {
+        if (line.isEmpty())
             qFatal("the dialog's host has ended");
-        }
     }
 
     void waitFor(const char *what, const std::function<bool()> &condition)
@@ -98,9 +96,8 @@ public:
         QElapsedTimer timer;
         timer.start();
         for (look(); !condition(); look()) {
-            if (timer.elapsed() > patienceMs) {
+            if (timer.elapsed() > patienceMs)
                 qFatal("waited in vain for %s; the dialog: %s", what, QJsonDocument(state).toJson().constData());
-            }
             QTest::qWait(20);
         }
     }
@@ -111,10 +108,11 @@ public:
 
     void waitUntilShown(const char *name, const QJsonValue &value)
     {
-        waitFor(name, [&] { return shown(name) == value; });
+        waitFor(
+            name, [&] { return shown(name) == value; });
     }
 
-    /** What all widgets show. */
+    // What all widgets show.
     QJsonObject everything()
     {
         look();
@@ -122,9 +120,8 @@ public:
         const QJsonObject widgets = state.value("widgets").toObject();
         for (auto it = widgets.begin(); it != widgets.end(); ++it) {
             const QJsonObject object = it.value().toObject();
-            if (object.contains("shows")) {
+            if (object.contains("shows"))
                 values.insert(it.key(), object.value("shows"));
-            }
         }
         return values;
     }
@@ -138,14 +135,14 @@ public:
         waitFor("the tab", [&] { return state.value("tab").toInt() == tab; });
     }
 
-    /** Clicks into the middle of a widget that can be seen. */
+    // Clicks into the middle of a widget that can be seen.
     void click(const char *name)
     {
         waitUntilUsable(name);
         clickAt(rect(widget(name).value("rect")).center());
     }
 
-    /** Clicks a radio button where it has its mark: the rest of its width need not belong to it. */
+    // Clicks a radio button where it has its mark: the rest of its width need not belong to it.
     void mark(const char *name)
     {
         waitUntilUsable(name);
@@ -176,21 +173,19 @@ public:
         focusOn(name);
         key("Home");
         waitUntilShown(name, 0);
-        for (int i = 0; i < value; ++i) {
+        for (int i = 0; i < value; ++i)
             key("Right");
-        }
         waitUntilShown(name, value);
     }
 
-    /** Opens a list by mouse and chooses by keyboard. */
+    // Opens a list by mouse and chooses by keyboard.
     void chooseItem(const char *name, int index)
     {
         click(name);
         waitFor(name, [&] { return state.value("popup").toBool(); });
         key("Home");
-        for (int i = 0; i < index; ++i) {
+        for (int i = 0; i < index; ++i)
             key("Down");
-        }
         key("Return");
     }
 
@@ -201,12 +196,11 @@ public:
         waitFor("Apply", [&] { return !isEnabled("applyButton"); });
     }
 
-    /** The result of the dialog, once it is closed. */
+    // The result of the dialog, once it is closed.
     int result()
     {
-        if (!host.waitForFinished(patienceMs) || host.exitStatus() != QProcess::NormalExit) {
+        if (!host.waitForFinished(patienceMs) || host.exitStatus() != QProcess::NormalExit)
             qFatal("the dialog does not close");
-        }
         return host.exitCode();
     }
 
@@ -219,7 +213,8 @@ private:
 
     void waitUntilUsable(const char *name)
     {
-        waitFor(name, [&] { return widget(name).value("visible").toBool() && isEnabled(name); });
+        waitFor(
+            name, [&] { return widget(name).value("visible").toBool() && isEnabled(name); });
     }
 
     void clickAt(const QPoint &place)
@@ -333,9 +328,8 @@ void EndToEndTest::changedAppliedAndReopened()
     Session session(xServer);
     const QJsonObject after = session.everything();
     QCOMPARE(after.keys(), before.keys());
-    for (auto it = after.begin(); it != after.end(); ++it) {
+    for (auto it = after.begin(); it != after.end(); ++it)
         QVERIFY2(it.value() == before.value(it.key()), qPrintable(it.key()));
-    }
     // Both are what was entered.
     QCOMPARE(after.value("gapSize").toString(), QString("0.25"));
     QCOMPARE(after.value("darknessSlider").toInt(), 4);
@@ -355,9 +349,8 @@ void EndToEndTest::changedAppliedAndReopened()
 
     // Other programs see it, too.
     const QByteArray options = ' ' + PrivateScheduler::run("lpoptions", {"-p", "Label"}).trimmed() + ' ';
-    for (const char *option : {" GapSize=6.350 ", " Darkness=4 ", " orientation-requested=5 "}) {
+    for (const char *option : {" GapSize=6.350 ", " Darkness=4 ", " orientation-requested=5 "})
         QVERIFY2(options.contains(option), options.constData());
-    }
     QFile script(QDir::homePath() + "/.cups/Label/Preset.sh");
     QVERIFY(script.open(QIODevice::ReadOnly));
     QVERIFY(script.readAll().startsWith(
@@ -422,11 +415,10 @@ void EndToEndTest::result()
     QFETCH(QString, key);
     QFETCH(int, result);
     Session session(xServer);
-    if (button.isEmpty()) {
+    if (button.isEmpty())
         session.key(key);
-    } else {
+    else
         session.click(button);
-    }
     QCOMPARE(session.result(), result);
 }
 

@@ -36,56 +36,45 @@ QJsonArray onScreen(const QWidget *widget, const QRect &rect)
 // What the user sees in it; undefined for widgets that show nothing of interest.
 QJsonValue shownBy(const QWidget *widget)
 {
-    if (const auto *edit = qobject_cast<const QLineEdit *>(widget)) {
+    if (const auto *edit = qobject_cast<const QLineEdit *>(widget))
         return edit->text();
-    }
-    if (const auto *edit = qobject_cast<const QPlainTextEdit *>(widget)) {
+    if (const auto *edit = qobject_cast<const QPlainTextEdit *>(widget))
         return edit->toPlainText();
-    }
-    if (const auto *slider = qobject_cast<const QSlider *>(widget)) {
+    if (const auto *slider = qobject_cast<const QSlider *>(widget))
         return slider->value();
-    }
-    if (const auto *list = qobject_cast<const QComboBox *>(widget)) {
+    if (const auto *list = qobject_cast<const QComboBox *>(widget))
         return list->currentText();
-    }
-    if (const auto *label = qobject_cast<const QLabel *>(widget)) {
+    if (const auto *label = qobject_cast<const QLabel *>(widget))
         return label->text();
-    }
-    if (const auto *group = qobject_cast<const QGroupBox *>(widget); group && group->isCheckable()) {
+    if (const auto *group = qobject_cast<const QGroupBox *>(widget); group && group->isCheckable())
         return group->isChecked();
-    }
-    if (const auto *button = qobject_cast<const QAbstractButton *>(widget); button && button->isCheckable()) {
+    if (const auto *button = qobject_cast<const QAbstractButton *>(widget); button && button->isCheckable())
         return button->isChecked();
-    }
     return QJsonValue::Undefined;
 }
 
 QJsonObject state()
 {
     const QWidget *dialog = QApplication::activeModalWidget();
-    if (!dialog) {
+    if (!dialog)
         return {};
-    }
     QJsonObject widgets;
     const QList<QWidget *> children = dialog->findChildren<QWidget *>();
     for (const QWidget *widget : children) {
-        if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_")) {
+        if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"))
             continue;
-        }
         QJsonObject object{{"rect", onScreen(widget, widget->rect())},
                            {"visible", widget->isVisible()},
                            {"enabled", widget->isEnabled()},
                            {"focus", widget->hasFocus()}};
-        if (const QJsonValue shown = shownBy(widget); !shown.isUndefined()) {
+        if (const QJsonValue shown = shownBy(widget); !shown.isUndefined())
             object.insert("shows", shown);
-        }
         widgets.insert(widget->objectName(), object);
     }
     QJsonArray tabs;
     const auto *bar = dialog->findChild<QTabBar *>();
-    for (int i = 0; i < bar->count(); ++i) {
+    for (int i = 0; i < bar->count(); ++i)
         tabs << onScreen(bar, bar->tabRect(i));
-    }
     return {{"window", double(dialog->winId())},
             {"title", dialog->windowTitle()},
             {"active", dialog->isActiveWindow()},
@@ -99,9 +88,8 @@ void answer()
 {
     char buffer[256];
     const ssize_t count = read(STDIN_FILENO, buffer, sizeof buffer);
-    if (count <= 0) { // nobody is there any more
+    if (count <= 0) // nobody is there any more
         std::_Exit(3);
-    }
     for (ssize_t i = 0; i < count; ++i) {
         if (buffer[i] == '\n') {
             std::puts(QJsonDocument(state()).toJson(QJsonDocument::Compact).constData());

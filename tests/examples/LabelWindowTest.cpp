@@ -25,34 +25,32 @@
 
 #include <functional>
 
-/** Plays the user: step by step, each with the next dialog that opens. */
+// Plays the user: step by step, each with the next dialog that opens.
 class User
 {
 public:
-    /** Waits for a modal dialog of this class and hands it to @p action, which ends it without opening another one. */
+    // Waits for a modal dialog of this class and hands it to @p action, which ends it without opening another one.
     template<class Dialog>
     User &then(std::function<void(Dialog *)> action)
     {
         steps.append([action] {
             auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
-            if (!dialog || !dialog->isVisible()) {
+            if (!dialog || !dialog->isVisible())
                 return false;
-            }
             action(dialog);
             return true;
         });
         return *this;
     }
 
-    /** The same for a dialog that may not be ready yet: @p action is repeated until it has ended the dialog. */
+    // The same for a dialog that may not be ready yet: @p action is repeated until it has ended the dialog.
     template<class Dialog>
     User &thenUntilClosed(std::function<void(Dialog *)> action)
     {
         steps.append([action] {
             auto *dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
-            if (!dialog || !dialog->isVisible()) {
+            if (!dialog || !dialog->isVisible())
                 return false;
-            }
             action(dialog);
             return !dialog->isVisible();
         });
@@ -62,9 +60,8 @@ public:
     void begin()
     {
         QObject::connect(&timer, &QTimer::timeout, &timer, [this] {
-            if (!steps.isEmpty() && steps.first()()) {
+            if (!steps.isEmpty() && steps.first()())
                 steps.removeFirst();
-            }
         });
         timer.start(10);
     }

@@ -66,9 +66,8 @@ QChar randomCharacter(QRandomGenerator &random, int alphabet)
 int lengthInFile(const QString &text)
 {
     int length = 5;
-    for (const QChar c : text) {
+    for (const QChar c : text)
         length += c == '\n' || c == '\r' || c == QChar::ParagraphSeparator || c == QChar::LineSeparator ? 5 : 2;
-    }
     return length;
 }
 
@@ -82,9 +81,8 @@ QString randomText(QRandomGenerator &random, int room)
         // The last one mixes them all.
         text += randomCharacter(random, alphabet < 4 ? alphabet : random.bounded(4));
     }
-    while (!text.isEmpty() && lengthInFile(text) > room) {
+    while (!text.isEmpty() && lengthInFile(text) > room)
         text.chop(std::max(1, int(text.size()) / 10));
-    }
     return text;
 }
 
@@ -99,14 +97,12 @@ QString heldBy(const QPlainTextEdit *edit)
 // What is to come back: Latin-1 without NUL, with a line break at the end, and with what looks like a stored line break being one.
 QString expectedOf(const QString &text)
 {
-    if (text.isEmpty()) {
+    if (text.isEmpty())
         return text;
-    }
     QByteArray bytes = text.toLatin1();
     bytes.replace('\0', '?');
-    if (!bytes.endsWith('\n')) {
+    if (!bytes.endsWith('\n'))
         bytes += '\n';
-    }
     bytes.replace("\n", "\\\\r").replace("\\\\r", "\n").replace("\\r", "\n");
     return QString::fromLatin1(bytes);
 }
@@ -116,9 +112,8 @@ QString expectedOf(const QString &text)
 bool exchange(const char *name, QIODevice::OpenMode mode, QStringList &texts)
 {
     QFile file(homePath(name));
-    if (!file.open(mode)) {
+    if (!file.open(mode))
         return false;
-    }
     QDataStream stream(&file);
     mode == QIODevice::WriteOnly ? stream << texts : stream >> texts;
     return stream.status() == QDataStream::Ok;
@@ -131,9 +126,8 @@ void ignoreMissingFonts()
 {
     handlerBefore =
         qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &message) {
-            if (!message.contains("OpenType support missing")) {
+            if (!message.contains("OpenType support missing"))
                 handlerBefore(type, context, message);
-            }
         });
 }
 
@@ -144,9 +138,8 @@ bool applyTooLong(const QString &queue, QRandomGenerator &random)
     DialogUnderTest open(queue);
     open.dialog->show();
     QString text;
-    while (text.size() < tooLong) {
+    while (text.size() < tooLong)
         text += QChar(random.bounded(0x20, 0x7f));
-    }
     open.button(radios[random.bounded(slots_)])->click();
     open.widget<QPlainTextEdit>("commandEdit")->setPlainText(text);
     open.button("applyButton")->click();
@@ -206,7 +199,7 @@ const TestMain::ChildFunction readFunction("read", read);
 
 } // namespace
 
-/** User commands come back from the options file as they were typed. */
+// User commands come back from the options file as they were typed.
 class CommandTextsTest : public QObject
 {
     Q_OBJECT
@@ -221,9 +214,8 @@ private:
 
 void CommandTextsTest::initTestCase()
 {
-    for (int i = 0; i < queues; ++i) {
+    for (int i = 0; i < queues; ++i)
         scheduler.addQueue(queueName(i), PrivateScheduler::samplePpd("few-options"));
-    }
 }
 
 void CommandTextsTest::roundTrip()
@@ -259,16 +251,14 @@ void CommandTextsTest::roundTrip()
 int main(int argc, char **argv)
 {
     const int exitCode = TestMain::prepare(argc, argv);
-    if (exitCode >= 0) {
+    if (exitCode >= 0)
         return exitCode;
-    }
     seed = QRandomGenerator::global()->generate();
     while (argc > 2 && (!std::strcmp(argv[1], "--count") || !std::strcmp(argv[1], "--seed"))) {
-        if (!std::strcmp(argv[1], "--count")) {
+        if (!std::strcmp(argv[1], "--count"))
             wantedCount = std::atoi(argv[2]);
-        } else {
+        else
             seed = QByteArray(argv[2]).toUInt();
-        }
         std::rotate(argv + 1, argv + 3, argv + argc);
         argc -= 2;
     }

@@ -245,9 +245,8 @@ inline Outcomes callEach(CupsSupport &cups, const std::function<void(CupsSupport
         for (const auto &[name, copy] : std::as_const(running)) {
             QFile pipeEnd;
             QByteArray said;
-            if (pipeEnd.open(copy.second, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+            if (pipeEnd.open(copy.second, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
                 said = pipeEnd.readAll();
-            }
             int status = 0;
             waitpid(copy.first, &status, 0);
             const bool crashed = !WIFEXITED(status) || WEXITSTATUS(status) != 0;
@@ -258,14 +257,12 @@ inline Outcomes callEach(CupsSupport &cups, const std::function<void(CupsSupport
     };
     for (const Member &member : all()) {
         int ends[2];
-        if (pipe(ends) != 0) {
+        if (pipe(ends) != 0)
             qFatal("no pipe");
-        }
         const pid_t copy = fork();
         if (copy == 0) {
-            if (prepare) {
+            if (prepare)
                 prepare(cups);
-            }
             QElapsedTimer timer;
             timer.start();
             const QByteArray result = member.call(cups).toUtf8();
@@ -274,9 +271,8 @@ inline Outcomes callEach(CupsSupport &cups, const std::function<void(CupsSupport
         }
         close(ends[1]);
         running << std::make_pair(QString(member.name), std::make_pair(copy, ends[0]));
-        if (running.size() == atOnce) {
+        if (running.size() == atOnce)
             collect();
-        }
     }
     collect();
     return outcomes;
@@ -292,13 +288,11 @@ inline void withoutPrinter(CupsSupport &cups)
 inline pid_t processOf(const PrivateScheduler &scheduler)
 {
     QFile file(scheduler.dir() + "/run/cupsd.pid");
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly))
         qFatal("no scheduler runs");
-    }
     const pid_t process = file.readAll().trimmed().toInt();
-    if (process <= 1) {
+    if (process <= 1)
         qFatal("no scheduler runs");
-    }
     return process;
 }
 

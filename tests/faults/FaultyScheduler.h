@@ -39,9 +39,8 @@ public:
         server = fork();
         if (server == 0) {
             prctl(PR_SET_PDEATHSIG, SIGKILL);
-            if (fault == NeverAccepts) {
+            if (fault == NeverAccepts)
                 open(path, false); // takes the only place
-            }
             serve(listener, fault);
         }
         close(listener);
@@ -82,23 +81,20 @@ private:
             const pid_t server = getpid();
             if (fork() == 0) {
                 prctl(PR_SET_PDEATHSIG, SIGKILL);
-                if (getppid() == server) {
+                if (getppid() == server)
                     answer(client, fault);
-                }
                 std::_Exit(EXIT_SUCCESS);
             }
             close(client);
         }
-        for (;;) {
+        for (;;)
             pause();
-        }
     }
 
     static void say(int client, const QByteArray &text)
     {
-        if (write(client, text.constData(), std::size_t(text.size())) < 0) {
+        if (write(client, text.constData(), std::size_t(text.size())) < 0)
             std::_Exit(EXIT_FAILURE);
-        }
     }
 
     static void answer(int client, Fault fault)
@@ -110,24 +106,21 @@ private:
         case Garbage:
         case HttpGarbage:
         case Password:
-            while (read(client, request, sizeof request) > 0) {
+            while (read(client, request, sizeof request) > 0)
                 say(client, text(fault));
-            }
             return;
         default:
             break;
         }
-        for (;;) {
+        for (;;)
             pause();
-        }
     }
 
     static QByteArray text(Fault fault)
     {
         QByteArray body;
-        for (int i = 0; i < 3000; ++i) {
+        for (int i = 0; i < 3000; ++i)
             body += char(i * 37 % 256);
-        }
         switch (fault) {
         case HttpGarbage:
             return "HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\nContent-Length: 3000\r\n\r\n" + body;

@@ -43,7 +43,7 @@ public:
     LoggedPrograms(const LoggedPrograms &) = delete;
     LoggedPrograms &operator=(const LoggedPrograms &) = delete;
 
-    /** The calls since the last time, a line each. */
+    // The calls since the last time, a line each.
     QByteArray calls() const
     {
         const QString log = folder.filePath("log");
@@ -77,9 +77,8 @@ using MakeFile = std::function<void(const QByteArray &path)>;
 
 void check(bool good, const char *what)
 {
-    if (!good) {
+    if (!good)
         qFatal("cannot make a %s", what);
-    }
 }
 
 void makePipe(const QByteArray &path)
@@ -138,7 +137,7 @@ const QList<std::pair<const char *, MakeFile>> &kinds()
 
 Q_DECLARE_METATYPE(MakeFile)
 
-/** Presets and queues that come from somebody else run nothing, block nothing and stay in their folder. */
+// Presets and queues that come from somebody else run nothing, block nothing and stay in their folder.
 class ForeignTest : public QObject
 {
     Q_OBJECT
@@ -162,9 +161,8 @@ private:
 
 void ForeignTest::initTestCase()
 {
-    for (const char *queue : {"LP1", "..", "$(id)"}) {
+    for (const char *queue : {"LP1", "..", "$(id)"})
         scheduler.addQueue(queue);
-    }
 }
 
 void ForeignTest::init()
@@ -202,14 +200,12 @@ void ForeignTest::choosing_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<QByteArray>("calls");
-    for (const char *line : {"ppdhack 4.00 3.00 LP1", "ppdhack $(touch x) `touch x` ; touch x & touch x | bash > x"}) {
+    for (const char *line : {"ppdhack 4.00 3.00 LP1", "ppdhack $(touch x) `touch x` ; touch x & touch x | bash > x"})
         QTest::newRow(line) << QByteArray(line) << QByteArray(line) + '\n';
-    }
     for (const char *line :
          {"ppdhackX 4.00 3.00 LP1", "ppdhack;touch x", "ppdhack/../bash -c x", "./ppdhack 4.00 3.00 LP1",
-          "/bin/touch x", "bash -c ppdhack", " ppdhack 4.00 3.00 LP1", "lpoptions -d LP1", "PPDHACK 4.00 3.00 LP1"}) {
+          "/bin/touch x", "bash -c ppdhack", " ppdhack 4.00 3.00 LP1", "lpoptions -d LP1", "PPDHACK 4.00 3.00 LP1"})
         QTest::newRow(line) << QByteArray(line) << QByteArray();
-    }
 }
 
 void ForeignTest::choosing()
@@ -244,9 +240,8 @@ void ForeignTest::savingRunsTheDriverAlone()
 void ForeignTest::kindOfFile_data()
 {
     QTest::addColumn<MakeFile>("make");
-    for (const auto &[name, make] : kinds()) {
+    for (const auto &[name, make] : kinds())
         QTest::newRow(name) << make;
-    }
 }
 
 void ForeignTest::kindOfFile()
@@ -259,9 +254,8 @@ void ForeignTest::kindOfFile()
     {
         OpenDialog open;
         QVERIFY(open.dialog.isVisible());
-        for (int i = open.find<QComboBox>("preset0")->count() - 1; i >= 0; --i) {
+        for (int i = open.find<QComboBox>("preset0")->count() - 1; i >= 0; --i)
             open.choose("preset0", i);
-        }
         QCOMPARE(programs.calls(), QByteArray());
         open.click("applyButton");
     }

@@ -13,9 +13,8 @@
 inline int inCopy(const std::function<int()> &function)
 {
     const pid_t copy = fork();
-    if (copy == 0) {
+    if (copy == 0)
         _exit(function());
-    }
     int status = 0;
     waitpid(copy, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;

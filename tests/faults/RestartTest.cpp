@@ -13,7 +13,7 @@
 
 using namespace CupsMembers;
 
-/** The scheduler ends, or ends and comes back, between two calls of a CupsSupport. */
+// The scheduler ends, or ends and comes back, between two calls of a CupsSupport.
 class RestartTest : public QObject
 {
     Q_OBJECT
@@ -42,9 +42,8 @@ void RestartTest::initTestCase()
     scheduler.addQueue("LP1", PrivateScheduler::samplePpd("every-option"), "First Printer");
     scheduler.addQueue("LP2", PrivateScheduler::samplePpd("label-300"), "Second Printer");
     scheduler.addQueue("LP3", QString(), "Raw Printer");
-    for (const char *queue : {"LP1", "LP3"}) {
+    for (const char *queue : {"LP1", "LP3"})
         scheduler.setUserOptions(queue, {"Darkness=5", "GapSize=4.5", "JobStart=begin", "Back=30"});
-    }
     QFile file(document());
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("text\n") > 0);
     file.close();
@@ -53,27 +52,23 @@ void RestartTest::initTestCase()
     CupsSupport cups[2];
     cups[1].setCurrentPrinter(0);
     QVERIFY(cups[1].getPpdFile());
-    for (int isOpen = 0; isOpen < 2; ++isOpen) {
+    for (int isOpen = 0; isOpen < 2; ++isOpen)
         running[isOpen] = callEach(cups[isOpen]);
-    }
     noPpdFile = callEach(cups[0], [](CupsSupport &c) { c.setCurrentPrinter(2); });
     killScheduler(scheduler);
     noPrinter = callEach(cups[0], withoutPrinter);
-    for (int isOpen = 0; isOpen < 2; ++isOpen) {
+    for (int isOpen = 0; isOpen < 2; ++isOpen)
         killed[isOpen] = callEach(cups[isOpen]);
-    }
     scheduler.start();
-    for (int isOpen = 0; isOpen < 2; ++isOpen) {
+    for (int isOpen = 0; isOpen < 2; ++isOpen)
         restarted[isOpen] = callEach(cups[isOpen]);
-    }
 }
 
 void RestartTest::member_data()
 {
     QTest::addColumn<QString>("name");
-    for (const Member &member : all()) {
+    for (const Member &member : all())
         QTest::newRow(member.name) << QString(member.name);
-    }
 }
 
 void RestartTest::member()
@@ -88,9 +83,8 @@ void RestartTest::member()
         QVERIFY2(found == correct || found == none || found == noPpdFile.value(name).result, qPrintable(found));
         QCOMPARE(restarted[isOpen].value(name).result, correct);
         // The PPD file that is open does not need the scheduler.
-        if (isOpen && !name.startsWith("print") && name != "getDefaultPrinter") {
+        if (isOpen && !name.startsWith("print") && name != "getDefaultPrinter")
             QCOMPARE(found, correct);
-        }
     }
 }
 
@@ -118,11 +112,9 @@ void RestartTest::queueIsGone()
     scheduler.removeQueue("LP2");
     killScheduler(scheduler);
     scheduler.start();
-    for (const Outcomes &outcomes : {callEach(cups), callEach(cups, [](CupsSupport &c) { c.closePpdFile(); })}) {
-        for (auto it = outcomes.begin(); it != outcomes.end(); ++it) {
+    for (const Outcomes &outcomes : {callEach(cups), callEach(cups, [](CupsSupport &c) { c.closePpdFile(); })})
+        for (auto it = outcomes.begin(); it != outcomes.end(); ++it)
             QVERIFY2(it.value().result != "crashed", qPrintable(it.key()));
-        }
-    }
     cups.setDarkness(11);
     QCOMPARE(cups.setDests(), 0);
     QCOMPARE(cups.printFile(document(), "", "title", {}), 0);
@@ -150,9 +142,8 @@ void RestartTest::randomCalls()
         all().at(random.bounded(int(all().size()))).call(cups);
     }
     qInfo("the scheduler was killed or started %d times", changes);
-    if (!isRunning) {
+    if (!isRunning)
         scheduler.start();
-    }
     cups.getDefaultPrinter();
     cups.setCurrentPrinter(0);
     QCOMPARE(cups.getDestCount(), 3);

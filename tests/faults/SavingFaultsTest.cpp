@@ -76,10 +76,8 @@ QByteArray content(const QString &path)
 void write(const QString &path, const QByteArray &data)
 {
     QFile file(path);
-    if (!QDir().mkpath(path.section('/', 0, -2)) || !file.open(QIODevice::WriteOnly)
-        || file.write(data) != data.size()) {
+    if (!QDir().mkpath(path.section('/', 0, -2)) || !file.open(QIODevice::WriteOnly) || file.write(data) != data.size())
         qFatal("cannot write %s", qPrintable(path));
-    }
 }
 
 QStringList filesIn(const QString &path)
@@ -146,13 +144,11 @@ const QList<int> renameCalls{
 // The superuser may write everywhere: he becomes somebody else, to whom the files belong.
 void giveFilesAway()
 {
-    if (geteuid() != 0) {
+    if (geteuid() != 0)
         return;
-    }
     for (const QString &path :
-         {QDir::homePath(), folder(), optionsPath(), scriptPath().section('/', 0, -2), scriptPath()}) {
+         {QDir::homePath(), folder(), optionsPath(), scriptPath().section('/', 0, -2), scriptPath()})
         check(chown(QFile::encodeName(path).constData(), nobody, nobody) == 0, "chown");
-    }
     check(setgroups(0, nullptr) == 0 && setgid(nobody) == 0 && setuid(nobody) == 0, "setuid");
 }
 
@@ -224,13 +220,11 @@ bool mountSmallDisk(const QString &path)
 {
     if (geteuid() != 0) {
         const QByteArray user = "0 " + QByteArray::number(geteuid()) + " 1";
-        if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) {
+        if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
             return false;
-        }
         QFile map("/proc/self/uid_map");
-        if (!map.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || map.write(user) != user.size()) {
+        if (!map.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || map.write(user) != user.size())
             return false;
-        }
     } else if (unshare(CLONE_NEWNS) != 0) {
         return false;
     }
@@ -253,7 +247,7 @@ const int kills = 300;
 
 Q_DECLARE_METATYPE(Fault)
 
-/** Whatever stops the saving of settings, the earlier file or the complete new one is there afterwards. */
+// Whatever stops the saving of settings, the earlier file or the complete new one is there afterwards.
 class SavingFaultsTest : public QObject
 {
     Q_OBJECT
@@ -320,9 +314,8 @@ void SavingFaultsTest::cleanup()
 void SavingFaultsTest::optionsFile_data()
 {
     QTest::addColumn<Fault>("fault");
-    for (const auto &[name, fault] : writeFaults) {
+    for (const auto &[name, fault] : writeFaults)
         QTest::newRow(name) << fault;
-    }
     QTest::newRow("read-only folder") << Fault(asUserWithMode(folder, 0555));
     QTest::newRow("read-only file") << Fault(asUserWithMode(optionsPath, 0444));
     // The entries of other queues in it could not be kept.
@@ -352,9 +345,8 @@ void SavingFaultsTest::optionsFile()
 void SavingFaultsTest::presetScript_data()
 {
     QTest::addColumn<Fault>("fault");
-    for (const auto &[name, fault] : writeFaults) {
+    for (const auto &[name, fault] : writeFaults)
         QTest::newRow(name) << fault;
-    }
     QTest::newRow("read-only folder") << Fault(asUserWithMode([] { return folder() + "/LP1"; }, 0555));
     QTest::newRow("read-only file") << Fault(asUserWithMode(scriptPath, 0444));
 }
@@ -384,30 +376,24 @@ void SavingFaultsTest::fullDisk()
     setState(*cups, 1);
     setState(*preset, 1);
     const int result = inCopy([&] {
-        if (!mountSmallDisk(folder())) {
+        if (!mountSmallDisk(folder()))
             return notAllowed;
-        }
         write(optionsPath(), earlierOptions);
         write(scriptPath(), earlierScript);
         fillDisk(folder());
-        if (cups->setDests() != -1 || content(optionsPath()) != earlierOptions) {
+        if (cups->setDests() != -1 || content(optionsPath()) != earlierOptions)
             return 1;
-        }
-        if (preset->save({}) || preset->state() != Preset::Modified || content(scriptPath()) != earlierScript) {
+        if (preset->save({}) || preset->state() != Preset::Modified || content(scriptPath()) != earlierScript)
             return 2;
-        }
         QFile::remove(folder() + "/filler");
-        if (filesIn(folder()) != QStringList("lpoptions") || filesIn(folder() + "/LP1") != QStringList("P.sh")) {
+        if (filesIn(folder()) != QStringList("lpoptions") || filesIn(folder() + "/LP1") != QStringList("P.sh"))
             return 3;
-        }
-        if (cups->setDests() != 0 || !content(optionsPath()).contains(longValue)) {
+        if (cups->setDests() != 0 || !content(optionsPath()).contains(longValue))
             return 4;
-        }
         return preset->save({}) && content(scriptPath()).contains(longValue) ? 0 : 5;
     });
-    if (result == notAllowed) {
+    if (result == notAllowed)
         QSKIP("no disk can be mounted here");
-    }
     QCOMPARE(result, 0);
 }
 
@@ -432,9 +418,8 @@ void SavingFaultsTest::notAFile()
     qstrcpy(address.sun_path, path.constData());
     const void *pointer = &address;
     QCOMPARE(bind(fd, static_cast<const sockaddr *>(pointer), sizeof address), 0);
-    if (isLink) {
+    if (isLink)
         QVERIFY(QFile::link(path, optionsPath()));
-    }
     setState(*cups, 1);
     QCOMPARE(cups->setDests(), -1);
     struct stat status = {};
@@ -514,16 +499,14 @@ void SavingFaultsTest::killed()
         if (copy == 0) {
             for (int n = 0;; ++n) {
                 progress->isSaving = true;
-                if (!save(n % 2)) {
+                if (!save(n % 2))
                     _exit(1);
-                }
                 progress->isSaving = false;
                 ++progress->saved;
             }
         }
-        while (progress->saved == savedBefore && waitpid(copy, nullptr, WNOHANG) == 0) {
+        while (progress->saved == savedBefore && waitpid(copy, nullptr, WNOHANG) == 0)
             usleep(100);
-        }
         usleep(random.bounded(3000));
         kill(copy, SIGKILL);
         int status = 0;
@@ -559,11 +542,9 @@ void SavingFaultsTest::twoProcesses()
     for (pid_t &copy : copies) {
         copy = fork();
         if (copy == 0) {
-            for (int n = 0; n < 100; ++n) {
-                if (!save(n % 2)) {
+            for (int n = 0; n < 100; ++n)
+                if (!save(n % 2))
                     _exit(1);
-                }
-            }
             _exit(0);
         }
     }

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "cups/Scheduler.h"
 #include "CupsMembers.h"
 #include "FaultyScheduler.h"
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
-#include "Scheduler.h"
 #include "TestMain.h"
 
 #include <PropertiesDialog/PrintDialog.h>
@@ -34,9 +34,8 @@ void onEachDialog(const std::function<void(QWidget *)> &function)
 {
     auto *timer = new QTimer(qApp);
     QObject::connect(timer, &QTimer::timeout, timer, [function] {
-        if (QWidget *dialog = QApplication::activeModalWidget()) {
+        if (QWidget *dialog = QApplication::activeModalWidget())
             function(dialog);
-        }
     });
     timer->start(20);
 }
@@ -65,9 +64,8 @@ int wholeDialog(int &argc, char **argv)
     const QApplication app(argc, argv);
     bool isShown = false;
     onEachDialog([&](QWidget *dialog) {
-        if (qobject_cast<PrintPropertiesDialog *>(dialog) == nullptr) {
+        if (qobject_cast<PrintPropertiesDialog *>(dialog) == nullptr)
             return refuse(dialog);
-        }
         isShown = isShown || dialog->isVisible();
         click(dialog, "applyButton");
         click(dialog, "cancelButton");
@@ -105,9 +103,8 @@ int allMembers(int &argc, char **argv)
     const QCoreApplication app(argc, argv);
     CupsSupport cups;
     const bool good = cups.getDestCount() == 0;
-    for (const Member &member : all()) {
+    for (const Member &member : all())
         member.call(cups);
-    }
     return result(good, timer);
 }
 const TestMain::ChildFunction allMembersFunction("all-members", allMembers);
@@ -199,7 +196,7 @@ const QByteArray storedBefore =
 
 } // namespace
 
-/** A scheduler that does not answer costs a few seconds and no settings. */
+// A scheduler that does not answer costs a few seconds and no settings.
 class SilentSchedulerTest : public QObject
 {
     Q_OBJECT
@@ -234,9 +231,8 @@ void SilentSchedulerTest::initTestCase()
     scheduler.addQueue("LP2", PrivateScheduler::samplePpd("label-300"), "Second Printer");
     scheduler.addQueue("LP3", QString(), "Raw Printer");
     scheduler.setServerDefault("LP1");
-    for (const char *queue : {"LP1", "LP3"}) {
+    for (const char *queue : {"LP1", "LP3"})
         scheduler.setUserOptions(queue, {"Darkness=5", "GapSize=4.5", "JobStart=begin", "Back=30"});
-    }
     writeFile(document(), "text\n");
 
     CupsSupport cups;
@@ -266,9 +262,8 @@ void SilentSchedulerTest::runsInTime(const char *function, const QStringList &ar
 void SilentSchedulerTest::member_data()
 {
     QTest::addColumn<QString>("name");
-    for (const Member &member : all()) {
+    for (const Member &member : all())
         QTest::newRow(member.name) << QString(member.name);
-    }
 }
 
 void SilentSchedulerTest::member()
@@ -298,17 +293,15 @@ void SilentSchedulerTest::fromTheStart()
     QFETCH(FaultyScheduler::Fault, fault);
     const FaultyScheduler faulty(folder.filePath("sock"), fault);
     const QMap<QString, QString> environment{{"CUPS_SERVER", folder.filePath("sock")}};
-    for (const char *function : {"all-members", "whole-dialog", "print-dialog"}) {
+    for (const char *function : {"all-members", "whole-dialog", "print-dialog"})
         runsInTime(function, {}, environment);
-    }
 }
 
 void SilentSchedulerTest::whileOpen_data()
 {
     QTest::addColumn<int>("action");
-    for (int i = 0; i < actions().size(); ++i) {
+    for (int i = 0; i < actions().size(); ++i)
         QTest::newRow(actions().at(i).name) << i;
-    }
 }
 
 void SilentSchedulerTest::whileOpen()
@@ -331,17 +324,15 @@ void SilentSchedulerTest::whileOpen()
     const bool isSaved = name.contains("apply", Qt::CaseInsensitive) || name == "OK";
     // Of the options that a preset carries, those of the chosen one take their place.
     for (const auto &[keyword, value] :
-         QList<std::pair<const char *, const char *>>{{"Back", "30"}, {"CutMedia", "2"}, {"Overlap", "9"}}) {
+         QList<std::pair<const char *, const char *>>{{"Back", "30"}, {"CutMedia", "2"}, {"Overlap", "9"}})
         QCOMPARE(found.value(keyword), QByteArray(value));
-    }
     if (!isPreset) {
         QCOMPARE(found.value("Darkness"), QByteArray(isSaved ? "12" : "5"));
         QCOMPARE(found.value("JobEnd"), QByteArray(isSaved ? "end\\\\r" : "end"));
         QCOMPARE(found.value("Stop").toDouble(), isSaved ? 7.112 : 7.0); // inches with two decimals
     }
-    if (!isSaved) {
+    if (!isSaved)
         QCOMPARE(stored, storedBefore);
-    }
 }
 
 void SilentSchedulerTest::printerIsChanged()

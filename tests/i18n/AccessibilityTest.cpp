@@ -99,15 +99,13 @@ double contrast(QRgb one, QRgb other)
 double textContrast(const QImage &picture)
 {
     QHash<QRgb, int> colours;
-    for (int y = 0; y < picture.height(); ++y) {
+    for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)
             ++colours[picture.pixel(x, y)];
-    }
     QRgb background = 0;
-    for (auto it = colours.cbegin(); it != colours.cend(); ++it) {
+    for (auto it = colours.cbegin(); it != colours.cend(); ++it)
         if (it.value() > colours.value(background))
             background = it.key();
-    }
     double best = 1.0;
     for (auto it = colours.cbegin(); it != colours.cend(); ++it)
         best = std::max(best, contrast(background, it.key()));
@@ -158,10 +156,9 @@ private:
     template<class Widget = QWidget>
     Widget *child(const QString &name)
     {
-        for (QWidget *window : QList<QWidget *>{properties.get(), print.get(), question.get(), offset.get()}) {
+        for (QWidget *window : QList<QWidget *>{properties.get(), print.get(), question.get(), offset.get()})
             if (auto *widget = window->findChild<Widget *>(name))
                 return widget;
-        }
         qFatal("there is no %s", qPrintable(name));
         return nullptr;
     }

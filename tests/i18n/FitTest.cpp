@@ -182,10 +182,9 @@ struct Dialogs
 {
     explicit Dialogs(const QString &queue)
     {
-        for (int index = 0; index < cups.getDestCount(); ++index) {
+        for (int index = 0; index < cups.getDestCount(); ++index)
             if (cups.getQueueName(index) == queue)
                 cups.setCurrentPrinter(index);
-        }
         printer.setPrinterName(queue);
     }
 
@@ -286,10 +285,9 @@ void FitTest::nothingIsCutOff_data()
 {
     QTest::addColumn<QString>("style");
     QTest::addColumn<QString>("dpi");
-    for (const char *style : {"Fusion", "Windows"}) {
+    for (const char *style : {"Fusion", "Windows"})
         for (const char *dpi : {"96", "192"})
             QTest::addRow("%s %s dpi", style, dpi) << style << dpi;
-    }
 }
 
 void FitTest::nothingIsCutOff()

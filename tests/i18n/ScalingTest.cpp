@@ -44,10 +44,9 @@ QRect extent(const QImage &image, bool (*isSo)(QRgb))
 {
     QRect rect;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < image.width(); ++x)
             if (isSo(image.pixel(x, y)))
                 rect |= QRect(x, y, 1, 1);
-        }
     }
     return rect;
 }
@@ -57,10 +56,9 @@ bool isEnlarged(const QImage &image, int factor)
 {
     for (int y = 0; y + factor <= image.height(); y += factor) {
         for (int x = 0; x + factor <= image.width(); x += factor) {
-            for (int i = 1; i < factor * factor; ++i) {
+            for (int i = 1; i < factor * factor; ++i)
                 if (image.pixel(x + i % factor, y + i / factor) != image.pixel(x, y))
                     return false;
-            }
         }
     }
     return true;

@@ -75,13 +75,15 @@ QString withoutMarks(QString text)
 template<class Look>
 void whenOpen(Look look)
 {
-    QTimer::singleShot(0, qApp, [look] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog)
-            qFatal("no dialog is open");
-        look(*dialog);
-        dialog->reject();
-    });
+    QTimer::singleShot(
+        0, qApp,
+        [look] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                qFatal("no dialog is open");
+            look(*dialog);
+            dialog->reject();
+        });
 }
 
 void printTexts(const QDialog &dialog)
@@ -188,9 +190,8 @@ void TranslationsTest::catalogueIsComplete()
     QVERIFY(QTranslator().load(catalogue));
     QTranslator translator;
     QVERIFY(translator.load(catalogue));
-    for (const Message &message : list) {
+    for (const Message &message : list)
         QCOMPARE(translator.translate(message.context.toUtf8(), message.source.toUtf8()), message.translation);
-    }
 }
 
 void TranslationsTest::marksOfTextsSurvive()

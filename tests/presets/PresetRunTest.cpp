@@ -42,7 +42,7 @@ QByteArrayList optionsOf(const QStringList &destination)
 
 } // namespace
 
-/** Scripts that are run as the programs they are, with the real lpoptions and a real scheduler. */
+// Scripts that are run as the programs they are, with the real lpoptions and a real scheduler.
 class PresetRunTest : public QObject
 {
     Q_OBJECT

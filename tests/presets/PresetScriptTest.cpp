@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "PresetFiles.h"
-#include "PresetScript.h"
+#include "presets/PresetScript.h"
 #include "TestMain.h"
 
 #include <QtTest>

@@ -201,12 +201,18 @@ void PresetTest::plainAccessorsDoNotRead_data()
     const auto row = [](const char *name, const std::function<void(Preset &)> &access) {
         QTest::newRow(name) << access;
     };
-    row("printerName", [](Preset &p) { p.printerName(); });
-    row("fileName", [](Preset &p) { p.fileName(); });
-    row("state", [](Preset &p) { p.state(); });
-    row("setUserPageSize", [](Preset &p) { p.setUserPageSize(QSizeF(1, 2)); });
-    row("pathName", [](Preset &p) { p.pathName(); });
-    row("ppdhack", [](Preset &p) { QCOMPARE(p.ppdhack(), QString("ppdhack -1.00 -1.00 LP1\n")); });
+    row(
+        "printerName", [](Preset &p) { p.printerName(); });
+    row(
+        "fileName", [](Preset &p) { p.fileName(); });
+    row(
+        "state", [](Preset &p) { p.state(); });
+    row(
+        "setUserPageSize", [](Preset &p) { p.setUserPageSize(QSizeF(1, 2)); });
+    row(
+        "pathName", [](Preset &p) { p.pathName(); });
+    row(
+        "ppdhack", [](Preset &p) { QCOMPARE(p.ppdhack(), QString("ppdhack -1.00 -1.00 LP1\n")); });
     row("getOptionNames", [](Preset &p) { p.getOptionNames(); });
 }
 
@@ -225,15 +231,25 @@ void PresetTest::lazyAccessorsRead_data()
     const auto row = [](const char *name, const std::function<void(Preset &)> &access) {
         QTest::newRow(name) << access;
     };
-    row("name", [](Preset &p) { QCOMPARE(p.name(), QString("Wide labels")); });
-    row("description", [](Preset &p) { QCOMPARE(p.description(), QString("Four inches")); });
-    row("index", [](Preset &p) { QCOMPARE(p.index(), -1); });
-    row("options", [](Preset &p) { QCOMPARE(p.options(), (QStringList{"Darkness", "12", "Direct", "True"})); });
+    row(
+        "name", [](Preset &p) { QCOMPARE(p.name(), QString("Wide labels")); });
+    row(
+        "description", [](Preset &p) { QCOMPARE(p.description(), QString("Four inches")); });
+    row(
+        "index", [](Preset &p) { QCOMPARE(p.index(), -1); });
+    row(
+        "options",
+        [](Preset &p) {
+            QCOMPARE(p.options(), (QStringList{"Darkness", "12", "Direct", "True"}));
+        });
     row("getUserPageSize", [](Preset &p) { QCOMPARE(p.getUserPageSize(), QSizeF(4, 6)); });
     // What is set is what the script holds: nothing changes.
-    row("setName", [](Preset &p) { p.setName("Wide labels"); });
-    row("setDescription", [](Preset &p) { p.setDescription("Four inches"); });
-    row("setIndex", [](Preset &p) { p.setIndex(-1); });
+    row(
+        "setName", [](Preset &p) { p.setName("Wide labels"); });
+    row(
+        "setDescription", [](Preset &p) { p.setDescription("Four inches"); });
+    row(
+        "setIndex", [](Preset &p) { p.setIndex(-1); });
     row("setOptions", [](Preset &p) { QVERIFY(!p.setOptions({"Darkness", "12"})); });
 }
 

@@ -27,10 +27,9 @@ bool writeScript(const QString &file, const QByteArray &text = "#!/bin/bash\nlpo
 
 bool writeScripts(const QStringList &files)
 {
-    for (const QString &file : files) {
+    for (const QString &file : files)
         if (!writeScript(file))
             return false;
-    }
     return true;
 }
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-/** Shows what every text was looked up by. */
+// Shows what every text was looked up by.
 class EchoTranslator : public QTranslator
 {
 public:
@@ -197,9 +197,8 @@ void PrintDialogFormTest::widgetsAreInTheirCells_data()
     QTest::addColumn<int>("index");
 
     int index = 0;
-    for (const Cell &cell : cells) {
+    for (const Cell &cell : cells)
         QTest::newRow(cell.name) << index++;
-    }
 }
 
 void PrintDialogFormTest::widgetsAreInTheirCells()
@@ -210,9 +209,8 @@ void PrintDialogFormTest::widgetsAreInTheirCells()
     QWidget *found = widget(cell.name);
     QVERIFY(found);
     QCOMPARE(found->metaObject()->className(), cell.type);
-    if (cell.text) {
+    if (cell.text)
         QCOMPARE(found->property("text").toString(), QString(cell.text));
-    }
     QGridLayout *grid = layout(cell.layout);
     const int position = grid->indexOf(found);
     QVERIFY(position >= 0);
@@ -230,16 +228,14 @@ void PrintDialogFormTest::widgetsAreInTheirCells()
 void PrintDialogFormTest::nothingElseIsThere()
 {
     QStringList expected{"stackedWidget", "page_SelectPrinter", "layoutWidget", "page_Simple"};
-    for (const Cell &cell : cells) {
+    for (const Cell &cell : cells)
         expected << cell.name;
-    }
     QStringList found;
     for (const QWidget *child : dialog->findChildren<QWidget *>()) {
         const QString name = child->objectName();
         // A spin box and a stacked widget have nameless and "qt_" parts of their own.
-        if (!name.isEmpty() && !name.startsWith("qt_")) {
+        if (!name.isEmpty() && !name.startsWith("qt_"))
             found << name;
-        }
     }
     expected.sort();
     found.sort();
@@ -251,17 +247,13 @@ void PrintDialogFormTest::nothingElseIsThere()
 void PrintDialogFormTest::focusFollowsTheTable()
 {
     QStringList expected;
-    for (const Cell &cell : cells) {
-        if (widget(cell.name)->focusPolicy() != Qt::NoFocus) {
+    for (const Cell &cell : cells)
+        if (widget(cell.name)->focusPolicy() != Qt::NoFocus)
             expected << cell.name;
-        }
-    }
     QStringList found;
-    for (QWidget *next = dialog->nextInFocusChain(); next != dialog.get(); next = next->nextInFocusChain()) {
-        if (next->focusPolicy() != Qt::NoFocus && expected.contains(next->objectName())) {
+    for (QWidget *next = dialog->nextInFocusChain(); next != dialog.get(); next = next->nextInFocusChain())
+        if (next->focusPolicy() != Qt::NoFocus && expected.contains(next->objectName()))
             found << next->objectName();
-        }
-    }
     QCOMPARE(found, expected);
 }
 
@@ -347,11 +339,9 @@ void PrintDialogFormTest::textsAreTranslatable_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
 
-    for (const Cell &cell : cells) {
-        if (cell.text) {
+    for (const Cell &cell : cells)
+        if (cell.text)
             QTest::newRow(cell.name) << cell.name << cell.text;
-        }
-    }
 }
 
 void PrintDialogFormTest::textsAreTranslatable()

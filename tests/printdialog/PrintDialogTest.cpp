@@ -36,9 +36,8 @@ template<class Widget>
 Widget *child(const QObject &parent, const char *name)
 {
     auto *found = parent.findChild<Widget *>(name);
-    if (found == nullptr) {
+    if (found == nullptr)
         qFatal("there is no %s", name);
-    }
     return found;
 }
 
@@ -57,7 +56,7 @@ QImage image(const QIcon &icon)
     return icon.pixmap(16, 16).toImage();
 }
 
-/** The destinations of the user as libcups lists them. */
+// The destinations of the user as libcups lists them.
 QStringList destinations()
 {
     cups_dest_t *dests = nullptr;
@@ -76,7 +75,7 @@ int indexOf(const QString &destination)
     return int(destinations().indexOf(destination));
 }
 
-/** What the scheduler itself says of a queue, in the words of the dialog. */
+// What the scheduler itself says of a queue, in the words of the dialog.
 QString schedulerStatus(const QString &queue)
 {
     ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
@@ -92,13 +91,11 @@ QString schedulerStatus(const QString &queue)
     static const QMap<int, QString> words{
         {IPP_PSTATE_IDLE, "Idle"}, {IPP_PSTATE_PROCESSING, "Printing"}, {IPP_PSTATE_STOPPED, "Stopped"}};
     QStringList list;
-    for (int i = 0; i < ippGetCount(reasons); ++i) {
+    for (int i = 0; i < ippGetCount(reasons); ++i)
         list << ippGetString(reasons, i, nullptr);
-    }
     QString status = words.value(ippGetInteger(state, 0));
-    if (list != QStringList("none")) {
+    if (list != QStringList("none"))
         status += ": " + list.join(',');
-    }
     ippDelete(response);
     return status;
 }
@@ -112,7 +109,7 @@ struct Question
     bool hasDefault = false;
 };
 
-/** Does something and answers the questions it asks. */
+// Does something and answers the questions it asks.
 QList<Question> answering(QMessageBox::StandardButton answer, const std::function<void()> &action)
 {
     QList<Question> questions;
@@ -132,10 +129,11 @@ QList<Question> answering(QMessageBox::StandardButton answer, const std::functio
 
 QList<Question> clickOk(PrintDialog &dialog, QMessageBox::StandardButton answer = QMessageBox::No)
 {
-    return answering(answer, [&] { click(dialog, "yesButton_2"); });
+    return answering(
+        answer, [&] { click(dialog, "yesButton_2"); });
 }
 
-/** Clicks the next one of some buttons whenever the dialog is shown. */
+// Clicks the next one of some buttons whenever the dialog is shown.
 class Clicker : public QObject
 {
 public:
@@ -147,16 +145,15 @@ public:
 
     bool eventFilter(QObject *dialog, QEvent *event) override
     {
-        if (event->type() == QEvent::Show) {
+        if (event->type() == QEvent::Show)
             QTimer::singleShot(0, this, [this, dialog] { click(*dialog, qPrintable(buttons.takeFirst())); });
-        }
         return false;
     }
 
     QStringList buttons;
 };
 
-/** Stands in for the properties dialog: counts its runs. */
+// Stands in for the properties dialog: counts its runs.
 class OtherDialog : public QDialog
 {
 public:
@@ -171,7 +168,7 @@ protected:
     }
 };
 
-/** Shows what every text was looked up by. */
+// Shows what every text was looked up by.
 class EchoTranslator : public QTranslator
 {
 public:
@@ -197,7 +194,7 @@ private:
     }
 };
 
-/** What the full form is when there is nothing to print on. */
+// What the full form is when there is nothing to print on.
 int dialogWithoutPrinters(int &argc, char **argv)
 {
     const QApplication app(argc, argv);
@@ -211,9 +208,8 @@ int dialogWithoutPrinters(int &argc, char **argv)
         << text(dialog, "lblLocation") << '\n';
     Clicker clicker(dialog, {"yesButton_2", "noButton_2", "yesButton_2"});
     int questions = 0;
-    for (const char *button : {"ok", "cancel"}) {
+    for (const char *button : {"ok", "cancel"})
         questions += int(answering(QMessageBox::No, [&] { out << button << ' ' << dialog.exec() << '\n'; }).size());
-    }
     click(dialog, "chkDefaultPrinter");
     questions += int(answering(QMessageBox::No, [&] { out << "default " << dialog.exec() << '\n'; }).size());
     out << "questions " << questions << '\n';
@@ -221,7 +217,7 @@ int dialogWithoutPrinters(int &argc, char **argv)
     return 0;
 }
 
-/** The same with a scheduler that has no queues. */
+// The same with a scheduler that has no queues.
 int dialogWithoutQueues(int &argc, char **argv)
 {
     const PrivateScheduler scheduler;
@@ -386,7 +382,7 @@ void PrintDialogTest::cleanup()
     printer.reset();
 }
 
-/** A dialog that finds another printer than the default one current. */
+// A dialog that finds another printer than the default one current.
 void PrintDialogTest::makeDialog(const QString &current)
 {
     cups->setCurrentPrinter(indexOf(current));
@@ -519,9 +515,8 @@ void PrintDialogTest::printersAreListed()
         {"twin1/small", "Twin"},    {"twin2", "Twin"},
         {"vantry", "Vantry One"},   {"yard", "AISLE"}};
     QStringList expected;
-    for (const QString &name : destinations()) {
+    for (const QString &name : destinations())
         expected << descriptions.value(name, name);
-    }
     QStringList found;
     for (int i = 0; i < printerList()->count(); ++i) {
         found << printerList()->itemText(i);
@@ -591,9 +586,8 @@ void PrintDialogTest::statusIsThatOfTheScheduler_data()
 {
     QTest::addColumn<QString>("queue");
 
-    for (const char *queue : {"aisle", "bare", "busy", "hungry", "kitchen", "stopped"}) {
+    for (const char *queue : {"aisle", "bare", "busy", "hungry", "kitchen", "stopped"})
         QTest::newRow(queue) << queue;
-    }
 }
 
 void PrintDialogTest::statusIsThatOfTheScheduler()
@@ -729,7 +723,7 @@ void PrintDialogTest::printingToAFileDependsOnTheModel()
     QCOMPARE(child<QWidget>(*dialog, "chkPrintToFile")->isEnabled(), enabled);
 }
 
-/** To a host that lets its users type into the list. */
+// To a host that lets its users type into the list.
 void PrintDialogTest::labelsComeWithTheName()
 {
     printerList()->setEditable(true);
@@ -819,7 +813,7 @@ void PrintDialogTest::useDefaultReturnsToTheEarlierChoice()
     QCOMPARE(text(*dialog, "lblLocation"), QString("Küche, Süd"));
 }
 
-/** The labels and what depends on them are shown anew even if the list stays where it is. */
+// The labels and what depends on them are shown anew even if the list stays where it is.
 void PrintDialogTest::useDefaultShowsTheDefaultPrinterAgain()
 {
     dialog->setPrintToFileEnabled(false);

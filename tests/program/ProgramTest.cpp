@@ -21,7 +21,7 @@ struct Result
 
 } // namespace
 
-/** The program label-printer-properties, from outside. */
+// The program label-printer-properties, from outside.
 class ProgramTest : public QObject
 {
     Q_OBJECT

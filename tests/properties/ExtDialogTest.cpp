@@ -32,7 +32,7 @@ QByteArray savedFile()
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/** Shows what every text was looked up by. */
+// Shows what every text was looked up by.
 class EchoTranslator : public QTranslator
 {
 public:
@@ -79,7 +79,7 @@ private Q_SLOTS:
     void opensWithoutAPrinter();
 
 private:
-    /** A dialog for a queue that has this offset saved. */
+    // A dialog for a queue that has this offset saved.
     void makeDialog(const QString &queue, int offset);
     QComboBox *list() const { return dialog->findChild<QComboBox *>("offset"); }
     QPushButton *button(QDialogButtonBox::StandardButton which) const
@@ -117,9 +117,8 @@ void ExtDialogTest::init()
 void ExtDialogTest::makeDialog(const QString &queue, int offset)
 {
     dialog.reset();
-    for (int i = 0; i < cups->getDestCount() && cups->getCurrentQueueName() != queue; ++i) {
+    for (int i = 0; i < cups->getDestCount() && cups->getCurrentQueueName() != queue; ++i)
         cups->setCurrentPrinter(i);
-    }
     QCOMPARE(cups->getCurrentQueueName(), queue);
     QCOMPARE(cups->setExtendedOffset(offset), 0);
     QCOMPARE(cups->getExtendedOffset(), offset);
@@ -233,11 +232,9 @@ void ExtDialogTest::storedOffsetIsChosen_data()
     const QMap<QString, QMap<int, int>> queues{{"dpi203", smallSteps},  {"dpi203v", smallSteps},
                                                {"dpi203h", largeSteps}, {"dpi203half", largeSteps},
                                                {"dpi300", largeSteps},  {"none", largeSteps}};
-    for (auto queue = queues.begin(); queue != queues.end(); ++queue) {
-        for (auto step = queue->begin(); step != queue->end(); ++step) {
+    for (auto queue = queues.begin(); queue != queues.end(); ++queue)
+        for (auto step = queue->begin(); step != queue->end(); ++step)
             QTest::addRow("%s %d", qPrintable(queue.key()), step.key()) << queue.key() << step.key() << step.value();
-        }
-    }
 }
 
 void ExtDialogTest::storedOffsetIsChosen()
@@ -362,11 +359,10 @@ void ExtDialogTest::rejectingWritesNothing()
     const QByteArray before = savedFile();
     QVERIFY(before.contains("Back=14"));
     list()->setCurrentIndex(0);
-    if (byEscape) {
+    if (byEscape)
         QTest::keyClick(dialog.get(), Qt::Key_Escape);
-    } else {
+    else
         button(QDialogButtonBox::Cancel)->click();
-    }
     QCOMPARE(dialog->result(), 0);
     QCOMPARE(cups->getExtendedOffset(), 2);
     QCOMPARE(savedFile(), before);

@@ -17,7 +17,7 @@
 
 namespace {
 
-/** A cell of a grid layout. */
+// A cell of a grid layout.
 struct Cell
 {
     int row;
@@ -46,7 +46,7 @@ Cell cellOf(const QGridLayout *layout, int index)
 
 constexpr int unlimited = QWIDGETSIZE_MAX;
 
-/** A widget that stands in a layout. */
+// A widget that stands in a layout.
 struct WidgetRow
 {
     const char *name;
@@ -233,7 +233,7 @@ const TabRow tabRows[] = {
     {"advancedTab", "Advanced"},    {"aboutTab", "About"},
 };
 
-/** Print method before media type, although it stands below. */
+// Print method before media type, although it stands below.
 const char *const tabOrder[] = {
     "okButton",
     "cancelButton",
@@ -275,7 +275,7 @@ const char *const tabOrder[] = {
     "verticalEdit",
 };
 
-/** Whether Qt made it, as a part of one of its own widgets. */
+// Whether Qt made it, as a part of one of its own widgets.
 bool isPartOfAWidget(const QObject *object)
 {
     return object->objectName().isEmpty() || object->objectName().startsWith(QLatin1String("qt_"))
@@ -287,7 +287,7 @@ const char *textProperty(const QWidget *widget)
     return qobject_cast<const QGroupBox *>(widget) ? "title" : "text";
 }
 
-/** Marks the texts that were asked for in the form's context and without a disambiguation. */
+// Marks the texts that were asked for in the form's context and without a disambiguation.
 class MarkingTranslator : public QTranslator
 {
 public:
@@ -303,7 +303,7 @@ public:
     static QString mark(const char *sourceText) { return QLatin1Char('~') + QString::fromUtf8(sourceText); }
 };
 
-/** A dialog with slots that have the names of widgets and their signals. */
+// A dialog with slots that have the names of widgets and their signals.
 class SlotDialog : public QDialog
 {
     Q_OBJECT
@@ -444,19 +444,17 @@ void FormTest::nothingElse()
 
     QStringList actual;
     const auto widgets = dialogWidget->findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
+    for (const QWidget *widget : widgets)
         if (!isPartOfAWidget(widget))
             actual << widget->objectName();
-    }
     actual.sort();
     QCOMPARE(actual, expected);
 
     QStringList layouts;
     const auto gridLayouts = dialogWidget->findChildren<QGridLayout *>();
-    for (const QGridLayout *layout : gridLayouts) {
+    for (const QGridLayout *layout : gridLayouts)
         if (!isPartOfAWidget(layout))
             layouts << layout->objectName();
-    }
     QCOMPARE(layouts.size(), int(std::size(layoutRows)));
 }
 
@@ -608,10 +606,9 @@ void FormTest::labels()
 void FormTest::groupBoxes_data()
 {
     QTest::addColumn<QString>("name");
-    for (const WidgetRow &row : widgetRows) {
+    for (const WidgetRow &row : widgetRows)
         if (qstrcmp(row.className, "QGroupBox") == 0)
             QTest::newRow(row.name) << QString(row.name);
-    }
 }
 
 void FormTest::groupBoxes()
@@ -637,7 +634,7 @@ void FormTest::buttons_data()
     }
 }
 
-/** Enter is for OK, or for the button below on which the focus is; it does nothing to the presets. */
+// Enter is for OK, or for the button below on which the focus is; it does nothing to the presets.
 void FormTest::buttons()
 {
     QFETCH(QString, name);
@@ -740,7 +737,7 @@ void FormTest::buddies_data()
         QTest::newRow(qPrintable(it.key())) << it.key() << it.value();
 }
 
-/** A screen reader names the fields after their labels. */
+// A screen reader names the fields after their labels.
 void FormTest::buddies()
 {
     QFETCH(QString, label);
@@ -764,7 +761,7 @@ void FormTest::focusOrder()
     QCOMPARE(actual, expected);
 }
 
-/** On each tab, what a user goes through who presses the tabulator. */
+// On each tab, what a user goes through who presses the tabulator.
 void FormTest::tabulator_data()
 {
     QTest::addColumn<int>("tab");
@@ -837,7 +834,7 @@ void FormTest::retranslate()
         QCOMPARE(ui.tabs->tabText(i), MarkingTranslator::mark(tabRows[i].text));
 }
 
-/** The dialog cannot be resized: at its initial size nothing may be squeezed. */
+// The dialog cannot be resized: at its initial size nothing may be squeezed.
 void FormTest::fitsItsSize()
 {
     const QSize needed = dialogWidget->minimumSizeHint();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "Preview.h"
+#include "properties/Preview.h"
 
 #include "TestMain.h"
 
@@ -23,7 +23,7 @@ constexpr QRgb black = qRgb(0, 0, 0);
 constexpr QRgb red = qRgb(255, 0, 0);
 constexpr int noArrow = 0;
 
-/** What the widget paints, and @c background where it paints nothing. */
+// What the widget paints, and @c background where it paints nothing.
 QImage painted(Preview &preview)
 {
     QImage image(preview.size() * preview.devicePixelRatio(), QImage::Format_RGB32);
@@ -33,7 +33,7 @@ QImage painted(Preview &preview)
     return image;
 }
 
-/** The label as it is before any effect, on an image of @p ratio pixels to the unit. */
+// The label as it is before any effect, on an image of @p ratio pixels to the unit.
 QImage sampleLabel(const QSize &size, const QString &text = QStringLiteral("DL"), int ratio = 1)
 {
     QImage image(size * ratio, QImage::Format_Mono);
@@ -45,7 +45,7 @@ QImage sampleLabel(const QSize &size, const QString &text = QStringLiteral("DL")
     return image.convertToFormat(QImage::Format_RGB32);
 }
 
-/** Flips and inverts pixel by pixel. */
+// Flips and inverts pixel by pixel.
 QImage withEffects(const QImage &image, bool leftRight, bool topBottom, bool negative)
 {
     QImage result = image;
@@ -59,27 +59,25 @@ QImage withEffects(const QImage &image, bool leftRight, bool topBottom, bool neg
     return result;
 }
 
-/** A widget of @p size with @p label in @p place. */
+// A widget of @p size with @p label in @p place.
 QImage widgetWith(const QSize &size, const QPoint &place, const QImage &label)
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(background);
-    for (int y = 0; y < label.height(); ++y) {
+    for (int y = 0; y < label.height(); ++y)
         for (int x = 0; x < label.width(); ++x)
             image.setPixel(place.x() + x, place.y() + y, label.pixel(x, y));
-    }
     return image;
 }
 
-/** The part of @p image that is not @c background. */
+// The part of @p image that is not @c background.
 QRect paintedRect(const QImage &image)
 {
     QRect rect;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < image.width(); ++x)
             if (image.pixel(x, y) != background)
                 rect |= QRect(x, y, 1, 1);
-        }
     }
     return rect;
 }
@@ -88,10 +86,9 @@ QRect redRect(const QImage &image)
 {
     QRect rect;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < image.width(); ++x)
             if (image.pixel(x, y) == red)
                 rect |= QRect(x, y, 1, 1);
-        }
     }
     return rect;
 }
@@ -291,10 +288,9 @@ void PreviewTest::effects()
     const QImage expected =
         widgetWith(QSize(100, 100), QPoint(1, 1), withEffects(label, leftRight, topBottom, negative));
     for (int y = 0; y < 100; ++y) {
-        for (int x = 0; x < 100; ++x) {
+        for (int x = 0; x < 100; ++x)
             if (image.pixel(x, y) != red)
                 QCOMPARE(image.pixel(x, y), expected.pixel(x, y));
-        }
     }
 }
 
@@ -478,7 +474,7 @@ void PreviewTest::impossibleLengths()
 
 namespace {
 
-/** In a process whose screen has two pixels to the unit. */
+// In a process whose screen has two pixels to the unit.
 int paintOnDenseScreen(int &argc, char **argv)
 {
     const QApplication app(argc, argv);

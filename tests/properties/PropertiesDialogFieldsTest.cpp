@@ -5,7 +5,7 @@
 #include "PrivateScheduler.h"
 #include "TestMain.h"
 
-#include "Preview.h"
+#include "properties/Preview.h"
 
 #include <QKeyEvent>
 #include <QMetaMethod>
@@ -882,10 +882,9 @@ void PropertiesDialogFieldsTest::languageChange_data()
 {
     QTest::addColumn<QString>("queue");
     QTest::addColumn<QStringList>("options");
-    for (const char *queue : queues) {
+    for (const char *queue : queues)
         for (const char *category : {"0", "1", "2"})
             QTest::addRow("%s %s", queue, category) << queue << QStringList({"LabelCategory", category});
-    }
     // The labels tell stored values that the sliders cannot.
     QTest::newRow("beyond the sliders") << "LP" << QStringList({"PrintSpeed", "5", "Darkness", "999"});
 }

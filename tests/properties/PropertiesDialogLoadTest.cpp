@@ -3,11 +3,11 @@
 
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
-#include "PropertiesDialog.h"
+#include "properties/PropertiesDialog.h"
 #include "TestMain.h"
 
-#include "DoubleValidator.h"
-#include "Preview.h"
+#include "properties/DoubleValidator.h"
+#include "properties/Preview.h"
 
 #include <QBitmap>
 #include <QIntValidator>
@@ -1239,10 +1239,9 @@ void PropertiesDialogLoadTest::entryWithoutApplication()
     QVERIFY(child.output.contains("widthEdit=4.00\n"));
     QVERIFY(child.output.contains("darknessSlider=10\n"));
     QByteArrayList results;
-    for (const QByteArray &line : child.output.split('\n')) {
+    for (const QByteArray &line : child.output.split('\n'))
         if (line.startsWith("result="))
             results.append(line.mid(7));
-    }
     QCOMPARE(results, QByteArrayList({"1", "0", "0", "1"}));
     QVERIFY(child.output.endsWith("application=gone\n"));
 }
@@ -1259,9 +1258,8 @@ void PropertiesDialogLoadTest::entryWithOtherApplications()
 {
     QFETCH(QString, child);
     QMap<QString, QString> environment;
-    if (child == "without-display") {
+    if (child == "without-display")
         environment = {{"QT_QPA_PLATFORM", QString()}, {"DISPLAY", QString()}, {"WAYLAND_DISPLAY", QString()}};
-    }
     const auto result = TestMain::runChild(child.toLatin1().constData(), {}, environment);
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.output, QByteArray("result=0\n"));

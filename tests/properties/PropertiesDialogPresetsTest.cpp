@@ -41,9 +41,8 @@ QStringList items(OpenDialog &open, const char *list)
 {
     const auto *box = open.find<QComboBox>(list);
     QStringList texts;
-    for (int i = 0; i < box->count(); ++i) {
+    for (int i = 0; i < box->count(); ++i)
         texts << box->itemText(i);
-    }
     return texts;
 }
 
@@ -101,11 +100,9 @@ QStringList keywordsOf(const QByteArray &script)
     QStringList keywords;
     const QList<QByteArray> words =
         script.split('\n').value(script.startsWith("#!/bin/bash\n#name=") ? 2 : 1).split(' ');
-    for (const QByteArray &word : words) {
-        if (word.startsWith("-o") || word.startsWith("-r")) {
+    for (const QByteArray &word : words)
+        if (word.startsWith("-o") || word.startsWith("-r"))
             keywords << QString::fromLatin1(word.mid(2, word.indexOf('=') < 0 ? -1 : word.indexOf('=') - 2));
-        }
-    }
     return keywords;
 }
 
@@ -125,9 +122,8 @@ int workWithExtendedList(int &argc, char **argv)
     open.click("applyButton");
     const Options left = workingCopy(open.cups);
     std::printf("left:");
-    for (const char *keyword : {"GapOffset", "Shift", "Start", "Darkness"}) {
+    for (const char *keyword : {"GapOffset", "Shift", "Start", "Darkness"})
         std::printf(" %s=%s", keyword, left.value(keyword).constData());
-    }
     std::printf("\n");
     return 0;
 }
@@ -317,13 +313,12 @@ void PropertiesDialogPresetsTest::updatePresetsRefills()
     writeScript("b", "");
     OpenDialog open;
     auto *box = open.find<QComboBox>(list);
-    if (change < 0) {
+    if (change < 0)
         box->removeItem(3);
-    } else if (change == 0) {
+    else if (change == 0)
         box->setItemText(3, "B"); // another case is another text
-    } else {
+    else
         box->addItem("c");
-    }
     QVERIFY(open.dialog.updatePresets());
     QCOMPARE(items(open, "preset0"), builtIn({"a", "b"}));
     QCOMPARE(items(open, "preset1"), builtIn({"a", "b"}));
@@ -374,9 +369,8 @@ void PropertiesDialogPresetsTest::moreThanAHundred()
     QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("p105"));
     QCOMPARE(open.find<QComboBox>("preset1")->currentIndex(), 0);
     QCOMPARE(open.text("nameEdit"), QString("p105"));
-    for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"}) {
+    for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"})
         QVERIFY2(!open.isEnabled(name), name);
-    }
     QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 5);
     QCOMPARE(workingCopy(open.cups).value("Darkness"), QByteArray("5"));
 
@@ -469,9 +463,8 @@ void PropertiesDialogPresetsTest::updateCurrentPresetOfNone()
     OpenDialog open;
     QVERIFY(open.isEnabled("presetDeleteButton"));
     QVERIFY(!open.dialog.updateCurrentPreset(nullptr));
-    for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"}) {
+    for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"})
         QVERIFY2(!open.isEnabled(name), name);
-    }
     // All else stays.
     QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("a"));
     QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("a"));
@@ -600,13 +593,11 @@ void PropertiesDialogPresetsTest::chooseDefaultSettings()
     QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
     chooseByName(open, "preset0", "<Default Settings>");
     const Options left = workingCopy(open.cups);
-    for (const QString &keyword : usualKeywords) {
+    for (const QString &keyword : usualKeywords)
         QVERIFY2(!left.contains(keyword.toLatin1()), qPrintable(keyword));
-    }
     // What presets do not carry stays.
-    for (const char *keyword : {"GapOffset", "Shift", "Back", "CutMedia"}) {
+    for (const char *keyword : {"GapOffset", "Shift", "Back", "CutMedia"})
         QVERIFY2(left.contains(keyword), keyword);
-    }
     QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 10);
     QVERIFY(open.find<QAbstractButton>("landscapeRadioButton")->isChecked());
     QCOMPARE(open.plainText("commandEdit"), QString());
@@ -857,10 +848,8 @@ void PropertiesDialogPresetsTest::newPreset()
     QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("New Preset"));
     QCOMPARE(open.text("nameEdit"), QString("New Preset"));
     QCOMPARE(open.plainText("descriptionEdit"), QString());
-    for (const char *name :
-         {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton", "applyButton"}) {
+    for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton", "applyButton"})
         QVERIFY2(open.isEnabled(name), name);
-    }
     QCOMPARE(workingCopy(open.cups).value("Darkness"), QByteArray("4"));
     // It is written when the dialog saves.
     QVERIFY(!QFile::exists(scriptPath("Q", "Preset")));
@@ -915,9 +904,8 @@ void PropertiesDialogPresetsTest::newPresetNames()
     QFETCH(QString, file);
     QFETCH(QString, name);
     scheduler.setUserOptions("Q", {"Darkness=4"});
-    for (const QStringList &preset : std::as_const(present)) {
+    for (const QStringList &preset : std::as_const(present))
         writeScript(preset.at(0), "", "#name=" + preset.at(1).toLatin1() + '\n');
-    }
     OpenDialog open;
     open.click("presetNewButton");
     QCOMPARE(open.find<QComboBox>("preset1")->currentText(), name);
@@ -1034,9 +1022,8 @@ void PropertiesDialogPresetsTest::deleteLast()
     open.click("presetDeleteButton");
     QCOMPARE(items(open, "preset1"), builtIn({}));
     QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("<Current Settings>"));
-    for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"}) {
+    for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"})
         QVERIFY2(!open.isEnabled(name), name);
-    }
     open.click("applyButton");
     QVERIFY(!QFile::exists(scriptPath("Q", "a")));
     OpenDialog again;
@@ -1153,11 +1140,10 @@ void PropertiesDialogPresetsTest::nothingSelected()
         OpenDialog open;
         auto *list = open.find<QComboBox>("preset1");
         list->blockSignals(true);
-        if (isEmpty) {
+        if (isEmpty)
             list->setCurrentIndex(-1);
-        } else {
+        else
             list->setItemText(2, "nobody");
-        }
         list->blockSignals(false);
         open.setPlainText("descriptionEdit", "after");
         rename(open, "Zulu");

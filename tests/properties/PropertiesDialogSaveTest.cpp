@@ -76,9 +76,8 @@ QStringList filesOf(const QString &queue)
 int printOptions(int &, char **argv)
 {
     const Options options = storedOptions(argv[1]);
-    for (auto it = options.begin(); it != options.end(); ++it) {
+    for (auto it = options.begin(); it != options.end(); ++it)
         std::printf("%s=%s\n", it.key().constData(), it.value().constData());
-    }
     return 0;
 }
 const TestMain::ChildFunction printOptionsFunction("print-options", printOptions);
@@ -111,21 +110,21 @@ const TestMain::ChildFunction saveWithoutSchedulerFunction("save-without-schedul
 // Runs a function in the modal loop of the dialog that is about to open.
 void inDialog(const std::function<void(QWidget *)> &function)
 {
-    QTimer::singleShot(0, qApp, [function] {
-        QWidget *dialog = QApplication::activeModalWidget();
-        QVERIFY(dialog);
-        function(dialog);
-    });
+    QTimer::singleShot(
+        0, qApp,
+        [function] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            QVERIFY(dialog);
+            function(dialog);
+        });
 }
 
 QByteArray line(const QByteArray &text, const QByteArray &start)
 {
     const QList<QByteArray> lines = text.split('\n');
-    for (const QByteArray &candidate : lines) {
-        if (candidate.startsWith(start)) {
+    for (const QByteArray &candidate : lines)
+        if (candidate.startsWith(start))
             return candidate;
-        }
-    }
     return {};
 }
 
@@ -209,9 +208,8 @@ void PropertiesDialogSaveTest::initTestCase()
 {
     scheduler.addQueue("Q");
     scheduler.addQueue("Q300", PrivateScheduler::samplePpd("label-300"));
-    for (const char *name : {"KERN", "LUMA", "TIK", "ZED"}) {
+    for (const char *name : {"KERN", "LUMA", "TIK", "ZED"})
         scheduler.addQueue(name);
-    }
     const QByteArray customDarkness = "*CustomDarkness True: \"pop\"\n*ParamCustomDarkness Level: 1 int 0 19\n";
     scheduler.addQueue("Customs",
                        scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
@@ -522,11 +520,9 @@ void PropertiesDialogSaveTest::skippedField_data()
             << QString(field.queue) << field.mediaType << QByteArray(field.edit) << QByteArray(field.keyword)
             << QByteArray(field.stored) << QString(text);
     };
-    for (const Field &field : fields) {
-        for (const char *text : {"", ".", "-", "1,5", "x"}) {
+    for (const Field &field : fields)
+        for (const char *text : {"", ".", "-", "1,5", "x"})
             row(field, text);
-        }
-    }
     // Whole numbers only.
     row(fields[5], "1.5");
     row(fields[6], "1.5");
@@ -566,9 +562,8 @@ void PropertiesDialogSaveTest::mediaTypeLeavesTheOthersAlone()
 {
     QFETCH(int, mediaType);
     Options expected{{"GapSize", "2.000"}, {"GapOffset", "1.000"}, {"MarkSize", "3.000"}, {"MarkOffset", "1.500"}};
-    for (auto it = expected.begin(); it != expected.end(); ++it) {
+    for (auto it = expected.begin(); it != expected.end(); ++it)
         scheduler.setUserOptions("Q", {it.key() + '=' + it.value()});
-    }
     OpenDialog open;
     open.choose("mediaType", mediaType);
     open.setText("gapSize", "0.5");
@@ -580,9 +575,8 @@ void PropertiesDialogSaveTest::mediaTypeLeavesTheOthersAlone()
         expected[kind + "Offset"] = "15.240";
     }
     const Options stored = storedOptions("Q");
-    for (auto it = expected.begin(); it != expected.end(); ++it) {
+    for (auto it = expected.begin(); it != expected.end(); ++it)
         QCOMPARE(stored.value(it.key()), it.value());
-    }
 }
 
 void PropertiesDialogSaveTest::resolutionIsReadAnew()
@@ -709,16 +703,14 @@ void PropertiesDialogSaveTest::commandsThroughTheFile()
         // Nothing of it is lost on the way through the file.
         const Options memory = workingCopy(open.cups);
         const Options stored = storedOptions("Q");
-        for (const char *keyword : {"JobStart", "LabelStart", "LabelEnd", "JobEnd"}) {
+        for (const char *keyword : {"JobStart", "LabelStart", "LabelEnd", "JobEnd"})
             QCOMPARE(stored.value(keyword), memory.value(keyword));
-        }
     }
     const TestMain::ChildResult child = TestMain::runChild("print-commands");
     QCOMPARE(child.exitCode, 0);
     QString expected;
-    for (const auto &[radio, text] : commands) {
+    for (const auto &[radio, text] : commands)
         expected += text + (text.endsWith('\n') ? "|" : "\n|"); // they end with a line break
-    }
     QCOMPARE(QString::fromUtf8(child.output), expected);
 }
 
@@ -1035,12 +1027,10 @@ void PropertiesDialogSaveTest::modalResult()
     QFETCH(QByteArray, darkness);
     inDialog([&](QWidget *dialog) {
         dialog->findChild<QSlider *>("darknessSlider")->setValue(4);
-        for (const QString &button : std::as_const(buttons)) {
+        for (const QString &button : std::as_const(buttons))
             dialog->findChild<QPushButton *>(button)->click();
-        }
-        if (dialog->isVisible()) {
+        if (dialog->isVisible())
             dialog->close();
-        }
     });
     QCOMPARE(propertiesDialog(), result);
     QCOMPARE(storedOptions("Q").value("Darkness"), darkness);

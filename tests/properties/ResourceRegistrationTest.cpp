@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QTest>
 
-/** The pair of functions that are run when the library is loaded and unloaded. */
+// The pair of functions that are run when the library is loaded and unloaded.
 class ResourceRegistrationTest : public QObject
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ const QString iconPath = QStringLiteral(":/b/printer.png");
 
 } // namespace
 
-/** What the library brings when it is loaded, which this program therefore does by itself. */
+// What the library brings when it is loaded, which this program therefore does by itself.
 class ResourceTest : public QObject
 {
     Q_OBJECT

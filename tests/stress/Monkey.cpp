@@ -18,12 +18,10 @@
 #include <cstdio>
 #include <memory>
 
-/**
- * Random clicks and keys: no crash, no warning, no sanitizer finding, and what is saved is always readable.
- *
- * MONKEY_SEED is the first seed, MONKEY_ACTIONS the number of actions with each, MONKEY_RUNS the number of seeds. The
- * arguments "--seed N", "--actions N" and "--runs N" say the same. Each run prints its seed.
- */
+// Random clicks and keys: no crash, no warning, no sanitizer finding, and what is saved is always readable.
+//
+// MONKEY_SEED is the first seed, MONKEY_ACTIONS the number of actions with each, MONKEY_RUNS the number of seeds. The
+// arguments "--seed N", "--actions N" and "--runs N" say the same. Each run prints its seed.
 class Monkey : public QObject
 {
     Q_OBJECT
@@ -91,24 +89,20 @@ private:
 void Player::answer()
 {
     auto *message = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-    if (message) {
+    if (message)
         oneIn(2) ? message->accept() : message->reject();
-    }
 }
 
 // One that can be seen and used, popups such as lists and context menus first.
 QWidget *Player::anyWidget()
 {
     QWidget *root = QApplication::activePopupWidget();
-    if (!root) {
+    if (!root)
         root = &open->dialog;
-    }
     QList<QWidget *> widgets{root};
-    for (QWidget *widget : root->findChildren<QWidget *>()) {
-        if (widget->isVisible() && widget->isEnabled()) {
+    for (QWidget *widget : root->findChildren<QWidget *>())
+        if (widget->isVisible() && widget->isEnabled())
             widgets << widget;
-        }
-    }
     return anyOf(widgets);
 }
 
@@ -124,11 +118,10 @@ void Player::click()
     QWidget *widget = anyWidget();
     const QPoint point = anyPoint(widget);
     const Qt::MouseButton button = anyOf(buttons);
-    if (oneIn(8)) {
+    if (oneIn(8))
         QTest::mouseDClick(widget, button, Qt::NoModifier, point);
-    } else {
+    else
         QTest::mouseClick(widget, button, Qt::NoModifier, point);
-    }
 }
 
 void Player::drag()
@@ -205,9 +198,8 @@ void Player::type()
     for (const QChar c : anyOf(texts)) {
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
         QApplication::sendEvent(target, &press);
-        if (QApplication::focusWidget() != focus) {
+        if (QApplication::focusWidget() != focus)
             return;
-        }
     }
 }
 
@@ -222,18 +214,16 @@ void Player::changePreset()
         return;
     }
     const char *name = anyOf(buttons);
-    if (auto *box = open->dialog.findChild<QGroupBox *>(name)) {
+    if (auto *box = open->dialog.findChild<QGroupBox *>(name))
         box->setChecked(!box->isChecked());
-    } else {
+    else
         open->click(name);
-    }
 }
 
 void Player::reopen()
 {
-    while (QWidget *popup = QApplication::activePopupWidget()) {
+    while (QWidget *popup = QApplication::activePopupWidget())
         popup->close();
-    }
     if (oneIn(2)) {
         open.reset();
         open = std::make_unique<OpenDialog>();
@@ -244,9 +234,8 @@ void Player::reopen()
 
 void Player::act()
 {
-    if (!open->dialog.isVisible() || oneIn(200)) {
+    if (!open->dialog.isVisible() || oneIn(200))
         reopen();
-    }
     const int kind = below(100);
     if (kind < 40) {
         click();
@@ -285,14 +274,12 @@ void Monkey::cleanup()
 void Monkey::runs_data()
 {
     QTest::addColumn<quint32>("seed");
-    if (!qEnvironmentVariableIsSet("MONKEY_SEED")) {
+    if (!qEnvironmentVariableIsSet("MONKEY_SEED"))
         QTest::newRow("fixed") << fixedSeed;
-    }
     quint32 seed = qEnvironmentVariableIsSet("MONKEY_SEED") ? qEnvironmentVariable("MONKEY_SEED").toUInt()
                                                             : QRandomGenerator::global()->generate();
-    for (int i = 0; i < number("MONKEY_RUNS", 1); ++i, ++seed) {
+    for (int i = 0; i < number("MONKEY_RUNS", 1); ++i, ++seed)
         QTest::addRow("seed %u", seed) << seed;
-    }
 }
 
 void Monkey::runs()
@@ -302,9 +289,8 @@ void Monkey::runs()
     qInfo("seed %u, %d actions", seed, actions);
     const DriverCommand driver("exit 0\n");
     Player player(seed);
-    for (int i = 0; i < actions; ++i) {
+    for (int i = 0; i < actions; ++i)
         player.act();
-    }
     // A program that starts now can read what was saved: the queue is there, and every value is one that libcups reads.
     QVERIFY(!storedOptions("ZED-monkey").isEmpty());
 }

@@ -27,15 +27,13 @@ extern "C" __attribute__((visibility("default"))) const char *__lsan_default_sup
 }
 #endif
 
-/**
- * The dialog opens, applies and closes on PPD files of every kind, most of them for printers that print no labels.
- *
- * By default these are the samples of the tests and the sample drivers of CUPS. PPD_ZOO_FOLDER names a folder with
- * others, and PPD_ZOO_SHARD, "INDEX/COUNT", a part of them; the script ppd-zoo runs this program so.
- *
- * All the files take turns in one queue. The scheduler reads a queue's file for each client that asks for it, so it is
- * enough to put the next one in its place; lpadmin would take many times as long as what is tested.
- */
+// The dialog opens, applies and closes on PPD files of every kind, most of them for printers that print no labels.
+//
+// By default these are the samples of the tests and the sample drivers of CUPS. PPD_ZOO_FOLDER names a folder with
+// others, and PPD_ZOO_SHARD, "INDEX/COUNT", a part of them; the script ppd-zoo runs this program so.
+//
+// All the files take turns in one queue. The scheduler reads a queue's file for each client that asks for it, so it is
+// enough to put the next one in its place; lpadmin would take many times as long as what is tested.
 class PpdZoo : public QObject
 {
     Q_OBJECT
@@ -70,9 +68,8 @@ Shard shardFromEnvironment()
 {
     Shard shard;
     const QByteArray text = qgetenv("PPD_ZOO_SHARD");
-    if (!text.isEmpty() && std::sscanf(text.constData(), "%d/%d", &shard.index, &shard.count) != 2) {
+    if (!text.isEmpty() && std::sscanf(text.constData(), "%d/%d", &shard.index, &shard.count) != 2)
         qFatal("PPD_ZOO_SHARD is no INDEX/COUNT: %s", text.constData());
-    }
     return shard;
 }
 
@@ -91,30 +88,26 @@ void PpdZoo::initTestCase()
         return;
     }
     QStringList all;
-    for (QDirIterator it(folder, {"*.ppd"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+    for (QDirIterator it(folder, {"*.ppd"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();)
         all << it.next();
-    }
     all.sort();
     const Shard shard = shardFromEnvironment();
-    for (int i = shard.index; i < all.size(); i += shard.count) {
+    for (int i = shard.index; i < all.size(); i += shard.count)
         files << all.at(i);
-    }
     QVERIFY(!files.isEmpty());
 }
 
 void PpdZoo::collectSamples()
 {
-    for (const char *sample : {"label-203", "label-300", "every-option", "few-options"}) {
+    for (const char *sample : {"label-203", "label-300", "every-option", "few-options"})
         files << PrivateScheduler::samplePpd(sample);
-    }
     // The sample drivers that come with CUPS.
     const QStringList arguments{"-d", samples.path(), "/usr/share/cups/drv/sample.drv"};
     QCOMPARE(QProcess::execute("ppdc", arguments), 0);
     const QStringList names = QDir(samples.path()).entryList({"*.ppd"});
     QVERIFY(!names.isEmpty());
-    for (const QString &name : names) {
+    for (const QString &name : names)
         files << samples.filePath(name);
-    }
 }
 
 void PpdZoo::cleanup()
@@ -135,9 +128,8 @@ void PpdZoo::show(const QByteArray &ppd)
 void PpdZoo::dialog_data()
 {
     QTest::addColumn<QString>("path");
-    for (const QString &path : files) {
+    for (const QString &path : files)
         QTest::newRow(qPrintable(path)) << path;
-    }
 }
 
 void PpdZoo::dialog()
@@ -155,9 +147,8 @@ void PpdZoo::dialog()
     QCOMPARE(open.cups.getCurrentQueueName(), QString(queue));
     const ppd_file_t *loaded = open.cups.getPpdFile();
     QCOMPARE(loaded != nullptr, isReadable);
-    if (loaded) {
+    if (loaded)
         QCOMPARE(QByteArray(loaded->nickname), nickname);
-    }
     QVERIFY(!open.isEnabled("applyButton"));
 
     open.click("mirroredCheckBox");

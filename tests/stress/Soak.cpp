@@ -16,11 +16,9 @@
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // Debian's g++ comes without the header
 #endif
 
-/**
- * Nothing piles up in a host that opens the dialog again and again.
- *
- * SOAK_COUNT is how often the dialog is opened, applied and closed.
- */
+// Nothing piles up in a host that opens the dialog again and again.
+//
+// SOAK_COUNT is how often the dialog is opened, applied and closed.
 class Soak : public QObject
 {
     Q_OBJECT
@@ -62,9 +60,8 @@ QStringList openDescriptors()
 {
     QStringList list;
     const QDir folder("/proc/self/fd");
-    for (const QString &entry : folder.entryList(QDir::Files | QDir::System)) {
+    for (const QString &entry : folder.entryList(QDir::Files | QDir::System))
         list << QFileInfo(folder.filePath(entry)).symLinkTarget();
-    }
     list.removeAll(QFileInfo("/proc/self/fd").canonicalFilePath()); // the one of listing them
     list.sort();
     return list;

@@ -22,9 +22,8 @@ const int patienceMs = 30000; // far more than anything here takes, also on a ma
 QByteArray readFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly))
         qFatal("cannot read %s: %s", qPrintable(path), qPrintable(file.errorString()));
-    }
     return file.readAll();
 }
 
@@ -35,9 +34,8 @@ void waitFor(const char *what, Predicate predicate)
     QElapsedTimer timer;
     timer.start();
     while (!predicate()) {
-        if (timer.elapsed() > patienceMs) {
+        if (timer.elapsed() > patienceMs)
             qFatal("waited in vain for %s", what);
-        }
         QThread::msleep(5);
     }
 }
@@ -47,9 +45,8 @@ void sendGet(const QByteArray &resource)
 {
     http_t *http =
         httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_NEVER, 1, patienceMs, nullptr);
-    if (http == nullptr) {
+    if (http == nullptr)
         qFatal("cannot connect to %s", cupsServer());
-    }
     httpClearFields(http);
     httpGet(http, resource.constData());
     while (httpUpdate(http) == HTTP_STATUS_CONTINUE) {
@@ -99,15 +96,12 @@ void PrivateScheduler::addQueue(const QString &name, const QString &ppd, const Q
                                 const QString &location)
 {
     QStringList arguments{"-p", name, "-E", "-v", "capture:/"};
-    if (!ppd.isEmpty()) {
+    if (!ppd.isEmpty())
         arguments << "-P" << ppd;
-    }
-    if (!description.isEmpty()) {
+    if (!description.isEmpty())
         arguments << "-D" << description;
-    }
-    if (!location.isEmpty()) {
+    if (!location.isEmpty())
         arguments << "-L" << location;
-    }
     run("lpadmin", arguments);
 }
 
@@ -134,9 +128,8 @@ void PrivateScheduler::setUserDefault(const QString &name)
 void PrivateScheduler::setUserOptions(const QString &name, const QStringList &options)
 {
     QStringList arguments{"-p", name};
-    for (const QString &option : options) {
+    for (const QString &option : options)
         arguments << "-o" << option;
-    }
     run("lpoptions", arguments);
 }
 
@@ -166,9 +159,8 @@ QStringList PrivateScheduler::requests()
     for (const QString &line : lines) {
         const QRegularExpressionMatch match = request.match(line);
         const bool isIpp = match.captured(1) == "POST";
-        if (!match.captured(2).startsWith("/marker-")) {
+        if (!match.captured(2).startsWith("/marker-"))
             list << (isIpp ? match.captured(3) : match.captured(1) + ' ' + match.captured(2));
-        }
     }
     return list;
 }
@@ -196,9 +188,8 @@ CapturedJob PrivateScheduler::job(int number)
         const QList<CapturedJob> list = capturedNow();
         const auto at =
             std::find_if(list.begin(), list.end(), [=](const CapturedJob &job) { return job.job == number; });
-        if (at == list.end()) {
+        if (at == list.end())
             return false;
-        }
         found = *at;
         return true;
     });
@@ -208,9 +199,8 @@ CapturedJob PrivateScheduler::job(int number)
 QString PrivateScheduler::samplePpd(const QString &name)
 {
     const QString path = QStringLiteral(TEST_PPD_DIR "/%1.ppd").arg(name);
-    if (!QFile::exists(path)) {
+    if (!QFile::exists(path))
         qFatal("there is no sample %s", qPrintable(path));
-    }
     return path;
 }
 
@@ -218,16 +208,14 @@ QString PrivateScheduler::editedPpd(const QString &ppd, const QList<QPair<QByteA
 {
     QByteArray text = readFile(ppd);
     for (const auto &[before, after] : replacements) {
-        if (!text.contains(before)) {
+        if (!text.contains(before))
             qFatal("\"%s\" is not in %s", before.constData(), qPrintable(ppd));
-        }
         text.replace(before, after);
     }
     const QString path = temporaryDir.filePath(QStringLiteral("edited-%1.ppd").arg(++editedPpds));
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
         qFatal("cannot write %s", qPrintable(path));
-    }
     return path;
 }
 
@@ -244,9 +232,8 @@ QString PrivateScheduler::socket() const
 void PrivateScheduler::script(const QString &command)
 {
     QStringList arguments{command, temporaryDir.path()};
-    if (command == "start") {
+    if (command == "start")
         arguments << QString::number(QCoreApplication::applicationPid());
-    }
     run(TEST_SUPPORT_DIR "/private-scheduler", arguments);
 }
 

@@ -41,8 +41,8 @@ QMap<QByteArray, TestMain::Function> &childFunctions()
 
 bool isAllowed(const QByteArray &message)
 {
-    return std::any_of(allowedWarnings.begin(), allowedWarnings.end(),
-                       [&](const char *allowed) { return message.contains(allowed); });
+    return std::any_of(
+        allowedWarnings.begin(), allowedWarnings.end(), [&](const char *allowed) { return message.contains(allowed); });
 }
 
 // Whether a line of a test log tells of a warning that no test expected.
@@ -72,9 +72,8 @@ void failOnWarning(QtMsgType type, const QMessageLogContext &, const QString &me
     setenv("HOME", home.constData(), 1);
     setenv("XDG_RUNTIME_DIR", home.constData(), 1);
     setenv(homeIsFresh, "1", 1);
-    for (const char *variable : {"LPDEST", "PRINTER", "CUPS_SERVER", "XDG_CONFIG_HOME", "LANGUAGE"}) {
+    for (const char *variable : {"LPDEST", "PRINTER", "CUPS_SERVER", "XDG_CONFIG_HOME", "LANGUAGE"})
         unsetenv(variable);
-    }
     execv("/proc/self/exe", argv);
     std::perror("exec");
     std::_Exit(EXIT_FAILURE);
@@ -90,9 +89,8 @@ int copyOutput(int descriptor)
     while (getline(&line, &capacity, stream) > 0) {
         std::fputs(line, stdout);
         std::fflush(stdout);
-        if (isUnexpectedWarning(line)) {
+        if (isUnexpectedWarning(line))
             ++warnings;
-        }
     }
     std::free(line);
     std::fclose(stream);
@@ -109,9 +107,8 @@ int runTestsInFreshHome(char **argv)
     }
     const QByteArray homePath = QFile::encodeName(home.path());
     const pid_t child = fork();
-    if (child == 0) {
+    if (child == 0)
         startTests(argv, homePath, pipeEnds);
-    }
     close(pipeEnds[1]);
     const int warnings = copyOutput(pipeEnds[0]);
     int status = 0;
@@ -139,13 +136,11 @@ TestMain::ChildResult TestMain::runChild(const char *name, const QStringList &ar
                                          const QMap<QString, QString> &environment)
 {
     QProcessEnvironment childEnvironment = QProcessEnvironment::systemEnvironment();
-    for (auto it = environment.begin(); it != environment.end(); ++it) {
-        if (it.value().isNull()) {
+    for (auto it = environment.begin(); it != environment.end(); ++it)
+        if (it.value().isNull())
             childEnvironment.remove(it.key());
-        } else {
+        else
             childEnvironment.insert(it.key(), it.value());
-        }
-    }
     QProcess process;
     process.setProcessEnvironment(childEnvironment);
     process.start(QStringLiteral("/proc/self/exe"), QStringList{childArgument, name} + arguments);
@@ -163,16 +158,13 @@ TestMain::ChildResult TestMain::runChild(const char *name, const QStringList &ar
 
 int TestMain::prepare(int &argc, char **argv)
 {
-    if (!qEnvironmentVariableIsSet(homeIsFresh)) {
+    if (!qEnvironmentVariableIsSet(homeIsFresh))
         return runTestsInFreshHome(argv);
-    }
-    if (argc < 3 || std::strcmp(argv[1], childArgument) != 0) {
+    if (argc < 3 || std::strcmp(argv[1], childArgument) != 0)
         return -1;
-    }
     const Function function = childFunctions().value(argv[2]);
-    if (function == nullptr) {
+    if (function == nullptr)
         qFatal("no child function %s", argv[2]);
-    }
     qInstallMessageHandler(failOnWarning);
     std::rotate(argv + 1, argv + 3, argv + argc + 1); // the terminating null too
     argc -= 2;

@@ -55,9 +55,8 @@ template<class TestClass>
 int run(int argc, char **argv)
 {
     const int exitCode = prepare(argc, argv);
-    if (exitCode >= 0) {
+    if (exitCode >= 0)
         return exitCode;
-    }
     QApplication app(argc, argv);
     TestClass test;
     return QTest::qExec(&test, argc, argv);

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "PropertiesDialog.h"
+#include "properties/PropertiesDialog.h"
 
-#include "CupsSupport.h"
-#include "PrintPropertiesDialog.h"
-#include "Scheduler.h"
-#include "Translation.h"
+#include "cups/CupsSupport.h"
+#include "cups/Scheduler.h"
+#include "properties/PrintPropertiesDialog.h"
+#include "properties/Translation.h"
 
 #include <QApplication>
 #include <QPrinter>
@@ -19,10 +19,9 @@ namespace {
 // Whether an application object with windows can be made. Qt ends the process of a host that tries without.
 bool hasDisplay()
 {
-    for (const char *variable : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+    for (const char *variable : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
         if (!qEnvironmentVariableIsEmpty(variable))
             return true;
-    }
     return false;
 }
 

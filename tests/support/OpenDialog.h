@@ -138,11 +138,9 @@ inline Options storedOptions(const QByteArray &queue)
     Options options;
     cups_dest_t *dests = nullptr;
     const int count = cupsGetDests(&dests);
-    if (const cups_dest_t *dest = cupsGetDest(queue.constData(), nullptr, count, dests)) {
-        for (int i = 0; i < dest->num_options; ++i) {
+    if (const cups_dest_t *dest = cupsGetDest(queue.constData(), nullptr, count, dests))
+        for (int i = 0; i < dest->num_options; ++i)
             options.insert(dest->options[i].name, dest->options[i].value);
-        }
-    }
     cupsFreeDests(count, dests);
     return options;
 }
@@ -152,9 +150,8 @@ inline Options workingCopy(const CupsSupport &cups)
 {
     Options options;
     const QStringList list = cups.cupsOptions();
-    for (QStringList::size_type i = 0; i + 1 < list.size(); i += 2) {
+    for (QStringList::size_type i = 0; i + 1 < list.size(); i += 2)
         options.insert(list.at(i).toLatin1(), list.at(i + 1).toLatin1());
-    }
     return options;
 }
 
@@ -185,9 +182,8 @@ inline void writeFile(const QString &path, const QByteArray &content)
 {
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(path));
-    }
 }
 
 /**
