@@ -1,8 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 # SPDX-License-Identifier: MIT
 
-# The language level, the warnings and the sanitizers of everything that is built here. Warnings become errors with
-# CMAKE_COMPILE_WARNING_AS_ERROR, which the presets and scripts/test set and a distribution need not.
+# Language level, warnings and sanitizers. The presets set CMAKE_COMPILE_WARNING_AS_ERROR; distributions need not.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -23,7 +22,7 @@ target_compile_options(ProjectWarnings INTERFACE
     $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wzero-as-null-pointer-constant>
 )
 
-# What our own sources may not use: implicit text conversions and the macros that collide with other libraries.
+# Forbids implicit text conversions and macros that collide with other libraries.
 add_library(StrictQt INTERFACE)
 target_compile_definitions(StrictQt INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING)

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 # SPDX-License-Identifier: MIT
 
-# The target "docs": what hosts are told, as HTML in docs/html of the build folder. Fails when doxygen complains.
+# The target "docs" builds the API documentation and the pages for hosts in BUILD/docs/html. Warnings of doxygen fail it.
 
 find_program(DOXYGEN_EXECUTABLE doxygen DOC "Makes the documentation")
 if(NOT DOXYGEN_EXECUTABLE)

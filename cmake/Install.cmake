@@ -1,9 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 # SPDX-License-Identifier: MIT
 
-# What `cmake --install` puts into a prefix: the library, its headers, and the two files by which hosts find it.
+# Installs the library, its headers, and the CMake package and pkg-config file for hosts.
 #
-# Component "Runtime" is what a program needs to run, "Development" what is needed to build one.
+# The component "Runtime" is needed to run a program, "Development" to build one.
 
 include(CMakePackageConfigHelpers)
 
@@ -47,7 +47,7 @@ install(FILES
     COMPONENT Development
 )
 
-# For everything else: pkg-config. Its paths are relative to the prefix unless the build was given absolute ones.
+# For pkg-config. Paths are relative to the prefix unless the build was configured with absolute ones.
 set(pc_libdir "\${exec_prefix}/${CMAKE_INSTALL_LIBDIR}")
 if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
     set(pc_libdir ${CMAKE_INSTALL_LIBDIR})
@@ -57,7 +57,7 @@ if(IS_ABSOLUTE ${CMAKE_INSTALL_INCLUDEDIR})
     set(pc_includedir ${CMAKE_INSTALL_INCLUDEDIR})
 endif()
 
-# The prefix may still change at installation (cmake --install --prefix), so its line is filled in only then.
+# The prefix may change at installation (cmake --install --prefix), so it is filled in then.
 set(PC_PREFIX @PC_PREFIX@)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/PropertiesDialog.pc.in ${PROJECT_BINARY_DIR}/PropertiesDialog.pc.in @ONLY)
 install(CODE "
