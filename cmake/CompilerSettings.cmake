@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 # SPDX-License-Identifier: MIT
 
-# Language level, warnings and sanitizers. The presets set CMAKE_COMPILE_WARNING_AS_ERROR; distributions need not.
+# Language level, warnings and sanitizers. Only the presets for developers set CMAKE_COMPILE_WARNING_AS_ERROR.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -16,13 +16,13 @@ if(PROPERTIESDIALOG_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
-add_library(ProjectWarnings INTERFACE)
-target_compile_options(ProjectWarnings INTERFACE
+add_library(PropertiesDialogWarnings INTERFACE)
+target_compile_options(PropertiesDialogWarnings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wcast-qual -Wformat=2 -Wundef
     $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wzero-as-null-pointer-constant>
 )
 
 # Forbids implicit text conversions and macros that collide with other libraries.
-add_library(StrictQt INTERFACE)
-target_compile_definitions(StrictQt INTERFACE
+add_library(PropertiesDialogStrictQt INTERFACE)
+target_compile_definitions(PropertiesDialogStrictQt INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING)

@@ -47,23 +47,22 @@ install(FILES
     COMPONENT Development
 )
 
-# For pkg-config. Paths are relative to the prefix unless the build was configured with absolute ones.
-set(pc_libdir "\${exec_prefix}/${CMAKE_INSTALL_LIBDIR}")
+# For pkg-config. The file finds the prefix from its own location, so that the prefix can be moved, unless the build was
+# configured with an absolute library folder.
 if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
+    set(pc_prefix ${CMAKE_INSTALL_PREFIX})
     set(pc_libdir ${CMAKE_INSTALL_LIBDIR})
+else()
+    file(RELATIVE_PATH prefix_from_pc /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+    string(REGEX REPLACE "/$" "" prefix_from_pc ${prefix_from_pc})
+    set(pc_prefix "\${pcfiledir}/${prefix_from_pc}")
+    set(pc_libdir "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
 endif()
 set(pc_includedir "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
 if(IS_ABSOLUTE ${CMAKE_INSTALL_INCLUDEDIR})
     set(pc_includedir ${CMAKE_INSTALL_INCLUDEDIR})
 endif()
-
-# The prefix may change at installation (cmake --install --prefix), so it is filled in then.
-set(PC_PREFIX @PC_PREFIX@)
-configure_file(${CMAKE_CURRENT_LIST_DIR}/PropertiesDialog.pc.in ${PROJECT_BINARY_DIR}/PropertiesDialog.pc.in @ONLY)
-install(CODE "
-    set(PC_PREFIX \"\${CMAKE_INSTALL_PREFIX}\")
-    configure_file(\"${PROJECT_BINARY_DIR}/PropertiesDialog.pc.in\" \"${PROJECT_BINARY_DIR}/PropertiesDialog.pc\" @ONLY)
-" COMPONENT Development)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/PropertiesDialog.pc.in ${PROJECT_BINARY_DIR}/PropertiesDialog.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/PropertiesDialog.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
     COMPONENT Development

@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QPen>
 #include <QPolygon>
+#include <QTransform>
 
 #include <algorithm>
 
@@ -119,7 +120,7 @@ void Preview::paintEvent(QPaintEvent *)
         QImage image = labelImage(tr("DL"), target.size(), std::max(1.0, devicePixelRatioF()));
         if (mirror) {
             const bool leftRight = orientation == CupsSupport::Portrait || orientation == CupsSupport::ReversePortrait;
-            image = image.mirrored(leftRight, !leftRight);
+            image = image.transformed(QTransform::fromScale(leftRight ? -1 : 1, leftRight ? 1 : -1));
         }
         if (negative)
             image.invertPixels(QImage::InvertRgb);

@@ -5,6 +5,7 @@
 #define PROPERTIESDIALOG_H
 
 #include <PropertiesDialog/propertiesdialog_export.h>
+#include <PropertiesDialog/propertiesdialog_version.h>
 
 #ifdef __cplusplus
 extern "C" {

@@ -7,6 +7,8 @@
 
 #include "properties/Preview.h"
 
+#include <PropertiesDialog/propertiesdialog_version.h>
+
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QSignalSpy>
@@ -935,7 +937,7 @@ void PropertiesDialogFieldsTest::languageChangeReachesTheForm()
         QCOMPARE(t.shown("stopLabel"), context + "Vertical Offset");
         QCOMPARE(t.shown("gapSizeLabel"), context + "Black Mark Size");
         QCOMPARE(t.shown("gapOffsetLabel"), context + "Black Mark Offset");
-        QCOMPARE(t.shown("aboutVersionLabel"), context + "Version " PROPERTIESDIALOG_VERSION);
+        QCOMPARE(t.shown("aboutVersionLabel"), context + "Version " PROPERTIESDIALOG_VERSION_STRING);
         QCOMPARE(t.shown("aboutDateLabel"), context + PROPERTIESDIALOG_RELEASE_DATE);
         QCOMPARE(t.shown("speedValue"), "3");
         QCOMPARE(t.shown("darknessValue"), "10");
@@ -964,7 +966,7 @@ void PropertiesDialogFieldsTest::languageChangeBeforeShowing()
     QEvent event(QEvent::LanguageChange);
     QCoreApplication::sendEvent(t.dialog.get(), &event);
     QCOMPARE(t.dialog->windowTitle(), "LP-TIK Printing Preferences");
-    QCOMPARE(t.shown("aboutVersionLabel"), "Version " PROPERTIESDIALOG_VERSION);
+    QCOMPARE(t.shown("aboutVersionLabel"), "Version " PROPERTIESDIALOG_VERSION_STRING);
     t.dialog->show();
     QCOMPARE(t.shown("stopLabel"), "Vertical Offset");
     QCOMPARE(t.shown("gapSizeLabel"), "Gap Size");

@@ -434,7 +434,7 @@ void PropertiesDialogLoadTest::textContexts()
     QCOMPARE(itemsOf(t.list("cut")),
              QStringList({"PrintPropertiesDialog: No Cut", "PrintPropertiesDialog: Cut After Job",
                           "PrintPropertiesDialog: Cut After Page"}));
-    QCOMPARE(t.shown("aboutVersionLabel"), "PrintPropertiesDialog: Version " PROPERTIESDIALOG_VERSION);
+    QCOMPARE(t.shown("aboutVersionLabel"), "PrintPropertiesDialog: Version " PROPERTIESDIALOG_VERSION_STRING);
     QCOMPARE(t.shown("aboutDateLabel"), "PrintPropertiesDialog: " PROPERTIESDIALOG_RELEASE_DATE);
     t.dialog->show();
     QCOMPARE(t.shown("stopLabel"), "PrintPropertiesDialog: Stop Position");
@@ -457,7 +457,7 @@ void PropertiesDialogLoadTest::textContexts()
 void PropertiesDialogLoadTest::aboutTexts()
 {
     DialogUnderTest t("LP");
-    QCOMPARE(t.shown("aboutVersionLabel"), "Version " PROPERTIESDIALOG_VERSION);
+    QCOMPARE(t.shown("aboutVersionLabel"), "Version " PROPERTIESDIALOG_VERSION_STRING);
     QCOMPARE(t.shown("aboutDateLabel"), PROPERTIESDIALOG_RELEASE_DATE);
 }
 
