@@ -31,10 +31,12 @@ install(EXPORT PropertiesDialogTargets
     DESTINATION ${package_dir}
     COMPONENT Development
 )
+set(translations_dir ${CMAKE_INSTALL_DATADIR}/${PROPERTIESDIALOG_TRANSLATIONS_SUBDIR})
 configure_package_config_file(
     ${CMAKE_CURRENT_LIST_DIR}/PropertiesDialogConfig.cmake.in
     ${PROJECT_BINARY_DIR}/PropertiesDialogConfig.cmake
     INSTALL_DESTINATION ${package_dir}
+    PATH_VARS translations_dir
     NO_SET_AND_CHECK_MACRO
 )
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/PropertiesDialogConfigVersion.cmake

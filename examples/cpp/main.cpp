@@ -4,10 +4,21 @@
 #include "LabelWindow.h"
 
 #include <QApplication>
+#include <QLocale>
+#include <QTranslator>
 
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
+
+    // The library's dialogs in the user's language. Without a catalogue for it they are in English.
+    QTranslator texts;
+    if (texts.load(QLocale(), QStringLiteral("propertiesdialog"), QStringLiteral("_"),
+                   QString::fromUtf8(TRANSLATIONS_DIR))) {
+        QCoreApplication::installTranslator(&texts);
+        QApplication::setLayoutDirection(QLocale().textDirection());
+    }
+
     LabelWindow window;
     window.show();
     return QApplication::exec();
