@@ -135,8 +135,8 @@ void ignoreMissingFonts()
 bool applyTooLong(const QString &queue, QRandomGenerator &random)
 {
     const QByteArray before = optionsFile();
-    DialogUnderTest open(queue);
-    open.dialog->show();
+    OpenDialog open(queue);
+    open.dialog.show();
     QString text;
     while (text.size() < tooLong)
         text += QChar(random.bounded(0x20, 0x7f));
@@ -154,8 +154,8 @@ int apply(int &argc, char **argv)
     QRandomGenerator random(QByteArray(argv[1]).toUInt());
     QStringList texts;
     for (int i = 0; i < queues; ++i) {
-        DialogUnderTest open(queueName(i));
-        open.dialog->show();
+        OpenDialog open(queueName(i));
+        open.dialog.show();
         auto *edit = open.widget<QPlainTextEdit>("commandEdit");
         int room = longestCommands;
         for (const char *radio : radios) {
@@ -186,8 +186,8 @@ int read(int &argc, char **argv)
     const QApplication app(argc, argv);
     QStringList texts;
     for (int i = 0; i < queues; ++i) {
-        DialogUnderTest open(queueName(i));
-        open.dialog->show();
+        OpenDialog open(queueName(i));
+        open.dialog.show();
         for (const char *radio : radios) {
             open.button(radio)->click();
             texts << heldBy(open.widget<QPlainTextEdit>("commandEdit"));

@@ -178,12 +178,12 @@ void ForeignTest::lookingRunsNothing()
     writeFile(scriptPath("B"), scriptWith("ppdhack 4.00 3.00 LP1").replace("=Foreign", "=Other"));
     const LoggedPrograms programs;
     OpenDialog open;
-    auto *tabs = open.find<QTabWidget>("tabs");
+    auto *tabs = open.widget<QTabWidget>("tabs");
     for (int i = 0; i < tabs->count(); ++i) {
         tabs->setCurrentIndex(i);
         QCoreApplication::processEvents();
     }
-    QCOMPARE(open.find<QComboBox>("preset0")->count(), 4);
+    QCOMPARE(open.widget<QComboBox>("preset0")->count(), 4);
     Presets presets("LP1");
     for (const char *file : {"A", "B"}) {
         Preset *preset = presets.findPresetByFileName(file);
@@ -217,7 +217,7 @@ void ForeignTest::choosing()
     writeFile(scriptPath("A"), "#!/bin/bash\nlpoptions -pLP1\n");
     const LoggedPrograms programs;
     OpenDialog open;
-    QCOMPARE(open.find<QComboBox>("preset0")->itemText(3), QString("Foreign"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->itemText(3), QString("Foreign"));
     open.choose("preset0", 3);
     QCOMPARE(programs.calls(), calls);
     QVERIFY(!QFile::exists(marker()));
@@ -229,7 +229,7 @@ void ForeignTest::savingRunsTheDriverAlone()
     writeFile(scriptPath(), scriptWith("touch x"));
     const LoggedPrograms programs;
     OpenDialog open;
-    open.find<QGroupBox>("stockGroupBox")->setChecked(true);
+    open.widget<QGroupBox>("stockGroupBox")->setChecked(true);
     open.setText("widthEdit", "4");
     open.setText("heightEdit", "3");
     open.click("applyButton");
@@ -254,7 +254,7 @@ void ForeignTest::kindOfFile()
     {
         OpenDialog open;
         QVERIFY(open.dialog.isVisible());
-        for (int i = open.find<QComboBox>("preset0")->count() - 1; i >= 0; --i)
+        for (int i = open.widget<QComboBox>("preset0")->count() - 1; i >= 0; --i)
             open.choose("preset0", i);
         QCOMPARE(programs.calls(), QByteArray());
         open.click("applyButton");
@@ -300,7 +300,7 @@ void ForeignTest::printerName()
     OpenDialog open;
     QCOMPARE(open.cups.getCurrentQueueName(), queue);
     open.click("presetNewButton");
-    open.find<QGroupBox>("stockGroupBox")->setChecked(true);
+    open.widget<QGroupBox>("stockGroupBox")->setChecked(true);
     open.setText("widthEdit", "4");
     open.setText("heightEdit", "3");
     open.slide("darknessSlider", 12);

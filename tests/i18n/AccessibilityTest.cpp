@@ -1,14 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "AllDialogs.h"
 #include "Languages.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
-
-#include <PropertiesDialog/CupsSupport.h>
-#include <PropertiesDialog/ExtDialog.h>
-#include <PropertiesDialog/PrintDialog.h>
-#include <PropertiesDialog/PrintPropertiesDialog.h>
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -152,11 +148,11 @@ private Q_SLOTS:
     void contrastIsMeasured();
 
 private:
-    QWidget *dialog(const QString &name);
+    QDialog *dialog(const QString &name) const { return dialogs->byName().value(name); }
     template<class Widget = QWidget>
     Widget *child(const QString &name)
     {
-        for (QWidget *window : QList<QWidget *>{properties.get(), print.get(), question.get(), offset.get()})
+        for (const QDialog *window : dialogs->byName())
             if (auto *widget = window->findChild<Widget *>(name))
                 return widget;
         qFatal("there is no %s", qPrintable(name));
@@ -164,12 +160,7 @@ private:
     }
 
     PrivateScheduler scheduler;
-    std::unique_ptr<QPrinter> printer;
-    std::unique_ptr<CupsSupport> cups;
-    std::unique_ptr<PrintPropertiesDialog> properties;
-    std::unique_ptr<PrintDialog> print;
-    std::unique_ptr<PrintDialog> question;
-    std::unique_ptr<ExtDialog> offset;
+    std::unique_ptr<AllDialogs> dialogs;
 };
 
 void AccessibilityTest::initTestCase()
@@ -182,31 +173,12 @@ void AccessibilityTest::initTestCase()
 
 void AccessibilityTest::init()
 {
-    printer = std::make_unique<QPrinter>(QPrinter::ScreenResolution);
-    cups = std::make_unique<CupsSupport>();
-    properties = std::make_unique<PrintPropertiesDialog>(nullptr, printer.get(), cups.get());
-    print = std::make_unique<PrintDialog>(nullptr, printer.get(), cups.get());
-    question = std::make_unique<PrintDialog>(nullptr);
-    offset = std::make_unique<ExtDialog>(nullptr, cups.get());
+    dialogs = std::make_unique<AllDialogs>("Labels");
 }
 
 void AccessibilityTest::cleanup()
 {
-    offset.reset();
-    question.reset();
-    print.reset();
-    properties.reset();
-    cups.reset();
-    printer.reset();
-}
-
-QWidget *AccessibilityTest::dialog(const QString &name)
-{
-    const QMap<QString, QWidget *> dialogs{{"properties", properties.get()},
-                                           {"print", print.get()},
-                                           {"question", question.get()},
-                                           {"offset", offset.get()}};
-    return dialogs.value(name);
+    dialogs.reset();
 }
 
 void AccessibilityTest::controlsHaveNameAndRole_data()
@@ -274,7 +246,7 @@ void AccessibilityTest::controlIsRead_data()
 void AccessibilityTest::controlIsRead()
 {
     QFETCH(QString, name);
-    properties->show();
+    dialogs->properties->show();
     child<QComboBox>("mediaType")->setCurrentIndex(CupsSupport::LabelsWithGaps);
     // Qt names a list by what is chosen in it, and leaves what it is for to the label.
     QTEST(qobject_cast<QComboBox *>(child(name)) ? nameOf(labelOf(child(name))) : nameOf(child(name)), "text");
@@ -308,7 +280,7 @@ void AccessibilityTest::labelsBelongToTheirFields()
 
 void AccessibilityTest::previewIsAPicture()
 {
-    properties->show();
+    dialogs->properties->show();
     const auto *frame = child<QFrame>("frame");
     QObject *preview = frame->findChildren<QWidget *>().constFirst();
     QCOMPARE(QAccessible::queryAccessibleInterface(preview)->role(), QAccessible::Graphic);
@@ -335,7 +307,7 @@ void AccessibilityTest::previewIsSaidInWords()
     QFETCH(QString, button);
     QFETCH(bool, mirror);
     QFETCH(bool, negative);
-    properties->show();
+    dialogs->properties->show();
     child<QRadioButton>(button)->setChecked(true);
     child<QCheckBox>("mirroredCheckBox")->setChecked(mirror);
     child<QCheckBox>("inverseCheckBox")->setChecked(negative);
@@ -359,7 +331,7 @@ void AccessibilityTest::commandIsNamedByItsPlace()
 
 void AccessibilityTest::wordsChangeWithTheLanguage()
 {
-    properties->show();
+    dialogs->properties->show();
     child<QRadioButton>("landscapeRadioButton")->setChecked(true);
     const InLanguage texts("de");
     QCoreApplication::processEvents();
@@ -433,8 +405,8 @@ void AccessibilityTest::tabKeyGoesRound()
 
 void AccessibilityTest::keysDoWhatTheMouseDoes()
 {
-    properties->show();
-    QVERIFY(QTest::qWaitForWindowActive(properties.get()));
+    dialogs->properties->show();
+    QVERIFY(QTest::qWaitForWindowActive(dialogs->properties.get()));
     child<QRadioButton>("landscapeRadioButton")->setChecked(true);
     child("landscapeRadioButton")->setFocus();
     QTest::keyClick(child("landscapeRadioButton"), Qt::Key_Down);
@@ -457,8 +429,8 @@ void AccessibilityTest::keysDoWhatTheMouseDoes()
     QCOMPARE(child<QTabWidget>("tabs")->currentIndex(), 2);
     QTest::keyClick(child("mediaType"), Qt::Key_Home);
     QCOMPARE(child<QComboBox>("mediaType")->currentIndex(), 0);
-    QTest::keyClick(properties.get(), Qt::Key_Escape);
-    QVERIFY(!properties->isVisible());
+    QTest::keyClick(dialogs->properties.get(), Qt::Key_Escape);
+    QVERIFY(!dialogs->properties->isVisible());
 }
 
 void AccessibilityTest::textsStandOut_data()

@@ -1,14 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "AllDialogs.h"
 #include "Languages.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
-
-#include <PropertiesDialog/CupsSupport.h>
-#include <PropertiesDialog/ExtDialog.h>
-#include <PropertiesDialog/PrintDialog.h>
-#include <PropertiesDialog/PrintPropertiesDialog.h>
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -177,45 +173,17 @@ void examineTabs(QWidget &dialog, const QString &what)
     }
 }
 
-// The dialogs of one printer.
-struct Dialogs
+void examineAll(const AllDialogs &dialogs, const QString &what)
 {
-    explicit Dialogs(const QString &queue)
-    {
-        for (int index = 0; index < cups.getDestCount(); ++index)
-            if (cups.getQueueName(index) == queue)
-                cups.setCurrentPrinter(index);
-        printer.setPrinterName(queue);
+    examineTabs(*dialogs.properties, what + " properties");
+    dialogs.properties->hide();
+    for (const char *name : {"print", "question", "offset"}) {
+        QDialog *dialog = dialogs.byName().value(name);
+        dialog->show();
+        examine(*dialog, what + ' ' + name);
+        dialog->hide();
     }
-
-    void open()
-    {
-        properties = std::make_unique<PrintPropertiesDialog>(nullptr, &printer, &cups);
-        print = std::make_unique<PrintDialog>(nullptr, &printer, &cups);
-        question = std::make_unique<PrintDialog>(nullptr);
-        offset = std::make_unique<ExtDialog>(nullptr, &cups);
-    }
-
-    void examineAll(const QString &what)
-    {
-        examineTabs(*properties, what + " properties");
-        properties->hide();
-        for (const auto &[dialog, name] : {std::pair<QDialog *, const char *>{print.get(), " print"},
-                                           {question.get(), " question"},
-                                           {offset.get(), " offset"}}) {
-            dialog->show();
-            examine(*dialog, what + name);
-            dialog->hide();
-        }
-    }
-
-    QPrinter printer{QPrinter::ScreenResolution};
-    CupsSupport cups;
-    std::unique_ptr<PrintPropertiesDialog> properties;
-    std::unique_ptr<PrintDialog> print;
-    std::unique_ptr<PrintDialog> question;
-    std::unique_ptr<ExtDialog> offset;
-};
+}
 
 // Arguments: style, dots per inch. Prints the faults, and how many widgets were examined.
 int findFaults(int &argc, char **argv)
@@ -228,28 +196,29 @@ int findFaults(int &argc, char **argv)
         || qRound(QGuiApplication::primaryScreen()->logicalDotsPerInchY()) != dpi)
         qFatal("not the style or the resolution that was wanted");
 
-    Dialogs dialogs[] = {Dialogs("Labels"), Dialogs("ORCA-1")};
+    AllDialogs labels("Labels");
+    AllDialogs orca("ORCA-1");
     for (const int points : {9, 12}) {
         QApplication::setFont(QFont("DejaVu Sans", points));
         areFormSizesExpected = points == 9 && dpi == 96;
         for (const QString &language : QStringList("en") + languages()) {
             const QString what = QStringLiteral("%1 %2 %3dpi %4pt").arg(language, style).arg(dpi).arg(points);
-            for (Dialogs &d : dialogs) {
+            for (AllDialogs *dialogs : {&labels, &orca}) {
                 const InLanguage texts(language);
-                d.open();
-                d.examineAll(what + ' ' + d.printer.printerName());
+                dialogs->create();
+                examineAll(*dialogs, what + ' ' + dialogs->printer.printerName());
             }
             // The language that the user changes to while the dialogs are there.
-            dialogs[0].open();
+            labels.create();
             const InLanguage texts(language);
-            dialogs[0].examineAll(what + " switched");
+            examineAll(labels, what + " switched");
         }
     }
     // The font that the user changes to while the dialogs are there.
     QApplication::setFont(QFont("DejaVu Sans", 9));
-    dialogs[0].open();
+    labels.create();
     QApplication::setFont(QFont("DejaVu Sans", 12));
-    dialogs[0].examineAll(QStringLiteral("en %1 %2dpi enlarged").arg(style).arg(dpi));
+    examineAll(labels, QStringLiteral("en %1 %2dpi enlarged").arg(style).arg(dpi));
     std::printf("%d examined\n", examinedWidgets);
     return 0;
 }

@@ -1,17 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "OpenDialog.h"
 #include "TestMain.h"
 
-#include <PropertiesDialog/CupsSupport.h>
-#include <PropertiesDialog/PrintPropertiesDialog.h>
-
-#include <QCheckBox>
-#include <QFrame>
 #include <QIcon>
 #include <QImage>
-#include <QPrinter>
-#include <QRadioButton>
 
 #include <cmath>
 #include <cstdio>
@@ -127,16 +121,13 @@ int examineDialog(int &argc, char **argv)
     QApplication application(argc, argv);
     const double factor = QByteArray(argv[1]).toDouble();
     QApplication::setStyle("Fusion");
-    QPrinter printer(QPrinter::ScreenResolution);
-    CupsSupport cups;
-    PrintPropertiesDialog dialog(nullptr, &printer, &cups);
-    dialog.show();
-    const QPixmap whole = dialog.grab();
-    check(whole.size() == (QSizeF(dialog.size()) * factor).toSize(), "the dialog has not the screen's resolution");
-    examineIcon(dialog.windowIcon(), factor);
+    OpenDialog open;
+    const QPixmap whole = open.dialog.grab();
+    check(whole.size() == (QSizeF(open.dialog.size()) * factor).toSize(), "the dialog has not the screen's resolution");
+    examineIcon(open.dialog.windowIcon(), factor);
 
     // Where the arrow is on a screen without scaling: of 31 pixels, 21 wide, at the middle of its edge.
-    auto *preview = dialog.findChild<QFrame *>("frame")->findChildren<QWidget *>().constFirst();
+    auto *preview = open.widget("frame")->findChildren<QWidget *>().constFirst();
     const QSize usable = preview->size() - QSize(2, 2);
     const int middle = usable.width() / 2;
     const int last = usable.width() - 1;
@@ -147,7 +138,7 @@ int examineDialog(int &argc, char **argv)
         {"portrait180RadioButton", QRect(middle - 10, 0, 21, 31)},
     };
     for (auto arrow = arrows.cbegin(); arrow != arrows.cend(); ++arrow) {
-        dialog.findChild<QRadioButton *>(arrow.key())->setChecked(true);
+        open.click(arrow.key());
         examinePreview(preview, factor, arrow.value());
     }
     const QString folder = qEnvironmentVariable("SCALING_PICTURES");

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "Languages.h"
+#include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
 
-#include <PropertiesDialog/CupsSupport.h>
 #include <PropertiesDialog/PrintDialog.h>
-#include <PropertiesDialog/PrintPropertiesDialog.h>
 #include <PropertiesDialog/PropertiesDialog.h>
 
 #include <QComboBox>
@@ -226,22 +225,19 @@ void TranslationsTest::fixedTextsStay()
 {
     QFETCH(QString, language);
     const InLanguage texts(language);
-    QPrinter printer(QPrinter::ScreenResolution);
-    CupsSupport cups;
-    PrintPropertiesDialog properties(nullptr, &printer, &cups);
-    properties.show();
-    const auto *list = properties.findChild<QComboBox *>("preset0");
+    OpenDialog open;
+    const auto *list = open.list("preset0");
     QCOMPARE(list->itemText(0), QString("<Current Settings>"));
     QCOMPARE(list->itemText(1), QString("<Default Settings>"));
 
     PrivateScheduler::run("cupsdisable", {"Labels"});
     CupsSupport stopped;
-    PrintDialog print(nullptr, &printer, &stopped);
+    PrintDialog print(nullptr, &open.printer, &stopped);
     const QString status = print.findChild<QLabel *>("lblStatusInfo")->text();
     PrivateScheduler::run("cupsenable", {"Labels"});
     QVERIFY2(status.startsWith("Stopped"), qPrintable(status));
     CupsSupport idle;
-    PrintDialog printAgain(nullptr, &printer, &idle);
+    PrintDialog printAgain(nullptr, &open.printer, &idle);
     QCOMPARE(printAgain.findChild<QLabel *>("lblStatusInfo")->text(), QString("Idle"));
 }
 

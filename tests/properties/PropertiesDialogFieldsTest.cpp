@@ -279,8 +279,8 @@ void PropertiesDialogFieldsTest::everyFieldMarksChanges_data()
 void PropertiesDialogFieldsTest::everyFieldMarksChanges()
 {
     QFETCH(QString, name);
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     QVERIFY(!t.isChanged());
     changeWidget(t.widget(name));
     QVERIFY(t.isChanged());
@@ -288,16 +288,16 @@ void PropertiesDialogFieldsTest::everyFieldMarksChanges()
 
 void PropertiesDialogFieldsTest::printMethodMarksChanges()
 {
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     t.list("printMethod")->addItem("a"); // becomes current
     QVERIFY(t.isChanged());
 }
 
 void PropertiesDialogFieldsTest::equalValueIsNoChange()
 {
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     for (const char *name : {"widthEdit", "heightEdit", "gapSize", "gapOffset", "feed", "back", "overlap", "stop",
                              "horizontalEdit", "verticalEdit"})
         t.edit(name)->setText(t.shown(name));
@@ -327,8 +327,8 @@ void PropertiesDialogFieldsTest::mediaTypeShowsRows()
 {
     QFETCH(int, family);
     QFETCH(int, index);
-    DialogUnderTest t(queues[family], {"LabelCategory", "0"});
-    t.dialog->show();
+    OpenDialog t(queues[family], {"LabelCategory", "0"});
+    t.dialog.show();
     const auto check = [&t] {
         for (const char *suffix : {"", "Label", "Units"}) {
             QTEST(!t.widget(QString("gapSize") + suffix)->isHidden(), "size");
@@ -338,8 +338,8 @@ void PropertiesDialogFieldsTest::mediaTypeShowsRows()
     };
     // From each other type.
     for (int before : {0, 1, 2}) {
-        call(t.dialog.get(), "on_mediaType_currentIndexChanged", before);
-        call(t.dialog.get(), "on_mediaType_currentIndexChanged", index);
+        call(&t.dialog, "on_mediaType_currentIndexChanged", before);
+        call(&t.dialog, "on_mediaType_currentIndexChanged", index);
         check();
     }
     if (index < t.list("mediaType")->count()) {
@@ -373,9 +373,9 @@ void PropertiesDialogFieldsTest::mediaTypeFillsFields()
 {
     QFETCH(QString, queue);
     QFETCH(int, index);
-    DialogUnderTest t(queue, {"LabelCategory", "0", "GapSize", "3.048", "GapOffset", "1.016", "MarkSize", "25.400",
-                              "MarkOffset", "-2.540"});
-    t.dialog->show();
+    OpenDialog t(queue, {"LabelCategory", "0", "GapSize", "3.048", "GapOffset", "1.016", "MarkSize", "25.400",
+                         "MarkOffset", "-2.540"});
+    t.dialog.show();
     t.list("mediaType")->setCurrentIndex(index);
     QTEST(t.shown("gapSize"), "size");
     QTEST(t.shown("gapOffset"), "offset");
@@ -386,8 +386,8 @@ void PropertiesDialogFieldsTest::mediaTypeFillsFields()
 
 void PropertiesDialogFieldsTest::mediaTypeDropsWhatWasTyped()
 {
-    DialogUnderTest t("LP-TIK", {"LabelCategory", "1", "GapSize", "2.540", "GapOffset", "5.080"});
-    t.dialog->show();
+    OpenDialog t("LP-TIK", {"LabelCategory", "1", "GapSize", "2.540", "GapOffset", "5.080"});
+    t.dialog.show();
     t.edit("gapSize")->setText("0.77");
     t.edit("gapOffset")->setText("0.88");
     t.list("mediaType")->setCurrentIndex(2);
@@ -407,12 +407,12 @@ void PropertiesDialogFieldsTest::continuousFillsNothing_data()
 void PropertiesDialogFieldsTest::continuousFillsNothing()
 {
     QFETCH(int, index);
-    DialogUnderTest t("LP-TIK", {"LabelCategory", "2"});
-    t.dialog->show();
+    OpenDialog t("LP-TIK", {"LabelCategory", "2"});
+    t.dialog.show();
     t.edit("gapSize")->setText("0.77");
     t.edit("gapOffset")->setText("0.88");
     t.edit("feed")->setText("0.99");
-    call(t.dialog.get(), "on_mediaType_currentIndexChanged", index);
+    call(&t.dialog, "on_mediaType_currentIndexChanged", index);
     QCOMPARE(t.shown("gapSize"), "0.77");
     QCOMPARE(t.shown("gapOffset"), "0.88");
     QCOMPARE(t.shown("feed"), "0.99");
@@ -421,17 +421,17 @@ void PropertiesDialogFieldsTest::continuousFillsNothing()
 
 void PropertiesDialogFieldsTest::mediaTypeReadsTheStoredValues()
 {
-    DialogUnderTest t("LP", {"LabelCategory", "0"});
-    t.dialog->show();
+    OpenDialog t("LP", {"LabelCategory", "0"});
+    t.dialog.show();
     t.cups.setGapSize(7.62);
     t.list("mediaType")->setCurrentIndex(1);
     QCOMPARE(t.shown("gapSize"), "0.30");
     t.cups.deleteOptions({"GapSize"});
-    call(t.dialog.get(), "on_mediaType_currentIndexChanged", 1);
+    call(&t.dialog, "on_mediaType_currentIndexChanged", 1);
     QCOMPARE(t.shown("gapSize"), "0.12"); // the default of 3 mm
 
-    DialogUnderTest withoutPpd("LP-NOPPD");
-    withoutPpd.dialog->show();
+    OpenDialog withoutPpd("LP-NOPPD");
+    withoutPpd.dialog.show();
     withoutPpd.list("mediaType")->setCurrentIndex(2);
     QCOMPARE(withoutPpd.shown("gapSize"), "0.00");
     QCOMPARE(withoutPpd.shown("gapOffset"), "0.00");
@@ -439,11 +439,11 @@ void PropertiesDialogFieldsTest::mediaTypeReadsTheStoredValues()
 
 void PropertiesDialogFieldsTest::mediaTypeHandlerMarksChanges()
 {
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     for (int index : {0, 1, 2, -1}) {
-        t.dialog->setChanged(false);
-        call(t.dialog.get(), "on_mediaType_currentIndexChanged", index);
+        t.dialog.setChanged(false);
+        call(&t.dialog, "on_mediaType_currentIndexChanged", index);
         QVERIFY(t.isChanged());
     }
 }
@@ -462,20 +462,20 @@ void PropertiesDialogFieldsTest::orientationMapping_data()
 void PropertiesDialogFieldsTest::orientationMapping()
 {
     QFETCH(QString, radio);
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     t.button(radio)->setChecked(true);
-    QTEST(static_cast<int>(t.dialog->cups_orientation()), "code");
-    QTEST(t.dialog->orientation(), "orientation");
+    QTEST(static_cast<int>(t.dialog.cups_orientation()), "code");
+    QTEST(t.dialog.orientation(), "orientation");
 }
 
 void PropertiesDialogFieldsTest::noOrientationIsPortrait()
 {
-    DialogUnderTest t("LP"); // before it is shown none is checked
+    OpenDialog t("LP"); // before it is shown none is checked
     for (const Orientation &entry : orientations)
         QVERIFY(!t.button(entry.radio)->isChecked());
-    QCOMPARE(t.dialog->cups_orientation(), CupsSupport::Portrait);
-    QCOMPARE(t.dialog->orientation(), QPageLayout::Portrait);
+    QCOMPARE(t.dialog.cups_orientation(), CupsSupport::Portrait);
+    QCOMPARE(t.dialog.orientation(), QPageLayout::Portrait);
 }
 
 void PropertiesDialogFieldsTest::setOrientation_data()
@@ -486,22 +486,22 @@ void PropertiesDialogFieldsTest::setOrientation_data()
 void PropertiesDialogFieldsTest::setOrientation()
 {
     QFETCH(QString, radio);
-    DialogUnderTest t("LP");
-    t.dialog->show();
-    auto *preview = t.dialog->findChild<Preview *>();
+    OpenDialog t("LP");
+    t.dialog.show();
+    auto *preview = t.dialog.findChild<Preview *>();
     t.button(radio)->setChecked(true);
-    t.dialog->setOrientation(QPageLayout::Landscape);
+    t.dialog.setOrientation(QPageLayout::Landscape);
     QVERIFY(t.button("landscapeRadioButton")->isChecked());
     QCOMPARE(preview->orientation, 4);
 
     t.button(radio)->setChecked(true);
-    t.dialog->setOrientation(QPageLayout::Portrait);
+    t.dialog.setOrientation(QPageLayout::Portrait);
     QVERIFY(t.button("portraitRadioButton")->isChecked());
     QCOMPARE(preview->orientation, 3);
 
     // The preview follows also when nothing changes.
     preview->orientation = 0;
-    t.dialog->setOrientation(QPageLayout::Portrait);
+    t.dialog.setOrientation(QPageLayout::Portrait);
     QCOMPARE(preview->orientation, 3);
 }
 
@@ -513,13 +513,13 @@ void PropertiesDialogFieldsTest::uncheckedOrientationDoesNothing_data()
 void PropertiesDialogFieldsTest::uncheckedOrientationDoesNothing()
 {
     QFETCH(QString, radio);
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     for (const Orientation &entry : orientations)
         t.button(entry.radio)->setAutoExclusive(false);
     t.button(radio)->setChecked(true);
-    t.dialog->setChanged(false);
-    auto *preview = t.dialog->findChild<Preview *>();
+    t.dialog.setChanged(false);
+    auto *preview = t.dialog.findChild<Preview *>();
     preview->orientation = 0;
     t.button(radio)->setChecked(false);
     QVERIFY(!t.isChanged());
@@ -542,9 +542,9 @@ void PropertiesDialogFieldsTest::previewFollows_data()
 void PropertiesDialogFieldsTest::previewFollows()
 {
     QFETCH(QString, name);
-    DialogUnderTest t("LP");
-    t.dialog->show();
-    const auto *preview = t.dialog->findChild<Preview *>();
+    OpenDialog t("LP");
+    t.dialog.show();
+    const auto *preview = t.dialog.findChild<Preview *>();
     QCOMPARE(preview->orientation, 4);
     t.button(name)->setChecked(true);
     QTEST(preview->orientation, "orientation");
@@ -571,10 +571,10 @@ void PropertiesDialogFieldsTest::previewIsPaintedAgain_data()
 void PropertiesDialogFieldsTest::previewIsPaintedAgain()
 {
     QFETCH(QString, name);
-    DialogUnderTest t("LP");
-    t.dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(t.dialog.get()));
-    PaintCounter paints(t.dialog->findChild<Preview *>());
+    OpenDialog t("LP");
+    t.dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&t.dialog));
+    PaintCounter paints(t.dialog.findChild<Preview *>());
     do { // until the window is complete
         paints.count = 0;
         QTest::qWait(50);
@@ -585,9 +585,9 @@ void PropertiesDialogFieldsTest::previewIsPaintedAgain()
 
 void PropertiesDialogFieldsTest::updatePreviewSetsEverything()
 {
-    DialogUnderTest t("LP");
-    t.dialog->show();
-    auto *preview = t.dialog->findChild<Preview *>();
+    OpenDialog t("LP");
+    t.dialog.show();
+    auto *preview = t.dialog.findChild<Preview *>();
     for (const Orientation &entry : orientations) {
         t.button(entry.radio)->setChecked(true);
         preview->labelWidth = 1;
@@ -595,7 +595,7 @@ void PropertiesDialogFieldsTest::updatePreviewSetsEverything()
         preview->orientation = 0;
         preview->mirror = true;
         preview->negative = true;
-        t.dialog->updatePreview();
+        t.dialog.updatePreview();
         QCOMPARE(preview->labelWidth, 1200.0);
         QCOMPARE(preview->labelHeight, 1200.0);
         QCOMPARE(preview->orientation, entry.code);
@@ -608,18 +608,18 @@ void PropertiesDialogFieldsTest::updatePreviewSetsEverything()
 
 void PropertiesDialogFieldsTest::sizeGroup()
 {
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     auto *group = t.widget<QGroupBox>("stockGroupBox");
     for (bool checked : {true, false, true}) {
-        t.dialog->setChanged(false);
+        t.dialog.setChanged(false);
         group->setChecked(checked);
         QVERIFY(t.isChanged());
         for (const char *name : {"widthLabel", "widthEdit", "widthUnits", "heightLabel", "heightEdit", "heightUnits"})
             QCOMPARE(t.widget(name)->isEnabled(), checked);
     }
     // By the handler itself, not just by the group box.
-    QMetaObject::invokeMethod(t.dialog.get(), "on_stockGroupBox_toggled", Q_ARG(bool, false));
+    QMetaObject::invokeMethod(&t.dialog, "on_stockGroupBox_toggled", Q_ARG(bool, false));
     for (const char *name : {"widthLabel", "widthEdit", "widthUnits", "heightLabel", "heightEdit", "heightUnits"})
         QVERIFY(!t.widget(name)->isEnabled());
 }
@@ -638,10 +638,10 @@ void PropertiesDialogFieldsTest::sliders()
 {
     QFETCH(QString, slider);
     QFETCH(QString, label);
-    DialogUnderTest t("LP-ZED", {"PrintSpeed", "3", "Darkness", "3"});
-    t.dialog->show();
+    OpenDialog t("LP-ZED", {"PrintSpeed", "3", "Darkness", "3"});
+    t.dialog.show();
     for (int value : {4, 2, 5}) {
-        t.dialog->setChanged(false);
+        t.dialog.setChanged(false);
         t.widget<QSlider>(slider)->setValue(value);
         QCOMPARE(t.shown(label), QString::number(value));
         QVERIFY(t.isChanged());
@@ -654,12 +654,12 @@ void PropertiesDialogFieldsTest::sliders()
 
 void PropertiesDialogFieldsTest::commandsAreKeptApart()
 {
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     for (const Command &command : commandSlots) {
         t.button(command.radio)->setChecked(true);
         QCOMPARE(t.shown("commandEdit"), "");
-        t.dialog->setChanged(false);
+        t.dialog.setChanged(false);
         t.widget<QPlainTextEdit>("commandEdit")->setPlainText(command.keyword);
         QVERIFY(t.isChanged());
     }
@@ -677,13 +677,13 @@ void PropertiesDialogFieldsTest::commandsAreKeptApart()
 
 void PropertiesDialogFieldsTest::switchingCommandsMarksNothing()
 {
-    DialogUnderTest t("LP", {"JobStart", "a\\\\r", "LabelStart", "b\\\\rc\\\\r", "JobEnd", "\xc2\xa0 d\t\\\\r"});
-    t.dialog->show();
+    OpenDialog t("LP", {"JobStart", "a\\\\r", "LabelStart", "b\\\\rc\\\\r", "JobEnd", "\xc2\xa0 d\t\\\\r"});
+    t.dialog.show();
     for (int i : {1, 2, 3, 0, 3, 2, 1, 0}) {
         t.button(commandSlots[i].radio)->setChecked(true);
         QVERIFY(!t.isChanged());
     }
-    t.dialog->saveValues();
+    t.dialog.saveValues();
     QCOMPARE(t.cups.getLabelStart(), "b\nc\n");
     QCOMPARE(t.cups.getLabelEnd(), "");
     QCOMPARE(t.cups.getJobEnd(), QString("\xc2\xa0 d\t\n"));
@@ -691,8 +691,8 @@ void PropertiesDialogFieldsTest::switchingCommandsMarksNothing()
 
 void PropertiesDialogFieldsTest::retypedCommandMarksNothing()
 {
-    DialogUnderTest t("LP", {"JobStart", "a\\\\r"});
-    t.dialog->show();
+    OpenDialog t("LP", {"JobStart", "a\\\\r"});
+    t.dialog.show();
     auto *edit = t.widget<QPlainTextEdit>("commandEdit");
     edit->setPlainText("a\n"); // the same text, set anew
     QVERIFY(!t.isChanged());
@@ -711,8 +711,8 @@ void PropertiesDialogFieldsTest::uncheckedCommandDoesNothing()
 {
     QFETCH(int, slot);
     const Command &other = commandSlots[(slot + 1) % 4];
-    DialogUnderTest t("LP", {commandSlots[slot].keyword, "a\\\\r", other.keyword, "b\\\\r"});
-    t.dialog->show();
+    OpenDialog t("LP", {commandSlots[slot].keyword, "a\\\\r", other.keyword, "b\\\\r"});
+    t.dialog.show();
     for (const Command &command : commandSlots)
         t.button(command.radio)->setAutoExclusive(false);
     for (const Command &command : commandSlots)
@@ -731,8 +731,8 @@ void PropertiesDialogFieldsTest::uncheckedCommandDoesNothing()
 
 void PropertiesDialogFieldsTest::typedCommandComesBack()
 {
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     t.widget<QTabWidget>("tabs")->setCurrentIndex(3);
     t.button("labelEndRadioButton")->click();
     auto *edit = t.widget<QPlainTextEdit>("commandEdit");
@@ -740,7 +740,7 @@ void PropertiesDialogFieldsTest::typedCommandComesBack()
     QTest::keyClick(edit, Qt::Key_Return);
     QTest::keyClicks(edit, "feed");
     QVERIFY(t.isChanged());
-    t.dialog->setChanged(false);
+    t.dialog.setChanged(false);
     t.button("jobStartRadioButton")->click();
     QCOMPARE(t.shown("commandEdit"), "");
     t.button("labelEndRadioButton")->click();
@@ -776,10 +776,10 @@ void PropertiesDialogFieldsTest::getDouble_data()
 void PropertiesDialogFieldsTest::getDouble()
 {
     QFETCH(QString, text);
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     QLineEdit edit(text);
     double value = 7.0;
-    QTEST(t.dialog->getDouble(&edit, &value), "ok");
+    QTEST(t.dialog.getDouble(&edit, &value), "ok");
     QTEST(value, "value");
 }
 
@@ -806,10 +806,10 @@ void PropertiesDialogFieldsTest::getInt_data()
 void PropertiesDialogFieldsTest::getInt()
 {
     QFETCH(QString, text);
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     QLineEdit edit(text);
     int value = 7;
-    QTEST(t.dialog->getInt(&edit, &value), "ok");
+    QTEST(t.dialog.getInt(&edit, &value), "ok");
     QTEST(value, "value");
 }
 
@@ -829,14 +829,14 @@ void PropertiesDialogFieldsTest::enterInThePageSize()
 {
     QFETCH(QString, name);
     QFETCH(Qt::Key, key);
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     t.widget<QGroupBox>("stockGroupBox")->setChecked(true);
     t.edit(name)->setText("1.50");
     const QSignalSpy finished(t.edit(name), &QLineEdit::editingFinished);
     QTest::keyClick(t.edit(name), key);
-    QVERIFY(t.dialog->isVisible());
-    QCOMPARE(t.dialog->result(), 0);
+    QVERIFY(t.dialog.isVisible());
+    QCOMPARE(t.dialog.result(), 0);
     QCOMPARE(t.shown(name), "1.50");
     QCOMPARE(finished.count(), 0);
     QVERIFY(t.isChanged()); // nothing was saved
@@ -863,19 +863,19 @@ void PropertiesDialogFieldsTest::eventFilter()
 {
     QFETCH(QEvent::Type, type);
     QFETCH(Qt::Key, key);
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     QKeyEvent event(type, key, Qt::NoModifier);
-    QTEST(t.dialog->eventFilter(t.edit("widthEdit"), &event), "consumed");
+    QTEST(t.dialog.eventFilter(t.edit("widthEdit"), &event), "consumed");
     QEvent other(QEvent::User);
-    QVERIFY(!t.dialog->eventFilter(t.edit("widthEdit"), &other));
+    QVERIFY(!t.dialog.eventFilter(t.edit("widthEdit"), &other));
 }
 
 void PropertiesDialogFieldsTest::showLoadsAndSettles()
 {
-    DialogUnderTest t("LP");
-    t.dialog->setChanged(true);
+    OpenDialog t("LP");
+    t.dialog.setChanged(true);
     t.cups.setOffsetH(17);
-    t.dialog->show();
+    t.dialog.show();
     QCOMPARE(t.shown("horizontalEdit"), "17");
     QVERIFY(!t.isChanged());
 }
@@ -896,8 +896,8 @@ void PropertiesDialogFieldsTest::languageChange()
 {
     QFETCH(QString, queue);
     QFETCH(QStringList, options);
-    DialogUnderTest t(queue, options);
-    t.dialog->show();
+    OpenDialog t(queue, options);
+    t.dialog.show();
     // All labels, line edits and so on; rows that were never shown have no text of interest.
     const char *const names[] = {"speedValue",     "darknessValue",  "stopLabel",      "aboutVersionLabel",
                                  "aboutDateLabel", "gapSizeLabel",   "gapOffsetLabel", "widthEdit",
@@ -907,11 +907,11 @@ void PropertiesDialogFieldsTest::languageChange()
     QStringList before;
     for (const char *name : names)
         before.append(t.shown(name));
-    const QString title = t.dialog->windowTitle();
+    const QString title = t.dialog.windowTitle();
 
     QEvent event(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(t.dialog.get(), &event);
-    QCOMPARE(t.dialog->windowTitle(), title);
+    QCoreApplication::sendEvent(&t.dialog, &event);
+    QCOMPARE(t.dialog.windowTitle(), title);
     for (std::size_t i = 0; i < std::size(names); ++i) {
         if (QString(names[i]).startsWith("gap") && !hasGapRows)
             continue;
@@ -921,8 +921,8 @@ void PropertiesDialogFieldsTest::languageChange()
 
 void PropertiesDialogFieldsTest::languageChangeReachesTheForm()
 {
-    DialogUnderTest t("LP-TIK", {"LabelCategory", "2"});
-    t.dialog->show();
+    OpenDialog t("LP-TIK", {"LabelCategory", "2"});
+    t.dialog.show();
     {
         const MarkingTranslator translator; // Qt itself sends the event
         QCoreApplication::processEvents();
@@ -933,7 +933,7 @@ void PropertiesDialogFieldsTest::languageChangeReachesTheForm()
         QCOMPARE(t.widget<QTabWidget>("tabs")->tabText(2), context + "Stock");
         QCOMPARE(t.button("landscape180RadioButton")->text(), context + "Landscape 180\u00b0");
         // In place of the form's.
-        QCOMPARE(t.dialog->windowTitle(), "QObject: LP-TIK Printing Preferences");
+        QCOMPARE(t.dialog.windowTitle(), "QObject: LP-TIK Printing Preferences");
         QCOMPARE(t.shown("stopLabel"), context + "Vertical Offset");
         QCOMPARE(t.shown("gapSizeLabel"), context + "Black Mark Size");
         QCOMPARE(t.shown("gapOffsetLabel"), context + "Black Mark Offset");
@@ -953,35 +953,35 @@ void PropertiesDialogFieldsTest::languageChangeReachesTheForm()
 
 void PropertiesDialogFieldsTest::languageChangeMarksNothing()
 {
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     QEvent event(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(t.dialog.get(), &event);
+    QCoreApplication::sendEvent(&t.dialog, &event);
     QVERIFY(!t.isChanged());
 }
 
 void PropertiesDialogFieldsTest::languageChangeBeforeShowing()
 {
-    DialogUnderTest t("LP-TIK", {"LabelCategory", "1"});
+    OpenDialog t("LP-TIK", {"LabelCategory", "1"});
     QEvent event(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(t.dialog.get(), &event);
-    QCOMPARE(t.dialog->windowTitle(), "LP-TIK Printing Preferences");
+    QCoreApplication::sendEvent(&t.dialog, &event);
+    QCOMPARE(t.dialog.windowTitle(), "LP-TIK Printing Preferences");
     QCOMPARE(t.shown("aboutVersionLabel"), "Version " PROPERTIESDIALOG_VERSION_STRING);
-    t.dialog->show();
+    t.dialog.show();
     QCOMPARE(t.shown("stopLabel"), "Vertical Offset");
     QCOMPARE(t.shown("gapSizeLabel"), "Gap Size");
 }
 
 void PropertiesDialogFieldsTest::languageChangeKeepsFields()
 {
-    DialogUnderTest t("LP-TIK", {"LabelCategory", "1"});
-    t.dialog->show();
+    OpenDialog t("LP-TIK", {"LabelCategory", "1"});
+    t.dialog.show();
     t.edit("gapSize")->setText("0.77");
     t.edit("stop")->setText("0.88");
     t.widget<QPlainTextEdit>("commandEdit")->setPlainText("typed");
     t.widget<QTabWidget>("tabs")->setCurrentIndex(2);
     QEvent event(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(t.dialog.get(), &event);
+    QCoreApplication::sendEvent(&t.dialog, &event);
     QCOMPARE(t.shown("gapSize"), "0.77");
     QCOMPARE(t.shown("stop"), "0.88");
     QCOMPARE(t.shown("commandEdit"), "typed");
@@ -991,12 +991,12 @@ void PropertiesDialogFieldsTest::languageChangeKeepsFields()
 
 void PropertiesDialogFieldsTest::otherChangesKeepTexts()
 {
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     t.widget<QLabel>("widthLabel")->setText("other");
     for (QEvent::Type type : {QEvent::FontChange, QEvent::StyleChange, QEvent::PaletteChange, QEvent::LocaleChange}) {
         QEvent event(type);
-        QCoreApplication::sendEvent(t.dialog.get(), &event);
+        QCoreApplication::sendEvent(&t.dialog, &event);
         QCOMPARE(t.shown("widthLabel"), "other");
     }
 }

@@ -300,19 +300,19 @@ void PropertiesDialogLoadTest::init()
 
 void PropertiesDialogLoadTest::windowIsADialogThatStaysOnTop()
 {
-    DialogUnderTest t("LP-TIK");
+    OpenDialog t("LP-TIK");
     // Qt itself adds the system menu, which holds the close button.
-    QCOMPARE(t.dialog->windowFlags() & ~Qt::WindowSystemMenuHint,
+    QCOMPARE(t.dialog.windowFlags() & ~Qt::WindowSystemMenuHint,
              Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint
                  | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
-    QCOMPARE(t.dialog->windowTitle(), "LP-TIK Printing Preferences");
-    QCOMPARE(t.dialog->result(), 0);
-    QVERIFY(!t.dialog->parentWidget());
+    QCOMPARE(t.dialog.windowTitle(), "LP-TIK Printing Preferences");
+    QCOMPARE(t.dialog.result(), 0);
+    QVERIFY(!t.dialog.parentWidget());
 }
 
 void PropertiesDialogLoadTest::parentIsKept()
 {
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     QWidget parent;
     auto *dialog = new PrintPropertiesDialog(&parent, &t.printer, &t.cups);
     QCOMPARE(dialog->parentWidget(), &parent);
@@ -321,18 +321,18 @@ void PropertiesDialogLoadTest::parentIsKept()
 
 void PropertiesDialogLoadTest::icon()
 {
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     QPixmap expected(":/b/printer.png");
     QCOMPARE(expected.size(), QSize(48, 48));
     expected.setMask(expected.createHeuristicMask(true));
-    const QIcon icon = t.dialog->windowIcon();
+    const QIcon icon = t.dialog.windowIcon();
     QCOMPARE(icon.pixmap(48, 48).toImage(), expected.toImage());
 }
 
 void PropertiesDialogLoadTest::startsOnPageSetupWithoutHelp()
 {
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     QVERIFY(t.button("helpButton")->isHidden());
     QCOMPARE(t.widget<QTabWidget>("tabs")->currentIndex(), 0);
     QCOMPARE(t.widget<QTabWidget>("tabs")->currentWidget()->objectName(), "pageSetupTab");
@@ -354,14 +354,14 @@ void PropertiesDialogLoadTest::sizeIsFixed()
     font.setPixelSize(fontHeight);
     QApplication::setFont(font);
     {
-        DialogUnderTest t("LP");
-        const QSize size = t.dialog->size();
+        OpenDialog t("LP");
+        const QSize size = t.dialog.size();
         QTEST(size == QSize(450, 489), "isFormSize");
-        QCOMPARE(size, size.expandedTo(t.dialog->minimumSizeHint()));
-        QCOMPARE(t.dialog->minimumSize(), size);
-        QCOMPARE(t.dialog->maximumSize(), size);
-        t.dialog->show();
-        QCOMPARE(t.dialog->size(), size);
+        QCOMPARE(size, size.expandedTo(t.dialog.minimumSizeHint()));
+        QCOMPARE(t.dialog.minimumSize(), size);
+        QCOMPARE(t.dialog.maximumSize(), size);
+        t.dialog.show();
+        QCOMPARE(t.dialog.size(), size);
     }
     QApplication::setFont(before);
 }
@@ -376,14 +376,14 @@ void PropertiesDialogLoadTest::neverShownWidgets_data()
 void PropertiesDialogLoadTest::neverShownWidgets()
 {
     QFETCH(QString, queue);
-    DialogUnderTest t(queue);
+    OpenDialog t(queue);
     const auto check = [&t] {
         for (const char *name : {"printMethodLabel", "printMethod", "backLabel", "back", "backUnits", "overlapLabel",
                                  "overlap", "overlapUnits", "start", "startLabel", "startUnits", "helpButton"})
             QVERIFY2(t.widget(name)->isHidden(), name);
     };
     check();
-    t.dialog->show();
+    t.dialog.show();
     for (int index : {0, 1, 2}) {
         t.list("mediaType")->setCurrentIndex(index);
         check();
@@ -400,34 +400,34 @@ static QStringList itemsOf(const QComboBox *list)
 
 void PropertiesDialogLoadTest::lists()
 {
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     QCOMPARE(itemsOf(t.list("mediaType")), QStringList({"Continuous", "Labels With Gaps", "Labels With Marks"}));
     QCOMPARE(itemsOf(t.list("cut")), QStringList({"No Cut", "Cut After Job", "Cut After Page"}));
     QCOMPARE(itemsOf(t.list("printMethod")), QStringList());
-    t.dialog->show();
-    t.dialog->updateDialog();
+    t.dialog.show();
+    t.dialog.updateDialog();
     QCOMPARE(t.list("mediaType")->count(), 3);
     QCOMPARE(t.list("cut")->count(), 3);
 }
 
 void PropertiesDialogLoadTest::previewFillsItsFrame()
 {
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     auto *frame = t.widget("frame");
     QCOMPARE(frame->findChildren<Preview *>().size(), 1);
     const auto *preview = frame->findChild<Preview *>();
     QCOMPARE(preview->parentWidget(), frame);
     QCOMPARE(preview->geometry(), QRect(0, 0, 100, 100));
     QCOMPARE(preview->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding));
-    t.dialog->show();
+    t.dialog.show();
     QVERIFY(preview->isVisible());
 }
 
 void PropertiesDialogLoadTest::textContexts()
 {
     const MarkingTranslator translator;
-    DialogUnderTest t("LP", {"LabelCategory", "1"});
-    QCOMPARE(t.dialog->windowTitle(), "QObject: LP Printing Preferences");
+    OpenDialog t("LP", {"LabelCategory", "1"});
+    QCOMPARE(t.dialog.windowTitle(), "QObject: LP Printing Preferences");
     QCOMPARE(itemsOf(t.list("mediaType")),
              QStringList({"PrintPropertiesDialog: Continuous", "PrintPropertiesDialog: Labels With Gaps",
                           "PrintPropertiesDialog: Labels With Marks"}));
@@ -436,7 +436,7 @@ void PropertiesDialogLoadTest::textContexts()
                           "PrintPropertiesDialog: Cut After Page"}));
     QCOMPARE(t.shown("aboutVersionLabel"), "PrintPropertiesDialog: Version " PROPERTIESDIALOG_VERSION_STRING);
     QCOMPARE(t.shown("aboutDateLabel"), "PrintPropertiesDialog: " PROPERTIESDIALOG_RELEASE_DATE);
-    t.dialog->show();
+    t.dialog.show();
     QCOMPARE(t.shown("stopLabel"), "PrintPropertiesDialog: Stop Position");
     QCOMPARE(t.shown("gapSizeLabel"), "PrintPropertiesDialog: Gap Size");
     QCOMPARE(t.shown("gapOffsetLabel"), "PrintPropertiesDialog: Gap Offset");
@@ -449,14 +449,14 @@ void PropertiesDialogLoadTest::textContexts()
     t.list("preset1")->setCurrentIndex(1);
     QCOMPARE(t.shown("descriptionEdit"), "QObject: This preset contains this driver's original default settings.");
 
-    DialogUnderTest offsetGroup("LP-ZED");
-    offsetGroup.dialog->show();
+    OpenDialog offsetGroup("LP-ZED");
+    offsetGroup.dialog.show();
     QCOMPARE(offsetGroup.shown("stopLabel"), "PrintPropertiesDialog: Vertical Offset");
 }
 
 void PropertiesDialogLoadTest::aboutTexts()
 {
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     QCOMPARE(t.shown("aboutVersionLabel"), "Version " PROPERTIESDIALOG_VERSION_STRING);
     QCOMPARE(t.shown("aboutDateLabel"), PROPERTIESDIALOG_RELEASE_DATE);
 }
@@ -472,14 +472,14 @@ void PropertiesDialogLoadTest::validators()
     QFETCH(int, family);
     const FamilyLimits &limits = familyLimits[family];
     const Limits pageSize = {0.2, 1200};
-    DialogUnderTest t(queue);
+    OpenDialog t(queue);
     const auto check = [&t](const char *field, const Limits &range) {
         const auto *validator = dynamic_cast<const DoubleValidator *>(t.edit(field)->validator());
         QVERIFY2(validator, field);
         QCOMPARE(validator->bottom(), range.bottom);
         QCOMPARE(validator->top(), range.top);
         QCOMPARE(validator->decimals(), 2);
-        QCOMPARE(validator->parent(), t.dialog.get());
+        QCOMPARE(validator->parent(), &t.dialog);
     };
     check("gapSize", limits.gapSize);
     check("gapOffset", limits.gapOffset);
@@ -508,7 +508,7 @@ void PropertiesDialogLoadTest::offsetValidators()
 {
     QFETCH(QString, queue);
     QFETCH(int, limit);
-    DialogUnderTest t(queue);
+    OpenDialog t(queue);
     for (const char *field : {"horizontalEdit", "verticalEdit"}) {
         const auto *validator = qobject_cast<const QIntValidator *>(t.edit(field)->validator());
         QVERIFY(validator);
@@ -522,7 +522,7 @@ void PropertiesDialogLoadTest::offsetValidators()
 
 void PropertiesDialogLoadTest::gapFieldsAreReadyBeforeShowing()
 {
-    DialogUnderTest t("LP", {"LabelCategory", "2", "MarkSize", "2.540", "MarkOffset", "5.080"});
+    OpenDialog t("LP", {"LabelCategory", "2", "MarkSize", "2.540", "MarkOffset", "5.080"});
     QCOMPARE(t.shown("gapSizeLabel"), "Black Mark Size");
     QCOMPARE(t.shown("gapOffsetLabel"), "Black Mark Offset");
     QCOMPARE(t.shown("gapSize"), "0.10");
@@ -534,21 +534,21 @@ void PropertiesDialogLoadTest::gapFieldsAreReadyBeforeShowing()
 
 void PropertiesDialogLoadTest::commandsStartWithTheJob()
 {
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     QVERIFY(t.button("jobStartRadioButton")->isChecked());
-    t.dialog->show();
+    t.dialog.show();
     QVERIFY(t.button("jobStartRadioButton")->isChecked());
     t.widget<QPlainTextEdit>("commandEdit")->setPlainText("A");
-    t.dialog->saveValues();
+    t.dialog.saveValues();
     QCOMPARE(t.cups.getJobStart(), "A\n");
     QCOMPARE(t.cups.getJobEnd(), "");
 }
 
 void PropertiesDialogLoadTest::builtInPresets()
 {
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     QCOMPARE(t.list("preset0")->count(), 0); // filled when the dialog is shown
-    t.dialog->show();
+    t.dialog.show();
     for (const char *list : {"preset0", "preset1"}) {
         QCOMPARE(itemsOf(t.list(list)), QStringList({"<Current Settings>", "<Default Settings>"}));
         QCOMPARE(t.list(list)->currentIndex(), 0);
@@ -561,8 +561,8 @@ void PropertiesDialogLoadTest::builtInPresets()
 
 void PropertiesDialogLoadTest::builtInPresetsCarryOptions()
 {
-    DialogUnderTest t("LP", {"Darkness", "4"});
-    t.dialog->show();
+    OpenDialog t("LP", {"Darkness", "4"});
+    t.dialog.show();
     t.cups.setDarkness(9);
     t.list("preset0")->setCurrentIndex(1); // the default settings
     QCOMPARE(t.shown("darknessSlider"), "10");
@@ -574,8 +574,8 @@ void PropertiesDialogLoadTest::presetsOfThisPrinter()
 {
     writeFile(homePath(".cups/LP/Mine.sh"), homePreset);
     writeFile(homePath(".cups/LP-TIK/Other.sh"), homePreset);
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     QCOMPARE(itemsOf(t.list("preset0")), QStringList({"<Current Settings>", "<Default Settings>", "Mine"}));
     QCOMPARE(t.list("preset0")->currentText(), "Mine");
     QCOMPARE(t.list("preset1")->currentText(), "Mine");
@@ -583,9 +583,9 @@ void PropertiesDialogLoadTest::presetsOfThisPrinter()
 
 void PropertiesDialogLoadTest::applyIsDisabled()
 {
-    DialogUnderTest t("LP", {"Darkness", "4", "PrintSpeed", "1", "LabelCategory", "2", "JobStart", "A"});
+    OpenDialog t("LP", {"Darkness", "4", "PrintSpeed", "1", "LabelCategory", "2", "JobStart", "A"});
     QVERIFY(!t.isChanged());
-    t.dialog->show();
+    t.dialog.show();
     QVERIFY(!t.isChanged());
 }
 
@@ -593,20 +593,20 @@ void PropertiesDialogLoadTest::applyIsDisabled()
 
 void PropertiesDialogLoadTest::loadsWhenShown()
 {
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     QCOMPARE(t.shown("darknessSlider"), "0");
     QCOMPARE(t.shown("feed"), "");
     t.cups.setDarkness(4);
-    t.dialog->show();
+    t.dialog.show();
     QCOMPARE(t.shown("darknessSlider"), "4");
 
     // Each time: what was not saved is dropped.
     t.widget<QSlider>("darknessSlider")->setValue(9);
     t.edit("feed")->setText("0.77");
     QVERIFY(t.isChanged());
-    t.dialog->hide();
+    t.dialog.hide();
     t.cups.setSpeed(1);
-    t.dialog->show();
+    t.dialog.show();
     QCOMPARE(t.shown("darknessSlider"), "4");
     QCOMPARE(t.shown("feed"), "0.00");
     QCOMPARE(t.shown("speedSlider"), "1");
@@ -644,25 +644,25 @@ void PropertiesDialogLoadTest::loadsWithoutCups()
     QFETCH(QString, checkedOrientation);
 
     // All options differ from what stands in for them.
-    DialogUnderTest t(queue, {"MirrorPrint", "True",       "NegativePrint",
-                              "True",        "PrintSpeed", "3",
-                              "Darkness",    "13",         "LabelCategory",
-                              "2",           "CutMedia",   "0",
-                              "Feed",        "50",         "Back",
-                              "7",           "Overlap",    "3",
-                              "Stop",        "1",          "Shift",
-                              "1",           "OffsetH",    "5",
-                              "OffsetV",     "6",          "orientation-requested",
-                              "6",           "JobStart",   "A",
-                              "LabelStart",  "A",          "LabelEnd",
-                              "A",           "JobEnd",     "A"});
-    t.dialog->show();
+    OpenDialog t(queue, {"MirrorPrint", "True",       "NegativePrint",
+                         "True",        "PrintSpeed", "3",
+                         "Darkness",    "13",         "LabelCategory",
+                         "2",           "CutMedia",   "0",
+                         "Feed",        "50",         "Back",
+                         "7",           "Overlap",    "3",
+                         "Stop",        "1",          "Shift",
+                         "1",           "OffsetH",    "5",
+                         "OffsetV",     "6",          "orientation-requested",
+                         "6",           "JobStart",   "A",
+                         "LabelStart",  "A",          "LabelEnd",
+                         "A",           "JobEnd",     "A"});
+    t.dialog.show();
     t.printer.setPageOrientation(printerOrientation);
     t.edit("widthEdit")->setText("7.77");
-    (*t.dialog).*memberOf(CupsReach()) = nullptr;
+    t.dialog.*memberOf(CupsReach()) = nullptr;
     if (!hasPrinter)
-        (*t.dialog).*memberOf(PrinterReach()) = nullptr;
-    t.dialog->updateDialog();
+        t.dialog.*memberOf(PrinterReach()) = nullptr;
+    t.dialog.updateDialog();
 
     QCOMPARE(t.shown(checkedOrientation), "True");
     QCOMPARE(t.shown("mirroredCheckBox"), "False");
@@ -698,8 +698,8 @@ void PropertiesDialogLoadTest::family()
     QFETCH(QString, queue);
     QFETCH(int, family);
     const FamilyLimits &limits = familyLimits[family];
-    DialogUnderTest t(queue, {"Stop", "12.700", "Shift", "7.620", "LabelCategory", "1"});
-    t.dialog->show();
+    OpenDialog t(queue, {"Stop", "12.700", "Shift", "7.620", "LabelCategory", "1"});
+    t.dialog.show();
     const auto *speed = t.widget<QSlider>("speedSlider");
     QCOMPARE(speed->minimum(), limits.speedMinimum);
     QCOMPARE(speed->maximum(), limits.speedMaximum);
@@ -801,12 +801,12 @@ void PropertiesDialogLoadTest::fields()
     QFETCH(QString, queue);
     QFETCH(QStringList, options);
     QFETCH(QString, widget);
-    DialogUnderTest t(queue, options);
-    t.dialog->show();
+    OpenDialog t(queue, options);
+    t.dialog.show();
     QTEST(t.shown(widget), "expected");
     QVERIFY(!t.isChanged());
     // Again, onto fields that are filled already.
-    t.dialog->updateDialog();
+    t.dialog.updateDialog();
     QTEST(t.shown(widget), "expected");
 }
 
@@ -829,8 +829,8 @@ void PropertiesDialogLoadTest::fallbacksOfMissingOptions_data()
 void PropertiesDialogLoadTest::fallbacksOfMissingOptions()
 {
     QFETCH(QString, queue);
-    DialogUnderTest t(queue);
-    t.dialog->show();
+    OpenDialog t(queue);
+    t.dialog.show();
     QTEST(t.shown("widthEdit"), "width");
     QTEST(t.shown("heightEdit"), "height");
     QTEST(t.shown("darknessSlider"), "darkness");
@@ -855,7 +855,7 @@ void PropertiesDialogLoadTest::fallbacksOfMissingOptions()
         QCOMPARE(it.key() + '=' + t.shown(it.key()), it.key() + '=' + it.value());
 
     t.button("okButton")->click();
-    QCOMPARE(t.dialog->result(), 1);
+    QCOMPARE(t.dialog.result(), 1);
     CupsSupport saved;
     selectQueue(saved, queue);
     QCOMPARE(QString(saved.getValue("LabelCategory")), QString("0"));
@@ -874,22 +874,22 @@ void PropertiesDialogLoadTest::pageSizeIsKept_data()
 void PropertiesDialogLoadTest::pageSizeIsKept()
 {
     QFETCH(QString, queue);
-    DialogUnderTest t(queue);
+    OpenDialog t(queue);
     t.edit("widthEdit")->setText("3.21");
     t.edit("heightEdit")->setText("1.23");
-    t.dialog->show();
+    t.dialog.show();
     QCOMPARE(t.shown("widthEdit"), "3.21");
     QCOMPARE(t.shown("heightEdit"), "1.23");
 }
 
 void PropertiesDialogLoadTest::commands()
 {
-    DialogUnderTest t("LP");
+    OpenDialog t("LP");
     t.cups.setJobStart("job start");
     t.cups.setLabelStart("label\nstart");
     t.cups.setLabelEnd("label end \\ 'q' \"q\" \xc3\xa9\xc2\xa0#");
     t.cups.setJobEnd("job end\n");
-    t.dialog->show();
+    t.dialog.show();
     QCOMPARE(t.shown("commandEdit"), "job start\n");
     t.button("labelStartRadioButton")->setChecked(true);
     QCOMPARE(t.shown("commandEdit"), "label\nstart\n");
@@ -901,16 +901,16 @@ void PropertiesDialogLoadTest::commands()
 
     // Loading anew shows the command that is chosen, not the first one.
     t.cups.setJobEnd("other");
-    t.dialog->updateDialog();
+    t.dialog.updateDialog();
     QCOMPARE(t.shown("commandEdit"), "other\n");
 }
 
 void PropertiesDialogLoadTest::removedCommandsAreGone()
 {
-    DialogUnderTest t("LP", {"JobStart", "A", "LabelStart", "B", "LabelEnd", "C", "JobEnd", "D"});
-    t.dialog->show();
+    OpenDialog t("LP", {"JobStart", "A", "LabelStart", "B", "LabelEnd", "C", "JobEnd", "D"});
+    t.dialog.show();
     t.cups.deleteOptions({"JobStart", "LabelStart", "LabelEnd", "JobEnd"});
-    t.dialog->updateDialog();
+    t.dialog.updateDialog();
     for (const char *radio :
          {"jobStartRadioButton", "labelStartRadioButton", "labelEndRadioButton", "jobEndRadioButton"}) {
         t.button(radio)->setChecked(true);
@@ -920,19 +920,19 @@ void PropertiesDialogLoadTest::removedCommandsAreGone()
 
 void PropertiesDialogLoadTest::equalCommandIsNotSetAgain()
 {
-    DialogUnderTest t("LP", {"JobStart", "A\\\\rB\\\\r"});
-    t.dialog->show();
+    OpenDialog t("LP", {"JobStart", "A\\\\rB\\\\r"});
+    t.dialog.show();
     const QSignalSpy spy(t.widget<QPlainTextEdit>("commandEdit"), &QPlainTextEdit::textChanged);
-    t.dialog->updateDialog();
+    t.dialog.updateDialog();
     QCOMPARE(spy.count(), 0);
     QCOMPARE(t.shown("commandEdit"), "A\nB\n");
 }
 
 void PropertiesDialogLoadTest::previewIsLoaded()
 {
-    DialogUnderTest t("LP", {"orientation-requested", "6", "MirrorPrint", "True", "NegativePrint", "True"});
-    auto *preview = t.dialog->findChild<Preview *>();
-    t.dialog->show();
+    OpenDialog t("LP", {"orientation-requested", "6", "MirrorPrint", "True", "NegativePrint", "True"});
+    auto *preview = t.dialog.findChild<Preview *>();
+    t.dialog.show();
     QCOMPARE(preview->orientation, 6);
     QVERIFY(preview->mirror);
     QVERIFY(preview->negative);
@@ -941,17 +941,17 @@ void PropertiesDialogLoadTest::previewIsLoaded()
 
     // Also when no field changes.
     preview->orientation = 0;
-    t.dialog->updateDialog();
+    t.dialog.updateDialog();
     QCOMPARE(preview->orientation, 6);
 }
 
 void PropertiesDialogLoadTest::mediaTypeIsLoadedAgain()
 {
-    DialogUnderTest t("LP", {"GapSize", "2.540"});
-    t.dialog->show();
+    OpenDialog t("LP", {"GapSize", "2.540"});
+    t.dialog.show();
     QCOMPARE(t.shown("gapSize"), "0.10");
     t.cups.setGapSize(5.08);
-    t.dialog->updateDialog(); // the media type stays, the fields are filled all the same
+    t.dialog.updateDialog(); // the media type stays, the fields are filled all the same
     QCOMPARE(t.shown("gapSize"), "0.20");
 }
 
@@ -969,8 +969,8 @@ void PropertiesDialogLoadTest::userPageSizeOfThePreset()
 {
     QFETCH(QByteArray, line);
     writeFile(homePath(".cups/LP/Mine.sh"), homePreset + line);
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     QCOMPARE(t.list("preset0")->currentText(), "Mine");
     QTEST(t.shown("stockGroupBox"), "expected");
     QCOMPARE(t.widget("widthEdit")->isEnabled() ? QString("True") : QString("False"), t.shown("stockGroupBox"));
@@ -992,29 +992,29 @@ void PropertiesDialogLoadTest::hostSettingsForceThePageSize()
 {
     QFETCH(QByteArray, data);
     writeFile(homePath(hostSettings), data);
-    DialogUnderTest t("LP");
-    t.dialog->show();
+    OpenDialog t("LP");
+    t.dialog.show();
     QTEST(t.shown("stockGroupBox"), "expected");
     t.widget<QGroupBox>("stockGroupBox")->setChecked(false);
-    t.dialog->updateDialog();
+    t.dialog.updateDialog();
     QTEST(t.shown("stockGroupBox"), "expected");
 }
 
 void PropertiesDialogLoadTest::hostSettingsAreReadOnce()
 {
     QDir().mkpath(homePath(hostSettings)); // a folder in place of the file
-    DialogUnderTest unreadable("LP");
-    unreadable.dialog->show();
+    OpenDialog unreadable("LP");
+    unreadable.dialog.show();
     QCOMPARE(unreadable.shown("stockGroupBox"), "False");
 
     clearHome();
-    DialogUnderTest before("LP");
+    OpenDialog before("LP");
     writeFile(homePath(hostSettings), "<stringvalue>adobe</stringvalue>");
-    DialogUnderTest during("LP");
+    OpenDialog during("LP");
     clearHome();
-    before.dialog->show();
+    before.dialog.show();
     QCOMPARE(before.shown("stockGroupBox"), "False");
-    during.dialog->show();
+    during.dialog.show();
     QCOMPARE(during.shown("stockGroupBox"), "True");
 }
 
@@ -1090,12 +1090,12 @@ void PropertiesDialogLoadTest::badValues()
     scheduler.setUserOptions(queue, {option, "UnknownOption=kept", "JobEnd=kept"});
     const QByteArray keyword = option.section('=', 0, 0).toLatin1();
 
-    DialogUnderTest t(queue);
+    OpenDialog t(queue);
     QCOMPARE(QString(t.cups.getValue(keyword.constData())), option.section('=', 1));
-    t.dialog->show();
+    t.dialog.show();
     QTEST(t.shown(widget), "shown");
     t.button("okButton")->click();
-    QCOMPARE(t.dialog->result(), 1);
+    QCOMPARE(t.dialog.result(), 1);
 
     CupsSupport saved;
     selectQueue(saved, queue);
@@ -1108,13 +1108,13 @@ void PropertiesDialogLoadTest::schedulerGoesWhileOpen()
 {
     scheduler.setUserOptions("LP", {"UnknownOption=kept", "Darkness=4"});
     {
-        DialogUnderTest t("LP");
-        t.dialog->show();
+        OpenDialog t("LP");
+        t.dialog.show();
         scheduler.stop();
         t.widget<QSlider>("darknessSlider")->setValue(6);
         t.button("okButton")->click();
-        QCOMPARE(t.dialog->result(), 1);
-        t.dialog->show();
+        QCOMPARE(t.dialog.result(), 1);
+        t.dialog.show();
         QCOMPARE(t.shown("darknessSlider"), "6");
         QCOMPARE(t.shown("widthEdit"), "4.00");
     }
@@ -1127,10 +1127,10 @@ void PropertiesDialogLoadTest::schedulerGoesWhileOpen()
 
 void PropertiesDialogLoadTest::numbersHaveAPoint()
 {
-    DialogUnderTest t("LP", {"Stop", "38.100"}); // 1.5 inches
+    OpenDialog t("LP", {"Stop", "38.100"}); // 1.5 inches
     QVERIFY(t.cups.setGapOffset(1.5) >= 0);
     QCOMPARE(t.cups.getValue("GapOffset"), "1.500");
-    t.dialog->show();
+    t.dialog.show();
     QCOMPARE(t.shown("stop"), "1.50");
     t.widget<QGroupBox>("stockGroupBox")->setChecked(true);
     for (const char *field : {"widthEdit", "heightEdit", "gapSize", "gapOffset", "feed", "stop"}) {
@@ -1151,7 +1151,7 @@ void PropertiesDialogLoadTest::numbersHaveAPoint()
 
     t.edit("stop")->setText("1.50");
     t.edit("gapSize")->setText("0.15");
-    t.dialog->saveValues();
+    t.dialog.saveValues();
     QCOMPARE(t.cups.getValue("Stop"), "38.100");
     QCOMPARE(t.cups.getValue("GapSize"), "3.810");
 }

@@ -39,7 +39,7 @@ void makeCurrent(const QString &file)
 
 QStringList items(OpenDialog &open, const char *list)
 {
-    const auto *box = open.find<QComboBox>(list);
+    const auto *box = open.widget<QComboBox>(list);
     QStringList texts;
     for (int i = 0; i < box->count(); ++i)
         texts << box->itemText(i);
@@ -53,7 +53,7 @@ QStringList builtIn(const QStringList &users)
 
 void chooseByName(OpenDialog &open, const char *list, const QString &name)
 {
-    auto *box = open.find<QComboBox>(list);
+    auto *box = open.widget<QComboBox>(list);
     const int index = box->findText(name);
     QVERIFY(index >= 0);
     box->setCurrentIndex(index);
@@ -62,7 +62,7 @@ void chooseByName(OpenDialog &open, const char *list, const QString &name)
 // As a user leaves the field.
 void rename(OpenDialog &open, const QString &name)
 {
-    auto *edit = open.find<QLineEdit>("nameEdit");
+    auto *edit = open.widget<QLineEdit>("nameEdit");
     edit->setText(name);
     Q_EMIT edit->editingFinished();
 }
@@ -255,11 +255,11 @@ void PropertiesDialogPresetsTest::listsAreFilled()
     QCOMPARE(items(open, "preset0"), builtIn({"a", "Zulu"}));
     QCOMPARE(items(open, "preset1"), builtIn({"a", "Zulu"}));
     // Without a link the first one is current.
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("a"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("a"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("a"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("a"));
     QVERIFY(!open.isEnabled("applyButton"));
     // It is shown, not applied.
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 10);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 10);
 }
 
 void PropertiesDialogPresetsTest::currentPresetOfTheLink()
@@ -268,8 +268,8 @@ void PropertiesDialogPresetsTest::currentPresetOfTheLink()
     writeScript("b", "", "#name=Zulu\n#description=Stripes\n");
     makeCurrent("b");
     OpenDialog open;
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zulu"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zulu"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("Zulu"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("Zulu"));
     QCOMPARE(open.text("nameEdit"), QString("Zulu"));
     QCOMPARE(open.plainText("descriptionEdit"), QString("Stripes"));
 }
@@ -279,7 +279,7 @@ void PropertiesDialogPresetsTest::danglingLink()
     writeScript("a", "");
     makeCurrent("gone");
     OpenDialog open;
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("<Current Settings>"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("<Current Settings>"));
 }
 
 void PropertiesDialogPresetsTest::updatePresets()
@@ -287,10 +287,10 @@ void PropertiesDialogPresetsTest::updatePresets()
     writeScript("a", "");
     OpenDialog open;
     QVERIFY(!open.dialog.updatePresets());
-    open.find<QComboBox>("preset0")->setItemText(2, "other");
+    open.widget<QComboBox>("preset0")->setItemText(2, "other");
     QVERIFY(open.dialog.updatePresets());
     QCOMPARE(items(open, "preset0"), builtIn({"a"}));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("a"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("a"));
     QVERIFY(!open.dialog.updatePresets());
 }
 
@@ -312,7 +312,7 @@ void PropertiesDialogPresetsTest::updatePresetsRefills()
     writeScript("a", "");
     writeScript("b", "");
     OpenDialog open;
-    auto *box = open.find<QComboBox>(list);
+    auto *box = open.widget<QComboBox>(list);
     if (change < 0)
         box->removeItem(3);
     else if (change == 0)
@@ -322,8 +322,8 @@ void PropertiesDialogPresetsTest::updatePresetsRefills()
     QVERIFY(open.dialog.updatePresets());
     QCOMPARE(items(open, "preset0"), builtIn({"a", "b"}));
     QCOMPARE(items(open, "preset1"), builtIn({"a", "b"}));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("a"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("a"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("a"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("a"));
 }
 
 // While the lists are emptied and filled their current items change several times.
@@ -334,15 +334,15 @@ void PropertiesDialogPresetsTest::refillingAppliesNothing()
     scheduler.setUserOptions("Q", {"Darkness=7"});
     OpenDialog open;
     for (const char *list : {"preset0", "preset1"}) {
-        open.find<QComboBox>(list)->setItemText(2, "other");
-        const QSignalSpy spy(open.find<QComboBox>(list), SIGNAL(currentIndexChanged(int)));
+        open.widget<QComboBox>(list)->setItemText(2, "other");
+        const QSignalSpy spy(open.widget<QComboBox>(list), SIGNAL(currentIndexChanged(int)));
         QVERIFY(open.dialog.updatePresets());
         QVERIFY(spy.count() > 0); // or there was nothing to be ignored
     }
     QCOMPARE(workingCopy(open.cups).value("Darkness"), QByteArray("7"));
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 7);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 7);
     QVERIFY(!open.isEnabled("applyButton"));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("a"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("a"));
     // Afterwards a choice counts again.
     chooseByName(open, "preset0", "b");
     QCOMPARE(workingCopy(open.cups).value("Darkness"), QByteArray("5"));
@@ -362,21 +362,21 @@ void PropertiesDialogPresetsTest::moreThanAHundred()
     QCOMPARE(items(open, "preset1"), builtIn(names.mid(0, 98)));
     // The lists never agree with the names, so they are filled anew each time.
     QVERIFY(open.dialog.updatePresets());
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("p000"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("p000"));
 
     // A preset that the tab's list does not have: it stands on its first item, and nothing can be edited.
     chooseByName(open, "preset0", "p105");
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("p105"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentIndex(), 0);
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("p105"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentIndex(), 0);
     QCOMPARE(open.text("nameEdit"), QString("p105"));
     for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"})
         QVERIFY2(!open.isEnabled(name), name);
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 5);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 5);
     QCOMPARE(workingCopy(open.cups).value("Darkness"), QByteArray("5"));
 
     // One that it has.
     chooseByName(open, "preset1", "p097");
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("p097"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("p097"));
     QVERIFY(open.isEnabled("presetDeleteButton"));
     open.click("applyButton");
     QVERIFY(!open.isEnabled("applyButton"));
@@ -419,8 +419,8 @@ void PropertiesDialogPresetsTest::states()
     for (const char *list : {"preset0", "preset1"}) {
         OpenDialog open;
         chooseByName(open, list, name);
-        QCOMPARE(open.find<QComboBox>("preset0")->currentText(), name);
-        QCOMPARE(open.find<QComboBox>("preset1")->currentText(), name);
+        QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), name);
+        QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), name);
         QCOMPARE(open.text("nameEdit"), name);
         QCOMPARE(open.isEnabled("nameEdit"), edit);
         QCOMPARE(open.isEnabled("descriptionEdit"), edit);
@@ -437,24 +437,24 @@ void PropertiesDialogPresetsTest::updateCurrentPreset()
     OpenDialog open;
     Preset zebra("Q", "b", {}, QString(), QString(), -1);
     QVERIFY(open.dialog.updateCurrentPreset(&zebra));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zulu"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zulu"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("Zulu"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("Zulu"));
     QCOMPARE(open.text("nameEdit"), QString("Zulu"));
     QCOMPARE(open.plainText("descriptionEdit"), QString("Stripes"));
     // It is shown, not applied.
     QVERIFY(!open.isEnabled("applyButton"));
     QVERIFY(!open.dialog.updateCurrentPreset(&zebra));
     // One list off is enough.
-    open.find<QComboBox>("preset0")->blockSignals(true);
+    open.widget<QComboBox>("preset0")->blockSignals(true);
     open.choose("preset0", 0);
-    open.find<QComboBox>("preset0")->blockSignals(false);
+    open.widget<QComboBox>("preset0")->blockSignals(false);
     QVERIFY(open.dialog.updateCurrentPreset(&zebra));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zulu"));
-    open.find<QComboBox>("preset1")->blockSignals(true);
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("Zulu"));
+    open.widget<QComboBox>("preset1")->blockSignals(true);
     open.choose("preset1", 0);
-    open.find<QComboBox>("preset1")->blockSignals(false);
+    open.widget<QComboBox>("preset1")->blockSignals(false);
     QVERIFY(open.dialog.updateCurrentPreset(&zebra));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zulu"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("Zulu"));
 }
 
 void PropertiesDialogPresetsTest::updateCurrentPresetOfNone()
@@ -466,8 +466,8 @@ void PropertiesDialogPresetsTest::updateCurrentPresetOfNone()
     for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"})
         QVERIFY2(!open.isEnabled(name), name);
     // All else stays.
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("a"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("a"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("a"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("a"));
     QCOMPARE(open.text("nameEdit"), QString("a"));
     QCOMPARE(open.plainText("descriptionEdit"), QString("text"));
 }
@@ -478,8 +478,8 @@ void PropertiesDialogPresetsTest::updateCurrentPresetOfAMissingName()
     OpenDialog open;
     Preset stranger("Q", "A", {}, QString(), QString(), -1); // another case is another name
     QVERIFY(open.dialog.updateCurrentPreset(&stranger));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentIndex(), 0);
-    QCOMPARE(open.find<QComboBox>("preset1")->currentIndex(), 0);
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentIndex(), 0);
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentIndex(), 0);
     QCOMPARE(open.text("nameEdit"), QString("A"));
     QVERIFY(!open.isEnabled("nameEdit"));
 }
@@ -489,7 +489,7 @@ void PropertiesDialogPresetsTest::updateCurrentPresetThatIsShown()
 {
     writeScript("a", "");
     OpenDialog open;
-    open.find("presetDeleteButton")->setEnabled(false);
+    open.widget("presetDeleteButton")->setEnabled(false);
     open.setText("nameEdit", "unfinished");
     Preset same("Q", "a", {}, QString(), QString(), -1);
     same.setDescription("other");
@@ -532,8 +532,8 @@ void PropertiesDialogPresetsTest::choose()
     open.dialog.setChanged(false);
     chooseByName(open, list, "b");
     QVERIFY(open.isEnabled("applyButton"));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("b"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("b"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("b"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("b"));
 
     // The working copy has the preset's values and no other of those that presets carry.
     const Options options = workingCopy(open.cups);
@@ -541,12 +541,12 @@ void PropertiesDialogPresetsTest::choose()
     QCOMPARE(options.value("orientation-requested"), QByteArray("6"));
     QVERIFY(!options.contains("PrintSpeed"));
     // The fields show them.
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
-    QVERIFY(open.find<QAbstractButton>("portrait180RadioButton")->isChecked());
-    QVERIFY(open.find<QAbstractButton>("mirroredCheckBox")->isChecked());
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
+    QVERIFY(open.widget<QAbstractButton>("portrait180RadioButton")->isChecked());
+    QVERIFY(open.widget<QAbstractButton>("mirroredCheckBox")->isChecked());
     QCOMPARE(open.text("gapSize"), QString("0.10"));
     QCOMPARE(open.plainText("commandEdit"), QString("A\nB\n"));
-    QCOMPARE(open.find<QSlider>("speedSlider")->value(), 3);
+    QCOMPARE(open.widget<QSlider>("speedSlider")->value(), 3);
     QCOMPARE(open.text("feed"), QString("0.00"));
     // The scheduler's clients know nothing of it yet.
     QVERIFY(!storedOptions("Q").contains("Darkness"));
@@ -571,13 +571,13 @@ void PropertiesDialogPresetsTest::chooseByText()
     open.dialog.setCurrentPreset(QString());
     open.dialog.setCurrentPreset("nobody");
     QVERIFY(!open.isEnabled("applyButton"));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("a"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("a"));
     open.dialog.setCurrentPreset("b"); // by its file name
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zulu"));
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("Zulu"));
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
     open.dialog.setCurrentPreset("a");
     open.dialog.setCurrentPreset("Zulu"); // by its name
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
 }
 
 void PropertiesDialogPresetsTest::chooseDefaultSettings()
@@ -590,7 +590,7 @@ void PropertiesDialogPresetsTest::chooseDefaultSettings()
                               "PrintSpeed=1",       "Stop=0.000",       "Start=1.000",     "GapOffset=1.000",
                               "Shift=1.000",        "Back=2",           "CutMedia=2"});
     OpenDialog open;
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
     chooseByName(open, "preset0", "<Default Settings>");
     const Options left = workingCopy(open.cups);
     for (const QString &keyword : usualKeywords)
@@ -598,8 +598,8 @@ void PropertiesDialogPresetsTest::chooseDefaultSettings()
     // What presets do not carry stays.
     for (const char *keyword : {"GapOffset", "Shift", "Back", "CutMedia"})
         QVERIFY2(left.contains(keyword), keyword);
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 10);
-    QVERIFY(open.find<QAbstractButton>("landscapeRadioButton")->isChecked());
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 10);
+    QVERIFY(open.widget<QAbstractButton>("landscapeRadioButton")->isChecked());
     QCOMPARE(open.plainText("commandEdit"), QString());
     QVERIFY(open.isEnabled("applyButton"));
     open.click("applyButton");
@@ -615,9 +615,9 @@ void PropertiesDialogPresetsTest::chooseCurrentSettings()
     open.slide("darknessSlider", 6);
     open.click("applyButton");
     chooseByName(open, "preset0", "<Default Settings>");
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 10);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 10);
     chooseByName(open, "preset0", "<Current Settings>");
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
     QCOMPARE(workingCopy(open.cups).value("Darkness"), QByteArray("4"));
 }
 
@@ -645,7 +645,7 @@ void PropertiesDialogPresetsTest::setCupsOptions()
     QVERIFY(!options.contains("PrintSpeed"));
     QCOMPARE(options.value("Back"), QByteArray("5"));
     // Nothing is shown or marked.
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
     QVERIFY(!open.isEnabled("applyButton"));
 }
 
@@ -662,7 +662,7 @@ void PropertiesDialogPresetsTest::chosenIsRememberedWhenSaved()
         QCOMPARE(QFile::symLinkTarget(link), scriptPath("Q", "b"));
     }
     OpenDialog open;
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("b"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("b"));
 }
 
 // The options that are in memory are applied all the same.
@@ -676,7 +676,7 @@ void PropertiesDialogPresetsTest::missingScript()
     chooseByName(open, "preset0", "b");
     QCOMPARE(driver.runs(), QByteArray());
     QCOMPARE(workingCopy(open.cups).value("Darkness"), QByteArray("4"));
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
     QVERIFY(open.isEnabled("applyButton"));
 }
 
@@ -707,13 +707,13 @@ void PropertiesDialogPresetsTest::pageSizeOfThePreset()
     OpenDialog open;
     QCOMPARE(open.text("widthEdit"), QString("4.00"));
     QCOMPARE(open.text("heightEdit"), QString("2.00"));
-    QVERIFY(!open.find<QGroupBox>("stockGroupBox")->isChecked());
+    QVERIFY(!open.widget<QGroupBox>("stockGroupBox")->isChecked());
     chooseByName(open, "preset0", "b");
     QCOMPARE(driver.runs(), QByteArray("2.50 1.25 Sized\n"));
     QCOMPARE(open.text("widthEdit"), QString("2.50"));
     QCOMPARE(open.text("heightEdit"), QString("1.25"));
-    QVERIFY(open.find<QGroupBox>("stockGroupBox")->isChecked());
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
+    QVERIFY(open.widget<QGroupBox>("stockGroupBox")->isChecked());
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
 }
 
 void PropertiesDialogPresetsTest::commandHasFinished()
@@ -778,7 +778,7 @@ void PropertiesDialogPresetsTest::commandLine()
     chooseByName(open, "preset0", "b");
     QCOMPARE(driver.runs(), run);
     QVERIFY(!QFile::exists(evil.filePath("evil")));
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
 }
 
 // A line is read in parts of no more than 1024 bytes.
@@ -809,7 +809,7 @@ void PropertiesDialogPresetsTest::commandOfTheCurrentFolder()
     chooseByName(open, "preset0", "b");
     QVERIFY(QDir::setCurrent(before));
     QVERIFY(!QFile::exists(folder.filePath("evil")));
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
 }
 
 void PropertiesDialogPresetsTest::commandIsMissing()
@@ -818,8 +818,8 @@ void PropertiesDialogPresetsTest::commandIsMissing()
     writeScript("b", " -oDarkness=4", {}, "ppdhack 1.00 2.00 Q\n");
     OpenDialog open;
     chooseByName(open, "preset0", "b");
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
-    QVERIFY(open.find<QGroupBox>("stockGroupBox")->isChecked());
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
+    QVERIFY(open.widget<QGroupBox>("stockGroupBox")->isChecked());
     QCOMPARE(open.text("widthEdit"), QString("4.00"));
     QVERIFY(open.isEnabled("applyButton"));
 }
@@ -829,7 +829,7 @@ void PropertiesDialogPresetsTest::commandIsMissing()
 void PropertiesDialogPresetsTest::manage()
 {
     OpenDialog open;
-    auto *tabs = open.find<QTabWidget>("tabs");
+    auto *tabs = open.widget<QTabWidget>("tabs");
     QCOMPARE(tabs->currentIndex(), 0);
     open.click("manageButton");
     QCOMPARE(tabs->currentIndex(), 1);
@@ -844,8 +844,8 @@ void PropertiesDialogPresetsTest::newPreset()
     open.click("presetNewButton");
     QCOMPARE(items(open, "preset0"), builtIn({"New Preset"}));
     QCOMPARE(items(open, "preset1"), builtIn({"New Preset"}));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("New Preset"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("New Preset"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("New Preset"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("New Preset"));
     QCOMPARE(open.text("nameEdit"), QString("New Preset"));
     QCOMPARE(open.plainText("descriptionEdit"), QString());
     for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton", "applyButton"})
@@ -857,7 +857,7 @@ void PropertiesDialogPresetsTest::newPreset()
     const QByteArray script = fileContent(scriptPath("Q", "Preset"));
     QVERIFY2(script.startsWith("#!/bin/bash\n#name=New Preset\nlpoptions -pQ -oDarkness=4 "), script.constData());
     open.click("presetNewButton");
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("New Preset 2"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("New Preset 2"));
 }
 
 // The settings of a queue that nobody has changed are settings, too.
@@ -871,7 +871,7 @@ void PropertiesDialogPresetsTest::newPresetOfAFreshQueue()
         QVERIFY(QFile::exists(scriptPath("Q", "Preset")));
     }
     OpenDialog open;
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("New Preset"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("New Preset"));
 }
 
 void PropertiesDialogPresetsTest::newPresetNames_data()
@@ -908,7 +908,7 @@ void PropertiesDialogPresetsTest::newPresetNames()
         writeScript(preset.at(0), "", "#name=" + preset.at(1).toLatin1() + '\n');
     OpenDialog open;
     open.click("presetNewButton");
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), name);
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), name);
     open.click("applyButton");
     QVERIFY(fileContent(scriptPath("Q", file)).contains("#name=" + name.toLatin1() + '\n'));
 }
@@ -921,7 +921,7 @@ void PropertiesDialogPresetsTest::newPresetDropsUnsavedEdits()
     open.slide("darknessSlider", 9);
     open.setText("feed", "0.50");
     open.click("presetNewButton");
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 4);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
     QCOMPARE(open.text("feed"), QString("0.00"));
 }
 
@@ -983,13 +983,13 @@ void PropertiesDialogPresetsTest::deleteButton()
     writeScript("b", " -oDarkness=5");
     OpenDialog open;
     // Not the current one, but the one that the tab's list shows.
-    open.find<QComboBox>("preset1")->blockSignals(true);
+    open.widget<QComboBox>("preset1")->blockSignals(true);
     chooseByName(open, "preset1", "b");
-    open.find<QComboBox>("preset1")->blockSignals(false);
+    open.widget<QComboBox>("preset1")->blockSignals(false);
     open.click("presetDeleteButton");
     QCOMPARE(items(open, "preset0"), builtIn({"a"}));
     QCOMPARE(items(open, "preset1"), builtIn({"a"}));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("a"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("a"));
     QVERIFY(open.isEnabled("applyButton"));
     QVERIFY(QFile::exists(scriptPath("Q", "b")));
     open.click("applyButton");
@@ -1005,10 +1005,10 @@ void PropertiesDialogPresetsTest::deleteCurrent()
     OpenDialog open;
     open.click("presetDeleteButton");
     // The next one is current, but not applied.
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("b"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("b"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("b"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("b"));
     QCOMPARE(open.text("nameEdit"), QString("b"));
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 7);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 7);
     open.click("applyButton");
     QVERIFY(!QFile::exists(scriptPath("Q", "a")));
     QCOMPARE(QFile::symLinkTarget(cupsFolder() + "/Q/currentPreset"), scriptPath("Q", "b"));
@@ -1021,7 +1021,7 @@ void PropertiesDialogPresetsTest::deleteLast()
     OpenDialog open;
     open.click("presetDeleteButton");
     QCOMPARE(items(open, "preset1"), builtIn({}));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("<Current Settings>"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("<Current Settings>"));
     for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"})
         QVERIFY2(!open.isEnabled(name), name);
     open.click("applyButton");
@@ -1036,12 +1036,12 @@ void PropertiesDialogPresetsTest::deleteBuiltIn()
     OpenDialog open;
     BoxAnswer answer;
     QVERIFY(!open.isEnabled("presetDeleteButton"));
-    open.find("presetDeleteButton")->setEnabled(true);
+    open.widget("presetDeleteButton")->setEnabled(true);
     open.click("presetDeleteButton");
     QCOMPARE(answer.title, QString("Warning"));
     QCOMPARE(answer.text, QString("<Current Settings> cannot be deleted."));
     QCOMPARE(items(open, "preset1"), builtIn({}));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentIndex(), 0);
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentIndex(), 0);
     QVERIFY(open.isEnabled("applyButton"));
 }
 
@@ -1053,10 +1053,10 @@ void PropertiesDialogPresetsTest::renamePreset()
     rename(open, "Zulu");
     QCOMPARE(items(open, "preset0"), builtIn({"Zulu", "b"}));
     QCOMPARE(items(open, "preset1"), builtIn({"Zulu", "b"}));
-    QCOMPARE(open.find<QComboBox>("preset0")->currentText(), QString("Zulu"));
-    QCOMPARE(open.find<QComboBox>("preset1")->currentText(), QString("Zulu"));
+    QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("Zulu"));
+    QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("Zulu"));
     QVERIFY(open.isEnabled("applyButton"));
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 10); // still not applied
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 10); // still not applied
     open.click("applyButton");
     // The file stays the same.
     QVERIFY(fileContent(scriptPath("Q", "a")).startsWith("#!/bin/bash\n#name=Zulu\nlpoptions -pQ -oDarkness=4 "));
@@ -1098,7 +1098,7 @@ void PropertiesDialogPresetsTest::renameWithTheKeyboard()
     OpenDialog open;
     open.click("manageButton");
     QVERIFY(QTest::qWaitForWindowActive(&open.dialog));
-    auto *edit = open.find<QLineEdit>("nameEdit");
+    auto *edit = open.widget<QLineEdit>("nameEdit");
     edit->setFocus();
     edit->selectAll();
     QTest::keyClicks(edit, "Zulu");
@@ -1128,7 +1128,7 @@ void PropertiesDialogPresetsTest::describeTheSame()
 {
     writeScript("a", "", "#description=before\n");
     OpenDialog open;
-    open.find<QPlainTextEdit>("descriptionEdit")->setPlainText("before");
+    open.widget<QPlainTextEdit>("descriptionEdit")->setPlainText("before");
     QVERIFY(!open.isEnabled("applyButton"));
 }
 
@@ -1138,7 +1138,7 @@ void PropertiesDialogPresetsTest::nothingSelected()
     writeScript("a", " -oDarkness=4", "#description=before\n");
     for (const bool isEmpty : {true, false}) {
         OpenDialog open;
-        auto *list = open.find<QComboBox>("preset1");
+        auto *list = open.widget<QComboBox>("preset1");
         list->blockSignals(true);
         if (isEmpty)
             list->setCurrentIndex(-1);

@@ -777,7 +777,7 @@ void PropertiesDialogSaveTest::userPageSize()
     writeFile(scriptPath("Q", "Mine"), "#!/bin/bash\nlpoptions -pQ\nppdhack 1.00 2.00 Q\n");
     const DriverCommand driver("");
     OpenDialog open;
-    auto *group = open.find<QGroupBox>("stockGroupBox");
+    auto *group = open.widget<QGroupBox>("stockGroupBox");
     QVERIFY(group->isChecked());
     group->setChecked(isChecked);
     open.setText("widthEdit", width);
@@ -806,7 +806,7 @@ void PropertiesDialogSaveTest::commandIsWaitedFor()
     const DriverCommand driver("sleep 0.5\ntouch \"$HOME/finished\"\n");
     QFile::remove(QDir::homePath() + "/finished");
     OpenDialog open;
-    open.find<QGroupBox>("stockGroupBox")->setChecked(true);
+    open.widget<QGroupBox>("stockGroupBox")->setChecked(true);
     open.dialog.saveValues();
     QVERIFY(QFile::exists(QDir::homePath() + "/finished"));
 }
@@ -823,7 +823,7 @@ void PropertiesDialogSaveTest::failingCommand()
     QFETCH(QByteArray, script);
     const DriverCommand driver(script);
     OpenDialog open;
-    open.find<QGroupBox>("stockGroupBox")->setChecked(true);
+    open.widget<QGroupBox>("stockGroupBox")->setChecked(true);
     open.slide("darknessSlider", 4);
     open.click("applyButton");
     QCOMPARE(driver.runs(), QByteArray("4.00 2.00 Q\n"));
@@ -837,7 +837,7 @@ void PropertiesDialogSaveTest::userPageSizeOfAUserPreset()
     {
         OpenDialog open;
         open.click("presetNewButton");
-        open.find<QGroupBox>("stockGroupBox")->setChecked(true);
+        open.widget<QGroupBox>("stockGroupBox")->setChecked(true);
         open.setText("widthEdit", "3.5");
         open.setText("heightEdit", "1.25");
         open.click("applyButton");
@@ -846,7 +846,7 @@ void PropertiesDialogSaveTest::userPageSizeOfAUserPreset()
     const QByteArray script = fileContent(scriptPath("Q", "Preset"));
     QVERIFY2(script.endsWith("\nppdhack 3.50 1.25 Q\n"), script.constData());
     OpenDialog open;
-    QVERIFY(open.find<QGroupBox>("stockGroupBox")->isChecked());
+    QVERIFY(open.widget<QGroupBox>("stockGroupBox")->isChecked());
 }
 
 void PropertiesDialogSaveTest::currentSettingsScript()
@@ -863,7 +863,7 @@ void PropertiesDialogSaveTest::currentSettingsScript()
     open.setText("feed", "0.12");
     open.setText("horizontalEdit", "-3");
     open.setPlainText("commandEdit", "A B");
-    open.find<QGroupBox>("stockGroupBox")->setChecked(true);
+    open.widget<QGroupBox>("stockGroupBox")->setChecked(true);
     open.click("applyButton");
     const QString path = scriptPath("Q", "_current");
     QCOMPARE(fileContent(path),
@@ -875,10 +875,10 @@ void PropertiesDialogSaveTest::currentSettingsScript()
                         "ppdhack 4.00 2.00 Q\n"));
     QVERIFY(QFile::permissions(path).testFlag(QFile::ExeUser));
     // It is no preset to choose.
-    const auto *list = open.find<QComboBox>("preset0");
+    const auto *list = open.widget<QComboBox>("preset0");
     QCOMPARE(list->count(), 2);
     OpenDialog again;
-    QCOMPARE(again.find<QComboBox>("preset0")->count(), 2);
+    QCOMPARE(again.widget<QComboBox>("preset0")->count(), 2);
 }
 
 // Nothing of what the settings last applied were before is left.
@@ -889,7 +889,7 @@ void PropertiesDialogSaveTest::currentSettingsScriptReplacesAll()
               "#!/bin/bash\n#name=Old\n#description=Old\nlpoptions -pQ -oFeed=77 -oDarkness=9\nppdhack 9.00 9.00 Q\n");
     OpenDialog open;
     open.slide("darknessSlider", 4);
-    open.find<QGroupBox>("stockGroupBox")->setChecked(false);
+    open.widget<QGroupBox>("stockGroupBox")->setChecked(false);
     open.click("applyButton");
     const QByteArray script = fileContent(path);
     QVERIFY2(script.startsWith("#!/bin/bash\nlpoptions -pQ -oDarkness=4 "), script.constData());
@@ -915,7 +915,7 @@ void PropertiesDialogSaveTest::nothingChangedStillAppliesThePageSize()
     const DriverCommand driver("");
     writeFile(scriptPath("Q", "Mine"), "#!/bin/bash\nlpoptions -pQ\nppdhack 4.00 6.00 Q\n");
     OpenDialog open;
-    QVERIFY(open.find<QGroupBox>("stockGroupBox")->isChecked());
+    QVERIFY(open.widget<QGroupBox>("stockGroupBox")->isChecked());
     QCOMPARE(open.text("widthEdit"), QString("4.00")); // of the PPD file
     QCOMPARE(open.text("heightEdit"), QString("2.00"));
     QVERIFY(!open.isEnabled("applyButton"));
@@ -994,7 +994,7 @@ void PropertiesDialogSaveTest::cancel()
     QVERIFY(!QDir(cupsFolder()).exists());
     // Shown again, it has the settings as they are.
     open.dialog.show();
-    QCOMPARE(open.find<QSlider>("darknessSlider")->value(), 10);
+    QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 10);
 }
 
 void PropertiesDialogSaveTest::cancelAfterApply()
@@ -1057,7 +1057,7 @@ void PropertiesDialogSaveTest::modalResultIsThatOfTheCall()
 void PropertiesDialogSaveTest::setChanged()
 {
     OpenDialog open;
-    auto *apply = open.find<QPushButton>("applyButton");
+    auto *apply = open.widget<QPushButton>("applyButton");
     QVERIFY(!apply->isEnabled());
     open.dialog.setChanged(true);
     QVERIFY(apply->isEnabled());

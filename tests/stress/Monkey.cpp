@@ -209,7 +209,7 @@ void Player::changePreset()
     static const char *const buttons[] = {"presetNewButton", "presetUpdateButton", "presetDeleteButton",
                                           "applyButton",     "manageButton",       "stockGroupBox"};
     if (oneIn(2)) {
-        auto *list = open->find<QComboBox>(oneIn(2) ? "preset0" : "preset1");
+        auto *list = open->widget<QComboBox>(oneIn(2) ? "preset0" : "preset1");
         list->setCurrentIndex(below(list->count() + 1) - 1);
         return;
     }
@@ -248,7 +248,7 @@ void Player::act()
     } else if (kind < 90) {
         wheel();
     } else if (kind < 94) {
-        open->find<QTabWidget>("tabs")->setCurrentIndex(below(5));
+        open->widget<QTabWidget>("tabs")->setCurrentIndex(below(5));
     } else if (kind < 99) {
         changePreset();
     } else {

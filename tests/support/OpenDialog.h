@@ -31,8 +31,6 @@
 
 #include <cups/cups.h>
 
-#include <memory>
-
 template<class Widget>
 Widget *childOf(const QDialog &dialog, const QString &name)
 {
@@ -41,31 +39,6 @@ Widget *childOf(const QDialog &dialog, const QString &name)
         qFatal("the dialog has no %s", qPrintable(name));
     return child;
 }
-
-/** The properties dialog of the default printer, shown, with what it works on, as propertiesDialog() makes it. */
-struct OpenDialog
-{
-    QPrinter printer{QPrinter::ScreenResolution};
-    CupsSupport cups;
-    PrintPropertiesDialog dialog{nullptr, &printer, &cups};
-
-    OpenDialog() { dialog.show(); }
-
-    template<class Widget = QWidget>
-    Widget *find(const char *name)
-    {
-        return childOf<Widget>(dialog, name);
-    }
-
-    void click(const char *name) { find<QAbstractButton>(name)->click(); }
-    void setText(const char *name, const QString &text) { find<QLineEdit>(name)->setText(text); }
-    QString text(const char *name) { return find<QLineEdit>(name)->text(); }
-    void setPlainText(const char *name, const QString &text) { find<QPlainTextEdit>(name)->setPlainText(text); }
-    QString plainText(const char *name) { return find<QPlainTextEdit>(name)->toPlainText(); }
-    void choose(const char *name, int index) { find<QComboBox>(name)->setCurrentIndex(index); }
-    void slide(const char *name, int value) { find<QSlider>(name)->setValue(value); }
-    bool isEnabled(const char *name) { return find(name)->isEnabled(); }
-};
 
 /** What a widget shows, whatever it is: a text, a number, the index of a list, or "True" and "False". */
 inline QString shownBy(const QWidget *widget)
@@ -97,37 +70,66 @@ inline void selectQueue(CupsSupport &cups, const QString &queue)
     qFatal("no queue %s: %s", qPrintable(queue), CupsSupport::getCupsError());
 }
 
-/** The properties dialog of a queue with all that it needs, not yet shown. */
-struct DialogUnderTest
+/**
+ * The properties dialog with its printer and its settings.
+ *
+ * Without arguments it is that of the default printer and is shown, as by propertiesDialog(). With the name of a queue it
+ * is that of the queue and not yet shown.
+ */
+struct OpenDialog
 {
-    /** @param options an option list for the working copy of the queue's settings, before the dialog is made. */
-    explicit DialogUnderTest(const QString &queue, const QStringList &options = {})
+    QPrinter printer{QPrinter::ScreenResolution};
+    CupsSupport cups;
+    PrintPropertiesDialog dialog;
+
+    OpenDialog()
+        : dialog(nullptr, &printer, &cups)
     {
-        printer.setPrinterName(queue);
-        if (printer.printerName() != queue)
-            qFatal("no printer %s: %s", qPrintable(queue), CupsSupport::getCupsError());
-        selectQueue(cups, queue);
-        cups.setOptions(options);
-        dialog = std::make_unique<PrintPropertiesDialog>(nullptr, &printer, &cups);
+        dialog.show();
+    }
+
+    /** @param options an option list for the working copy of the queue's settings, set before the dialog is made. */
+    explicit OpenDialog(const QString &queue, const QStringList &options = {})
+        : dialog(nullptr, printerOf(queue), settingsOf(queue, options))
+    {
     }
 
     template<class Widget = QWidget>
     Widget *widget(const QString &name) const
     {
-        return childOf<Widget>(*dialog, name);
+        return childOf<Widget>(dialog, name);
     }
-
-    QString shown(const QString &name) const { return shownBy(widget(name)); }
     QLineEdit *edit(const QString &name) const { return widget<QLineEdit>(name); }
     QComboBox *list(const QString &name) const { return widget<QComboBox>(name); }
     QAbstractButton *button(const QString &name) const { return widget<QAbstractButton>(name); }
 
-    /** Whether there are unsaved changes. */
-    bool isChanged() const { return button("applyButton")->isEnabled(); }
+    QString shown(const QString &name) const { return shownBy(widget(name)); }
+    QString text(const QString &name) const { return edit(name)->text(); }
+    QString plainText(const QString &name) const { return widget<QPlainTextEdit>(name)->toPlainText(); }
+    bool isEnabled(const QString &name) const { return widget(name)->isEnabled(); }
+    bool isChanged() const { return isEnabled("applyButton"); }
 
-    QPrinter printer{QPrinter::ScreenResolution};
-    CupsSupport cups;
-    std::unique_ptr<PrintPropertiesDialog> dialog;
+    void click(const QString &name) { button(name)->click(); }
+    void setText(const QString &name, const QString &text) { edit(name)->setText(text); }
+    void setPlainText(const QString &name, const QString &text) { widget<QPlainTextEdit>(name)->setPlainText(text); }
+    void choose(const QString &name, int index) { list(name)->setCurrentIndex(index); }
+    void slide(const QString &name, int value) { widget<QSlider>(name)->setValue(value); }
+
+private:
+    QPrinter *printerOf(const QString &queue)
+    {
+        printer.setPrinterName(queue);
+        if (printer.printerName() != queue)
+            qFatal("no printer %s: %s", qPrintable(queue), CupsSupport::getCupsError());
+        return &printer;
+    }
+
+    CupsSupport *settingsOf(const QString &queue, const QStringList &options)
+    {
+        selectQueue(cups, queue);
+        cups.setOptions(options);
+        return &cups;
+    }
 };
 
 using Options = QMap<QByteArray, QByteArray>;
