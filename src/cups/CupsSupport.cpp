@@ -4,6 +4,7 @@
 #include "cups/CupsSupport.h"
 
 #include "cups/CLocale.h"
+#include "cups/Dialect.h"
 #include "cups/OptionsFile.h"
 #include "cups/Rounding.h"
 #include "cups/Scheduler.h"
@@ -98,6 +99,20 @@ private:
 
 struct CupsSupport::Private
 {
+    const Dialect *dialect = nullptr; // of the open PPD file; null when that has our own keywords
+
+    static const Dialect *dialectOf(const CupsSupport &cups);
+
+    // A setting by our keyword, wherever the driver has it.
+    static double number(const CupsSupport &cups, const char *keyword, double fallback);
+    static int integer(const CupsSupport &cups, const char *keyword, int fallback);
+    static bool flag(const CupsSupport &cups, const char *keyword);
+    static QString text(const CupsSupport &cups, const char *keyword);
+    static int setNumber(CupsSupport &cups, const char *keyword, double value);
+    static int setInteger(CupsSupport &cups, const char *keyword, int value);
+    static int setFlag(CupsSupport &cups, const char *keyword, bool value);
+    static int setText(CupsSupport &cups, const char *keyword, const QString &value);
+    static int setForeign(CupsSupport &cups, const char *keyword, double value);
 };
 
 CupsSupport::CupsSupport()
@@ -157,6 +172,7 @@ void CupsSupport::openPpdFile() const
     unlink(path); // the copy is ours and nobody else knows it
     if (!ppd)
         return;
+    d->dialect = Dialect::of(ppd);
     ppdMarkDefaults(ppd);
     cupsMarkOptions(ppd, dest->num_options, dest->options);
 }
@@ -209,6 +225,7 @@ void CupsSupport::closePpdFile()
     if (ppd && ppd != &absentPpdFile)
         ppdClose(ppd);
     ppd = nullptr;
+    d->dialect = nullptr;
 }
 
 int CupsSupport::setDests()
@@ -365,31 +382,6 @@ int CupsSupport::setString(const char *keyword, const QString &value)
 
 namespace {
 
-double numberOr(double fallback, const CupsSupport &cups, const char *keyword)
-{
-    double value = fallback;
-    return cups.getDouble(keyword, &value) ? fallback : value;
-}
-
-int integerOr(int fallback, const CupsSupport &cups, const char *keyword)
-{
-    int value = fallback;
-    return cups.getInt(keyword, &value) ? fallback : value;
-}
-
-bool flag(const CupsSupport &cups, const char *keyword)
-{
-    bool value = false;
-    return !cups.getBool(keyword, &value) && value;
-}
-
-QString text(const CupsSupport &cups, const char *keyword)
-{
-    QString value;
-    cups.getString(keyword, &value);
-    return value;
-}
-
 // The code itself when CUPS knows it, else landscape.
 CupsSupport::_CupsOrientation knownOrientation(int code)
 {
@@ -400,68 +392,140 @@ CupsSupport::_CupsOrientation knownOrientation(int code)
 
 } // namespace
 
+const Dialect *CupsSupport::Private::dialectOf(const CupsSupport &cups)
+{
+    cups.getPpdFile();
+    return cups.d->dialect;
+}
+
+double CupsSupport::Private::number(const CupsSupport &cups, const char *keyword, double fallback)
+{
+    if (const Dialect *dialect = dialectOf(cups))
+        return dialect->value(cups, keyword).value_or(fallback);
+    double value = fallback;
+    return cups.getDouble(keyword, &value) ? fallback : value;
+}
+
+int CupsSupport::Private::integer(const CupsSupport &cups, const char *keyword, int fallback)
+{
+    if (const Dialect *dialect = dialectOf(cups))
+        return roundHalfUp(dialect->value(cups, keyword).value_or(fallback));
+    int value = fallback;
+    return cups.getInt(keyword, &value) ? fallback : value;
+}
+
+bool CupsSupport::Private::flag(const CupsSupport &cups, const char *keyword)
+{
+    if (const Dialect *dialect = dialectOf(cups))
+        return dialect->value(cups, keyword).value_or(0) != 0;
+    bool value = false;
+    return !cups.getBool(keyword, &value) && value;
+}
+
+QString CupsSupport::Private::text(const CupsSupport &cups, const char *keyword)
+{
+    QString value;
+    if (!dialectOf(cups)) // no other driver has commands of the user's
+        cups.getString(keyword, &value);
+    return value;
+}
+
+int CupsSupport::Private::setNumber(CupsSupport &cups, const char *keyword, double value)
+{
+    return dialectOf(cups) ? setForeign(cups, keyword, value) : cups.setDouble(keyword, value);
+}
+
+int CupsSupport::Private::setInteger(CupsSupport &cups, const char *keyword, int value)
+{
+    return dialectOf(cups) ? setForeign(cups, keyword, value) : cups.setInt(keyword, value);
+}
+
+int CupsSupport::Private::setFlag(CupsSupport &cups, const char *keyword, bool value)
+{
+    return dialectOf(cups) ? setForeign(cups, keyword, value) : cups.setBool(keyword, value);
+}
+
+int CupsSupport::Private::setText(CupsSupport &cups, const char *keyword, const QString &value)
+{
+    if (!dialectOf(cups))
+        return cups.setString(keyword, value);
+    const cups_dest_t *dest = cups.currentDest();
+    return dest ? dest->num_options : -1;
+}
+
+// Only for a printer with a dialect.
+int CupsSupport::Private::setForeign(CupsSupport &cups, const char *keyword, double value)
+{
+    const cups_dest_t *dest = cups.currentDest();
+    if (!dest)
+        return -1;
+    cups.d->dialect->setValue(cups, keyword, value);
+    return dest->num_options;
+}
+
 // A table of one-line functions.
 // clang-format off
-double CupsSupport::getShift() const { return numberOr(0.0, *this, "Shift"); }
-int CupsSupport::setShift(double millimetres) { return setDouble("Shift", millimetres); }
-double CupsSupport::getStart() const { return numberOr(0.0, *this, "Start"); }
-int CupsSupport::setStart(double millimetres) { return setDouble("Start", millimetres); }
-double CupsSupport::getStop() const { return numberOr(0.0, *this, "Stop"); }
-int CupsSupport::setStop(double millimetres) { return setDouble("Stop", millimetres); }
-double CupsSupport::getMarkOffset() const { return numberOr(0.0, *this, "MarkOffset"); }
-int CupsSupport::setMarkOffset(double millimetres) { return setDouble("MarkOffset", millimetres); }
-double CupsSupport::getMarkSize() const { return numberOr(0.0, *this, "MarkSize"); }
-int CupsSupport::setMarkSize(double millimetres) { return setDouble("MarkSize", millimetres); }
-double CupsSupport::getGapOffset() const { return numberOr(0.0, *this, "GapOffset"); }
-int CupsSupport::setGapOffset(double millimetres) { return setDouble("GapOffset", millimetres); }
-double CupsSupport::getGapSize() const { return numberOr(0.0, *this, "GapSize"); }
-int CupsSupport::setGapSize(double millimetres) { return setDouble("GapSize", millimetres); }
-int CupsSupport::getOffsetV() const { return integerOr(0, *this, "OffsetV"); }
-int CupsSupport::setOffsetV(int dots) { return setInt("OffsetV", dots); }
-int CupsSupport::getOffsetH() const { return integerOr(0, *this, "OffsetH"); }
-int CupsSupport::setOffsetH(int dots) { return setInt("OffsetH", dots); }
-int CupsSupport::setCut(int cut) { return setInt("CutMedia", cut); }
-int CupsSupport::getOverlap() const { return integerOr(0, *this, "Overlap"); }
-int CupsSupport::setOverlap(int dots) { return setInt("Overlap", dots); }
-int CupsSupport::getBack() const { return integerOr(0, *this, "Back"); }
-int CupsSupport::setBack(int dots) { return setInt("Back", dots); }
-int CupsSupport::getFeed() const { return integerOr(0, *this, "Feed"); }
-int CupsSupport::setFeed(int dots) { return setInt("Feed", dots); }
-int CupsSupport::setCategory(_Category category) { return setInt("LabelCategory", category); }
-int CupsSupport::getDarkness() const { return integerOr(7, *this, "Darkness"); }
-int CupsSupport::setDarkness(int darkness) { return setInt("Darkness", darkness); }
-int CupsSupport::getSpeed() const { return integerOr(2, *this, "PrintSpeed"); }
-int CupsSupport::setSpeed(int speed) { return setInt("PrintSpeed", speed); }
-bool CupsSupport::getDirect() const { return flag(*this, "Direct"); }
-int CupsSupport::setDirect(bool direct) { return setBool("Direct", direct); }
-bool CupsSupport::getInverse() const { return flag(*this, "NegativePrint"); }
-int CupsSupport::setInverse(bool inverse) { return setBool("NegativePrint", inverse); }
-bool CupsSupport::getMirror() const { return flag(*this, "MirrorPrint"); }
-int CupsSupport::setMirror(bool mirror) { return setBool("MirrorPrint", mirror); }
-QString CupsSupport::getLabelEnd() const { return text(*this, "LabelEnd"); }
-int CupsSupport::setLabelEnd(const QString &command) { return setString("LabelEnd", command); }
-QString CupsSupport::getLabelStart() const { return text(*this, "LabelStart"); }
-int CupsSupport::setLabelStart(const QString &command) { return setString("LabelStart", command); }
-QString CupsSupport::getJobEnd() const { return text(*this, "JobEnd"); }
-int CupsSupport::setJobEnd(const QString &command) { return setString("JobEnd", command); }
-QString CupsSupport::getJobStart() const { return text(*this, "JobStart"); }
-int CupsSupport::setJobStart(const QString &command) { return setString("JobStart", command); }
+double CupsSupport::getShift() const { return Private::number(*this, "Shift", 0.0); }
+int CupsSupport::setShift(double millimetres) { return Private::setNumber(*this, "Shift", millimetres); }
+double CupsSupport::getStart() const { return Private::number(*this, "Start", 0.0); }
+int CupsSupport::setStart(double millimetres) { return Private::setNumber(*this, "Start", millimetres); }
+double CupsSupport::getStop() const { return Private::number(*this, "Stop", 0.0); }
+int CupsSupport::setStop(double millimetres) { return Private::setNumber(*this, "Stop", millimetres); }
+double CupsSupport::getMarkOffset() const { return Private::number(*this, "MarkOffset", 0.0); }
+int CupsSupport::setMarkOffset(double millimetres) { return Private::setNumber(*this, "MarkOffset", millimetres); }
+double CupsSupport::getMarkSize() const { return Private::number(*this, "MarkSize", 0.0); }
+int CupsSupport::setMarkSize(double millimetres) { return Private::setNumber(*this, "MarkSize", millimetres); }
+double CupsSupport::getGapOffset() const { return Private::number(*this, "GapOffset", 0.0); }
+int CupsSupport::setGapOffset(double millimetres) { return Private::setNumber(*this, "GapOffset", millimetres); }
+double CupsSupport::getGapSize() const { return Private::number(*this, "GapSize", 0.0); }
+int CupsSupport::setGapSize(double millimetres) { return Private::setNumber(*this, "GapSize", millimetres); }
+int CupsSupport::getOffsetV() const { return Private::integer(*this, "OffsetV", 0); }
+int CupsSupport::setOffsetV(int dots) { return Private::setInteger(*this, "OffsetV", dots); }
+int CupsSupport::getOffsetH() const { return Private::integer(*this, "OffsetH", 0); }
+int CupsSupport::setOffsetH(int dots) { return Private::setInteger(*this, "OffsetH", dots); }
+int CupsSupport::setCut(int cut) { return Private::setInteger(*this, "CutMedia", cut); }
+int CupsSupport::getOverlap() const { return Private::integer(*this, "Overlap", 0); }
+int CupsSupport::setOverlap(int dots) { return Private::setInteger(*this, "Overlap", dots); }
+int CupsSupport::getBack() const { return Private::integer(*this, "Back", 0); }
+int CupsSupport::setBack(int dots) { return Private::setInteger(*this, "Back", dots); }
+int CupsSupport::getFeed() const { return Private::integer(*this, "Feed", 0); }
+int CupsSupport::setFeed(int dots) { return Private::setInteger(*this, "Feed", dots); }
+int CupsSupport::setCategory(_Category category) { return Private::setInteger(*this, "LabelCategory", category); }
+int CupsSupport::getDarkness() const { return Private::integer(*this, "Darkness", 7); }
+int CupsSupport::setDarkness(int darkness) { return Private::setInteger(*this, "Darkness", darkness); }
+int CupsSupport::getSpeed() const { return Private::integer(*this, "PrintSpeed", 2); }
+int CupsSupport::setSpeed(int speed) { return Private::setInteger(*this, "PrintSpeed", speed); }
+bool CupsSupport::getDirect() const { return Private::flag(*this, "Direct"); }
+int CupsSupport::setDirect(bool direct) { return Private::setFlag(*this, "Direct", direct); }
+bool CupsSupport::getInverse() const { return Private::flag(*this, "NegativePrint"); }
+int CupsSupport::setInverse(bool inverse) { return Private::setFlag(*this, "NegativePrint", inverse); }
+bool CupsSupport::getMirror() const { return Private::flag(*this, "MirrorPrint"); }
+int CupsSupport::setMirror(bool mirror) { return Private::setFlag(*this, "MirrorPrint", mirror); }
+QString CupsSupport::getLabelEnd() const { return Private::text(*this, "LabelEnd"); }
+int CupsSupport::setLabelEnd(const QString &command) { return Private::setText(*this, "LabelEnd", command); }
+QString CupsSupport::getLabelStart() const { return Private::text(*this, "LabelStart"); }
+int CupsSupport::setLabelStart(const QString &command) { return Private::setText(*this, "LabelStart", command); }
+QString CupsSupport::getJobEnd() const { return Private::text(*this, "JobEnd"); }
+int CupsSupport::setJobEnd(const QString &command) { return Private::setText(*this, "JobEnd", command); }
+QString CupsSupport::getJobStart() const { return Private::text(*this, "JobStart"); }
+int CupsSupport::setJobStart(const QString &command) { return Private::setText(*this, "JobStart", command); }
 // clang-format on
 
 int CupsSupport::getCut() const
 {
-    const int cut = integerOr(4, *this, "CutMedia");
+    const int cut = Private::integer(*this, "CutMedia", 4);
     return isOneOf(cut, {0, 2, 4}) ? cut : 4;
 }
 
 CupsSupport::_Category CupsSupport::getCategory() const
 {
-    return static_cast<_Category>(integerOr(0, *this, "LabelCategory"));
+    return static_cast<_Category>(Private::integer(*this, "LabelCategory", 0));
 }
 
 CupsSupport::_CupsOrientation CupsSupport::getOrientation() const
 {
-    return knownOrientation(integerOr(Landscape, *this, "orientation-requested"));
+    int code = Landscape; // an option of the job, whatever the driver
+    return getInt("orientation-requested", &code) ? Landscape : knownOrientation(code);
 }
 
 int CupsSupport::setOrientation(_CupsOrientation orientation)
@@ -508,11 +572,24 @@ QRect CupsSupport::paperRect(const char *name) const
     return size ? QRect(0, 0, roundHalfUp(size->width), roundHalfUp(size->length)) : QRect();
 }
 
+namespace {
+
+// A PPD file without a choice of resolutions, such as those that CUPS makes for driverless printers, may still name one.
+const char *declaredResolution(ppd_file_t *ppd)
+{
+    const ppd_attr_t *attribute = ppd ? ppdFindAttr(ppd, "DefaultResolution", nullptr) : nullptr;
+    return attribute ? attribute->value : nullptr;
+}
+
+} // namespace
+
 QSizeF CupsSupport::getResolution() const
 {
     const QSizeF unknown(300.0, 304.8);
     // The PPD default decides, whatever resolution the destination has saved: lengths in dots must not change with it.
     const char *value = getDefaultValue("Resolution");
+    if (!value)
+        value = declaredResolution(getPpdFile());
     if (!value)
         return unknown;
     double first = 0.0;
