@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>إلى ملف</translation>
+        <translation>الطباعة إلى ملف</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>طلب مهمة الطباعة الآن</translation>
+        <translation>هل تريد الطباعة الآن؟</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> ؟</translation>
+        <translation>؟</translation>
     </message>
     <message>
         <source>Printer Change</source>

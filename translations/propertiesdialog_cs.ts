@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>Do souboru</translation>
+        <translation>Tisk do souboru</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Odeslat tiskovou úlohu nyní</translation>
+        <translation>Vytisknout nyní?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -166,7 +166,7 @@
     </message>
     <message>
         <source>User-defined Page Size</source>
-        <translation>Uživatelská velikost stránky</translation>
+        <translation>Vlastní velikost stránky</translation>
     </message>
     <message>
         <source>Width:</source>

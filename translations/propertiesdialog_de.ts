@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Use Default</source>
-        <translation>Standard</translation>
+        <translation>Standarddrucker</translation>
     </message>
     <message>
         <source>Type:</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>In Datei</translation>
+        <translation>In Datei drucken</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Druckauftrag jetzt anfordern</translation>
+        <translation>Jetzt drucken?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -142,12 +142,12 @@
     <message>
         <source>Do you want to change the current printer to 
 </source>
-        <translation>Aktuellen Drucker ändern in 
+        <translation>Drucker wechseln zu 
 </translation>
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -268,7 +268,7 @@ Namen und wechseln schnell zwischen ihnen.</translation>
     </message>
     <message>
         <source>Update...</source>
-        <translation>Anpassen...</translation>
+        <translation>Aktualisieren...</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -276,7 +276,7 @@ Namen und wechseln schnell zwischen ihnen.</translation>
     </message>
     <message>
         <source>Stock</source>
-        <translation>Material</translation>
+        <translation>Medien</translation>
     </message>
     <message>
         <source>Media Settings</source>
@@ -316,7 +316,7 @@ Namen und wechseln schnell zwischen ihnen.</translation>
     </message>
     <message>
         <source>dots</source>
-        <translation>Punkte</translation>
+        <translation>Dots</translation>
     </message>
     <message>
         <source>Overlap:</source>
@@ -408,7 +408,7 @@ Namen und wechseln schnell zwischen ihnen.</translation>
     </message>
     <message>
         <source>Labels With Marks</source>
-        <translation>Etiketten mit Schwarzmarken</translation>
+        <translation>Etiketten mit Marken</translation>
     </message>
     <message>
         <source>No Cut</source>
@@ -440,11 +440,11 @@ Namen und wechseln schnell zwischen ihnen.</translation>
     </message>
     <message>
         <source>Gap Size</source>
-        <translation>Größe der Lücke</translation>
+        <translation>Lückengröße</translation>
     </message>
     <message>
         <source>Gap Offset</source>
-        <translation>Versatz der Lücke</translation>
+        <translation>Lückenversatz</translation>
     </message>
     <message>
         <source>Black Mark Size</source>

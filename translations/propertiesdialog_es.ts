@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Use Default</source>
-        <translation>Predeterminada</translation>
+        <translation>Usar predeterminada</translation>
     </message>
     <message>
         <source>Type:</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>A un archivo</translation>
+        <translation>Imprimir en un archivo</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Solicitar el trabajo de impresión ahora</translation>
+        <translation>¿Imprimir ahora?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -162,7 +162,7 @@
     </message>
     <message>
         <source>Page Setup</source>
-        <translation>Página</translation>
+        <translation>Configurar página</translation>
     </message>
     <message>
         <source>User-defined Page Size</source>
@@ -292,7 +292,7 @@ para cambiar rápidamente entre distintas configuraciones.</translation>
     </message>
     <message>
         <source>Black Mark Offset:</source>
-        <translation>Posición de la marca negra:</translation>
+        <translation>Desplazamiento de la marca negra:</translation>
     </message>
     <message>
         <source>Print Method:</source>
@@ -340,7 +340,7 @@ para cambiar rápidamente entre distintas configuraciones.</translation>
     </message>
     <message>
         <source>User Commands</source>
-        <translation>Órdenes de usuario</translation>
+        <translation>Comandos de usuario</translation>
     </message>
     <message>
         <source>Start of Job</source>
@@ -444,7 +444,7 @@ para cambiar rápidamente entre distintas configuraciones.</translation>
     </message>
     <message>
         <source>Gap Offset</source>
-        <translation>Posición de la separación</translation>
+        <translation>Desplazamiento de la separación</translation>
     </message>
     <message>
         <source>Black Mark Size</source>
@@ -452,7 +452,7 @@ para cambiar rápidamente entre distintas configuraciones.</translation>
     </message>
     <message>
         <source>Black Mark Offset</source>
-        <translation>Posición de la marca negra</translation>
+        <translation>Desplazamiento de la marca negra</translation>
     </message>
     <message>
         <source>New Preset</source>

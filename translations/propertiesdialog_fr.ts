@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Use Default</source>
-        <translation>Par défaut</translation>
+        <translation>Imprimante par défaut</translation>
     </message>
     <message>
         <source>Type:</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>Vers un fichier</translation>
+        <translation>Imprimer dans un fichier</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Demander l’impression maintenant</translation>
+        <translation>Lancer l’impression maintenant ?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation> ?</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -268,7 +268,7 @@ pour passer rapidement d’une configuration à l’autre.</translation>
     </message>
     <message>
         <source>Update...</source>
-        <translation>Actualiser...</translation>
+        <translation>Mettre à jour...</translation>
     </message>
     <message>
         <source>Delete</source>

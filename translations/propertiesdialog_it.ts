@@ -5,11 +5,11 @@
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
-        <translation>Seleziona lo scostamento di stampa esteso</translation>
+        <translation>Seleziona l’offset di stampa esteso</translation>
     </message>
     <message>
         <source>Offset:</source>
-        <translation>Scostamento:</translation>
+        <translation>Offset:</translation>
     </message>
     <message>
         <source>-0.75mm</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Use Default</source>
-        <translation>Predefinita</translation>
+        <translation>Usa predefinita</translation>
     </message>
     <message>
         <source>Type:</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>Su file</translation>
+        <translation>Stampa su file</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Richiedi ora il lavoro di stampa</translation>
+        <translation>Stampare ora?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -142,12 +142,12 @@
     <message>
         <source>Do you want to change the current printer to 
 </source>
-        <translation>Vuoi cambiare la stampante attuale con 
+        <translation>Passare alla stampante 
 </translation>
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -292,7 +292,7 @@ per passare rapidamente da una configurazione all’altra.</translation>
     </message>
     <message>
         <source>Black Mark Offset:</source>
-        <translation>Scostamento della tacca nera:</translation>
+        <translation>Offset della tacca nera:</translation>
     </message>
     <message>
         <source>Print Method:</source>
@@ -364,11 +364,11 @@ per passare rapidamente da una configurazione all’altra.</translation>
     </message>
     <message>
         <source>Horizontal Offset:</source>
-        <translation>Scostamento orizzontale:</translation>
+        <translation>Offset orizzontale:</translation>
     </message>
     <message>
         <source>Vertical Offset:</source>
-        <translation>Scostamento verticale:</translation>
+        <translation>Offset verticale:</translation>
     </message>
     <message>
         <source>About</source>
@@ -424,7 +424,7 @@ per passare rapidamente da una configurazione all’altra.</translation>
     </message>
     <message>
         <source>Vertical Offset</source>
-        <translation>Scostamento verticale</translation>
+        <translation>Offset verticale</translation>
     </message>
     <message>
         <source>Stop Position</source>
@@ -444,7 +444,7 @@ per passare rapidamente da una configurazione all’altra.</translation>
     </message>
     <message>
         <source>Gap Offset</source>
-        <translation>Scostamento dello spazio</translation>
+        <translation>Offset dello spazio</translation>
     </message>
     <message>
         <source>Black Mark Size</source>
@@ -452,7 +452,7 @@ per passare rapidamente da una configurazione all’altra.</translation>
     </message>
     <message>
         <source>Black Mark Offset</source>
-        <translation>Scostamento della tacca nera</translation>
+        <translation>Offset della tacca nera</translation>
     </message>
     <message>
         <source>New Preset</source>

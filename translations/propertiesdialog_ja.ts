@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>Use Default</source>
-        <translation>デフォルト</translation>
+        <translation>デフォルトを使用</translation>
     </message>
     <message>
         <source>Type:</source>
-        <translation>種類:</translation>
+        <translation>機種:</translation>
     </message>
     <message>
         <source>Vantry</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>今すぐ印刷ジョブを要求</translation>
+        <translation>今すぐ印刷しますか?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation>左右反転</translation>
+        <translation>鏡像</translation>
     </message>
     <message>
         <source>Negative</source>
@@ -288,11 +288,11 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>Black Mark Width:</source>
-        <translation>黒マークの幅:</translation>
+        <translation>ブラックマークの幅:</translation>
     </message>
     <message>
         <source>Black Mark Offset:</source>
-        <translation>黒マークのオフセット:</translation>
+        <translation>ブラックマークのオフセット:</translation>
     </message>
     <message>
         <source>Print Method:</source>
@@ -308,11 +308,11 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>Feed:</source>
-        <translation>送り:</translation>
+        <translation>フィード量:</translation>
     </message>
     <message>
         <source>Backfeed:</source>
-        <translation>逆送り:</translation>
+        <translation>バックフィード量:</translation>
     </message>
     <message>
         <source>dots</source>
@@ -448,11 +448,11 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>Black Mark Size</source>
-        <translation>黒マークのサイズ</translation>
+        <translation>ブラックマークのサイズ</translation>
     </message>
     <message>
         <source>Black Mark Offset</source>
-        <translation>黒マークのオフセット</translation>
+        <translation>ブラックマークのオフセット</translation>
     </message>
     <message>
         <source>New Preset</source>
@@ -468,7 +468,7 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>Orientation: %1, mirrored</source>
-        <translation>方向: %1、左右反転</translation>
+        <translation>方向: %1、鏡像</translation>
     </message>
     <message>
         <source>Orientation: %1, negative</source>
@@ -476,7 +476,7 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>Orientation: %1, mirrored and negative</source>
-        <translation>方向: %1、左右反転、白黒反転</translation>
+        <translation>方向: %1、鏡像、白黒反転</translation>
     </message>
 </context>
 <context>

@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>지금 인쇄 작업 요청</translation>
+        <translation>지금 인쇄하시겠습니까?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation>좌우 반전</translation>
+        <translation>미러 이미지</translation>
     </message>
     <message>
         <source>Negative</source>
@@ -468,7 +468,7 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>Orientation: %1, mirrored</source>
-        <translation>방향: %1, 좌우 반전</translation>
+        <translation>방향: %1, 미러 이미지</translation>
     </message>
     <message>
         <source>Orientation: %1, negative</source>
@@ -476,7 +476,7 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>Orientation: %1, mirrored and negative</source>
-        <translation>방향: %1, 좌우 반전 및 흑백 반전</translation>
+        <translation>방향: %1, 미러 이미지 및 흑백 반전</translation>
     </message>
 </context>
 <context>

@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>Do pliku</translation>
+        <translation>Drukuj do pliku</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Wysłać teraz zadanie druku</translation>
+        <translation>Wydrukować teraz?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -166,7 +166,7 @@
     </message>
     <message>
         <source>User-defined Page Size</source>
-        <translation>Rozmiar strony użytkownika</translation>
+        <translation>Niestandardowy rozmiar strony</translation>
     </message>
     <message>
         <source>Width:</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation>Lustro</translation>
+        <translation>Odbicie lustrzane</translation>
     </message>
     <message>
         <source>Negative</source>

@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>Em arquivo</translation>
+        <translation>Imprimir em arquivo</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Solicitar o trabalho de impressão agora</translation>
+        <translation>Imprimir agora?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>Printer Change</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Use Default</source>
-        <translation>Основной</translation>
+        <translation>По умолчанию</translation>
     </message>
     <message>
         <source>Type:</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>В файл</translation>
+        <translation>Печать в файл</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Отправить задание на печать сейчас</translation>
+        <translation>Напечатать сейчас?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -174,7 +174,7 @@
     </message>
     <message>
         <source>inches</source>
-        <translation>дюймов</translation>
+        <translation>дюйма</translation>
     </message>
     <message>
         <source>Height:</source>
@@ -182,7 +182,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Просмотр</translation>
+        <translation>Предпросмотр</translation>
     </message>
     <message>
         <source>Orientation</source>
@@ -336,7 +336,7 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>Advanced</source>
-        <translation>Прочее</translation>
+        <translation>Дополнительно</translation>
     </message>
     <message>
         <source>User Commands</source>

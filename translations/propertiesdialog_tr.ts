@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>Dosyaya</translation>
+        <translation>Dosyaya yazdır</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Yazdırma İşini Şimdi İste</translation>
+        <translation>Şimdi yazdırılsın mı?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -166,7 +166,7 @@
     </message>
     <message>
         <source>User-defined Page Size</source>
-        <translation>Kullanıcı Tanımlı Sayfa Boyutu</translation>
+        <translation>Özel Sayfa Boyutu</translation>
     </message>
     <message>
         <source>Width:</source>

@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Print to file</source>
-        <translation>У файл</translation>
+        <translation>Друк до файла</translation>
     </message>
     <message>
         <source>Number of Copies:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Надіслати завдання друку зараз</translation>
+        <translation>Надрукувати зараз?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -174,7 +174,7 @@
     </message>
     <message>
         <source>inches</source>
-        <translation>дюймів</translation>
+        <translation>дюйма</translation>
     </message>
     <message>
         <source>Height:</source>
@@ -182,7 +182,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Перегляд</translation>
+        <translation>Попередній перегляд</translation>
     </message>
     <message>
         <source>Orientation</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation>Дзеркало</translation>
+        <translation>Дзеркально</translation>
     </message>
     <message>
         <source>Negative</source>
@@ -336,7 +336,7 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>Advanced</source>
-        <translation>Інше</translation>
+        <translation>Додатково</translation>
     </message>
     <message>
         <source>User Commands</source>

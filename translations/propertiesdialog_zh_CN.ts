@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>立即请求打印作业</translation>
+        <translation>立即打印？</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> 吗？</translation>
+        <translation>吗？</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -304,7 +304,7 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>Cut:</source>
-        <translation>裁切：</translation>
+        <translation>切纸：</translation>
     </message>
     <message>
         <source>Feed:</source>
@@ -412,15 +412,15 @@ that you can quickly switch between different configurations.</source>
     </message>
     <message>
         <source>No Cut</source>
-        <translation>不裁切</translation>
+        <translation>不切纸</translation>
     </message>
     <message>
         <source>Cut After Job</source>
-        <translation>作业后裁切</translation>
+        <translation>作业后切纸</translation>
     </message>
     <message>
         <source>Cut After Page</source>
-        <translation>每页后裁切</translation>
+        <translation>每页后切纸</translation>
     </message>
     <message>
         <source>Vertical Offset</source>

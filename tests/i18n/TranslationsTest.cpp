@@ -201,7 +201,9 @@ void TranslationsTest::marksOfTextsSurvive()
         const char *const source = qPrintable(message.source);
         QVERIFY2(text.count("%1") == message.source.count("%1"), source);
         QVERIFY2(text.count('%') == message.source.count('%'), source);
-        QVERIFY2(text.startsWith(' ') == message.source.startsWith(' '), source);
+        // A blank before a question mark is a matter of the language.
+        if (message.source != " ?")
+            QVERIFY2(text.startsWith(' ') == message.source.startsWith(' '), source);
         QVERIFY2(text.endsWith('\n') == message.source.endsWith('\n'), source);
         QVERIFY2(text.endsWith("...") == message.source.endsWith("..."), source);
         QVERIFY2((text.endsWith(':') || text.endsWith(QChar(0xff1a))) == message.source.endsWith(':'), source);
