@@ -3,6 +3,8 @@
 
 #include "presets/PresetScript.h"
 
+#include "presets/DriverCommand.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -27,7 +29,6 @@ const QLatin1String indexKey("index");
 const QLatin1String optionsCommand("lpoptions -p");
 const QLatin1String setItem(" -o");
 const QLatin1String removeItem(" -r");
-const QLatin1String ppdhackCommand("ppdhack");
 constexpr int ppdhackDecimals = 2;
 constexpr signed char lastControlCharacter = 31;
 
@@ -179,7 +180,7 @@ QStringList::size_type PresetScript::valueIndex(const QStringList &options, cons
 QString PresetScript::ppdhack(const QSizeF &size, const QString &printer)
 {
     return QStringLiteral("%1 %2 %3 %4\n")
-        .arg(ppdhackCommand, QString::number(size.width(), 'f', ppdhackDecimals),
+        .arg(DriverCommand::name, QString::number(size.width(), 'f', ppdhackDecimals),
              QString::number(size.height(), 'f', ppdhackDecimals), printer);
 }
 
@@ -269,11 +270,11 @@ bool PresetScript::parseOption(const QByteArray &data, const QString &keyword, Q
 
 bool PresetScript::parsePpdhack(const QByteArray &data, QSizeF &size)
 {
-    if (positionOf(ppdhackCommand.data(), data) < 0)
+    if (positionOf(DriverCommand::name.data(), data) < 0)
         return false; // as in most scripts
     const QStringList lines = fromLatin1UpToNul(data).split(QLatin1Char('\n'));
     for (const QString &line : lines) {
-        if (!line.startsWith(ppdhackCommand))
+        if (!line.startsWith(DriverCommand::name))
             continue;
         const QStringList words = line.split(QLatin1Char(' '));
         bool isWidth = false;

@@ -41,58 +41,62 @@ int dotsPerStep(const CupsSupport &cups)
 
 } // namespace
 
-ExtDialog::ExtDialog(QWidget *parent, CupsSupport *cupsSupport)
+struct ExtDialog::Private
+{
+    void makeRoom(QDialog &dialog) const;
+
+    Ui_ExtDialog ui;
+    CupsSupport *cups;
+};
+
+ExtDialog::ExtDialog(QWidget *parent, CupsSupport *cups)
     : QDialog(parent)
-    , ui(new Ui_ExtDialog)
-    , cups(cupsSupport)
+    , d(new Private{{}, cups})
 {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
-    ui->setupUi(this);
+    d->ui.setupUi(this);
     for (const char *text : offsetTexts)
-        ui->offset->addItem(tr(text));
-    makeRoom();
+        d->ui.offset->addItem(tr(text));
+    d->makeRoom(*this);
 
     // The division truncates towards zero: an offset between two steps shows the one nearer to zero. An offset past the
     // last step gives an index past the list and so selects nothing, and OK then leaves the stored offset alone.
-    ui->offset->setCurrentIndex(cups->getExtendedOffset() / dotsPerStep(*cups) + zeroIndex);
+    d->ui.offset->setCurrentIndex(cups->getExtendedOffset() / dotsPerStep(*cups) + zeroIndex);
 }
 
-ExtDialog::~ExtDialog()
-{
-    delete ui;
-}
+ExtDialog::~ExtDialog() = default;
 
 void ExtDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        ui->retranslateUi(this);
-        for (int index = 0; index < ui->offset->count(); ++index)
-            ui->offset->setItemText(index, tr(offsetTexts[static_cast<std::size_t>(index)]));
-        makeRoom();
+        d->ui.retranslateUi(this);
+        for (int index = 0; index < d->ui.offset->count(); ++index)
+            d->ui.offset->setItemText(index, tr(offsetTexts[static_cast<std::size_t>(index)]));
+        d->makeRoom(*this);
     } else if (FormRoom::isChangedBy(*event)) {
-        makeRoom();
+        d->makeRoom(*this);
     }
 }
 
 // Moves the form's widgets apart where their texts need it, and to the other side where one reads from the right.
-void ExtDialog::makeRoom()
+void ExtDialog::Private::makeRoom(QDialog &dialog) const
 {
-    const QSize label = ui->offsetLabel->sizeHint();
-    const QSize list = ui->offset->sizeHint();
-    const QSize buttons = ui->buttonBox->sizeHint();
+    const QSize label = ui.offsetLabel->sizeHint();
+    const QSize list = ui.offset->sizeHint();
+    const QSize buttons = ui.buttonBox->sizeHint();
     const int wider = std::max(0, label.width() - (listPlace.left() - labelPlace.left()));
     const int wider2 = std::max({0, list.width() - listPlace.width(), buttons.width() - buttonsPlace.width()});
     const int higher = std::max({0, label.height() - labelPlace.height(), list.height() - listPlace.height()});
     const int higher2 = std::max(0, buttons.height() - buttonsPlace.height());
-    setFixedSize(formSize + QSize(wider + wider2, higher + higher2));
+    dialog.setFixedSize(formSize + QSize(wider + wider2, higher + higher2));
 
-    const auto place = [this](QWidget *widget, const QRect &where) {
-        widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), where));
+    const auto place = [&dialog](QWidget *widget, const QRect &where) {
+        widget->setGeometry(QStyle::visualRect(dialog.layoutDirection(), dialog.rect(), where));
     };
-    place(ui->offsetLabel, labelPlace.adjusted(0, 0, wider, higher));
-    place(ui->offset, listPlace.adjusted(wider, 0, wider + wider2, higher));
-    place(ui->buttonBox, buttonsPlace.adjusted(wider, higher, wider + wider2, higher + higher2));
+    place(ui.offsetLabel, labelPlace.adjusted(0, 0, wider, higher));
+    place(ui.offset, listPlace.adjusted(wider, 0, wider + wider2, higher));
+    place(ui.buttonBox, buttonsPlace.adjusted(wider, higher, wider + wider2, higher + higher2));
 }
 
 // The button box is connected to accept() and reject() as well, which come first and end exec(). These two then only
@@ -100,9 +104,9 @@ void ExtDialog::makeRoom()
 
 void ExtDialog::on_buttonBox_accepted()
 {
-    const int index = ui->offset->currentIndex();
+    const int index = d->ui.offset->currentIndex();
     if (index >= 0)
-        cups->setExtendedOffset((index - zeroIndex) * dotsPerStep(*cups));
+        d->cups->setExtendedOffset((index - zeroIndex) * dotsPerStep(*d->cups));
     hide();
     setResult(Accepted);
 }

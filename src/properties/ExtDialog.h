@@ -8,8 +8,9 @@
 
 #include <QDialog>
 
+#include <memory>
+
 class CupsSupport;
-class Ui_ExtDialog;
 
 /**
  * Lets the user shift the print position in steps of a quarter millimetre, from -0.75 mm to +0.75 mm.
@@ -38,10 +39,9 @@ private Q_SLOTS:
     void on_buttonBox_rejected();
 
 private:
-    void makeRoom();
+    struct Q_DECL_HIDDEN Private;
 
-    Ui_ExtDialog *ui;
-    CupsSupport *cups;
+    const std::unique_ptr<Private> d;
 };
 
 #endif

@@ -4,95 +4,60 @@
 #include "properties/PrintPropertiesDialog.h"
 
 #include "BuildConstants.h"
-#include "cups/Rounding.h"
+#include "presets/DriverCommand.h"
 #include "presets/Preset.h"
-#include "presets/Presets.h"
-#include "presets/PresetScript.h"
-#include "properties/DoubleValidator.h"
 #include "properties/FormRoom.h"
+#include "properties/ModelFamily.h"
+#include "properties/NumberField.h"
 #include "properties/Preview.h"
-#include "ui_PrintPropertiesDialog.h"
+#include "properties/PrinterProperties.h"
+#include "properties/PrintPropertiesDialogPrivate.h"
 
 #include <QBitmap>
-#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
-#include <QIntValidator>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QPixmapCache>
-#include <QPrintEngine>
 #include <QPrinter>
-#include <QProcess>
-#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QTextDocument>
 
 #include <algorithm>
-#include <cmath>
 #include <initializer_list>
+#include <optional>
 
 namespace {
 
-constexpr double millimetresPerInch = 25.4;
 constexpr double pointsPerInch = 72.0;
-constexpr double pageSizeBottom = 0.2; // inches
-constexpr double pageSizeTop = 1200.0; // inches
-constexpr int decimals = 2;
-constexpr int presetsTabIndex = 1;
-constexpr int builtInPresets = 2; // "<Current Settings>" and "<Default Settings>", always first in the lists
+constexpr ModelFamily::Inches pageSizeRange{0.2, 1200.0};
 constexpr int presetListWidth = 180; // pixels; for the names of the built-in presets in a usual font
 constexpr double previewSide = 1200.0; // the preview is square whatever the page size
 
-// Every number that a line edit shows goes through this.
-const QString numberFormat = QStringLiteral("%1");
-
-struct Family
+// The fields of labels with gaps double as those of labels with marks.
+struct GapFields
 {
-    QLatin1String marker;
-    int number;
-    bool showGapOffset;
+    LabelSettings::Length size;
+    LabelSettings::Length offset;
 };
+
+std::optional<GapFields> gapFieldsOf(int mediaType)
+{
+    switch (mediaType) {
+    case CupsSupport::LabelsWithGaps:
+        return GapFields{&LabelSettings::gapSize, &LabelSettings::gapOffset};
+    case CupsSupport::LabelsWithMarks:
+        return GapFields{&LabelSettings::markSize, &LabelSettings::markOffset};
+    default:
+        return std::nullopt;
+    }
+}
 
 // Setting a description, even to what it is, makes Qt look for plug-ins on the disk.
 void describe(QWidget *widget, const QString &text)
 {
     if (widget->accessibleDescription() != text)
         widget->setAccessibleDescription(text);
-}
-
-// The first marker that the printer's name contains decides.
-constexpr Family families[] = {
-    {QLatin1String("ORCA"), 3, true}, {QLatin1String("KERN"), 1, false}, {QLatin1String("LUMA"), 2, false},
-    {QLatin1String("TIK"), 4, true},  {QLatin1String("ZED"), 5, true},
-};
-
-struct SpeedRange
-{
-    int minimum;
-    int maximum;
-};
-
-// By family number, in inches per second.
-constexpr SpeedRange speedRanges[] = {{1, 3}, {1, 3}, {2, 2}, {2, 3}, {2, 3}, {2, 5}};
-
-// In these families the stop field is a vertical offset, the validators are tighter and the print offsets are bound by the
-// resolution.
-bool isOffsetGroup(int family)
-{
-    return family >= 3;
-}
-
-// Qt 4's names of the CUPS properties of a print engine; hosts and print engines built for them still look for these.
-constexpr int cupsOptionsProperty = 0xFE00;
-constexpr int cupsPageRectProperty = 0xFE01;
-constexpr int cupsPaperRectProperty = 0xFE02;
-constexpr int cupsPageSizeProperty = 0xFE03;
-
-void setEngineProperty(QPrinter *printer, int key, const QVariant &value)
-{
-    printer->printEngine()->setProperty(static_cast<QPrintEngine::PrintEnginePropertyKey>(key), value);
 }
 
 // Whether the host application is set up so that the user page size always applies.
@@ -104,10 +69,23 @@ bool probeHostSettings()
            && file.readAll().contains("<stringvalue>adobe</stringvalue>");
 }
 
-// What is no number is not shown: an empty field is skipped when saving, so that what is stored stays.
-QString inchesText(double inches)
+void showStep(QSlider *slider, QLabel *label, std::optional<int> value)
 {
-    return std::isfinite(inches) ? numberFormat.arg(inches, 0, 'f', decimals) : QString();
+    if (!value)
+        return;
+    slider->setValue(*value);
+    label->setText(QString::number(*value)); // of a stored value beyond the slider's range, too
+}
+
+void setRange(QSlider *slider, const ModelFamily::Steps &range)
+{
+    slider->setRange(range.minimum, range.maximum);
+}
+
+void showAll(std::initializer_list<QWidget *> widgets, bool isVisible)
+{
+    for (QWidget *widget : widgets)
+        widget->setVisible(isVisible);
 }
 
 // Cutting the picture out of its background takes longer than loading the settings, and has the same outcome each time.
@@ -124,196 +102,105 @@ QIcon maskedIcon()
     return QIcon(icon);
 }
 
-QLocale cLocale()
-{
-    QLocale locale = QLocale::c();
-    locale.setNumberOptions(QLocale::RejectGroupSeparator);
-    return locale;
-}
-
-// Millimetres, to the thousandth.
-double toMillimetres(double inches)
-{
-    return roundHalfUp(inches * millimetresPerInch * 1000) / 1000.0;
-}
-
-// What the dialog shows of the printer, with the values that stand in for a missing printer access object. The gap and mark
-// fields are not among it: the media type fills them.
-struct Settings
-{
-    int orientation = CupsSupport::Landscape;
-    bool mirror = false;
-    bool inverse = false;
-    int speed = 2;
-    int darkness = 7;
-    int category = 0;
-    int cut = 4;
-    double feed = 0.0; // inches
-    int back = 2; // dots
-    int overlap = 12; // dots
-    double stop = 30.0 / millimetresPerInch; // inches
-    int offsetH = 0; // dots
-    int offsetV = 0; // dots
-};
-
-// The driver's command that carries a user page size to the queue's PPD file.
-const QString ppdhackCommand = QStringLiteral("ppdhack");
-constexpr int longestLine = 1024; // bytes; what is longer is read as several lines
-
-// The first line of a preset's script that begins with the driver's command; null when there is none.
-QString ppdhackLine(const QString &scriptPath)
-{
-    QByteArray script = PresetScript::read(scriptPath).value_or(QByteArray());
-    QBuffer lines(&script);
-    lines.open(QIODevice::ReadOnly);
-    while (!lines.atEnd()) {
-        const QString line = QString::fromLatin1(lines.readLine(longestLine));
-        if (line.startsWith(ppdhackCommand))
-            return line;
-    }
-    return QString();
-}
-
-// A preset may come from anywhere. Its command is the driver's and no other: found on the PATH, run directly and never
-// through a shell.
-void runPpdhack(const QString &line)
-{
-    QStringList words = QProcess::splitCommand(line);
-    if (!words.isEmpty() && words.takeFirst() == ppdhackCommand)
-        QProcess::execute(ppdhackCommand, words);
-}
-
 } // namespace
 
 // ----- construction -----
 
-PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer_, CupsSupport *cups_)
-    : QDialog(parent)
-    , ui(new Ui_PrintPropertiesDialog)
+PrintPropertiesDialog::Private::Private(PrintPropertiesDialog *dialog, QPrinter *printer_, CupsSupport *cups_)
+    : q(dialog)
     , printer(printer_)
     , cups(cups_)
+    , family(ModelFamily::of(printer->printerName()))
+    , forceCustomStock(probeHostSettings())
+    , presets(printer->printerName())
 {
-    const QString printerName = printer->printerName();
-    for (const Family &family : families) {
-        if (printerName.contains(family.marker)) {
-            modelFamily = family.number;
-            showGapOffset = family.showGapOffset;
-            break;
-        }
-    }
+    createPresets();
+}
 
-    ui->setupUi(this);
-    preview = new Preview(ui->frame);
-    preview->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    preview->setGeometry(0, 0, ui->frame->width(), ui->frame->height());
+PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer, CupsSupport *cups)
+    : QDialog(parent)
+    , d(new Private(this, printer, cups))
+{
+    d->ui.setupUi(this);
+    d->preview = new Preview(d->ui.frame);
+    d->preview->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    d->preview->setGeometry(0, 0, d->ui.frame->width(), d->ui.frame->height());
     setResult(0);
     setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint
                    | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
-    showOwnTexts();
+    d->showOwnTexts();
     setWindowIcon(maskedIcon());
-    ui->helpButton->hide();
-    ui->tabs->setCurrentIndex(0);
-    forceCustomStock = probeHostSettings();
-    createPresets(printerName);
-    createValidators();
-    fillLists();
-    hideUnusedRows();
+    d->ui.helpButton->hide();
+    d->ui.tabs->setCurrentIndex(0);
+    d->createValidators();
+    d->fillLists();
+    d->hideUnusedRows();
     on_mediaType_currentIndexChanged(cups->getCategory());
-    ui->jobStartRadioButton->setChecked(true);
+    d->ui.jobStartRadioButton->setChecked(true);
     setChanged(false);
 }
 
-PrintPropertiesDialog::~PrintPropertiesDialog()
+PrintPropertiesDialog::~PrintPropertiesDialog() = default;
+
+void PrintPropertiesDialog::Private::createPresets()
 {
-    delete preview;
-    delete presets;
-    delete pageSizeValidator;
-    delete stopValidator;
-    delete feedValidator;
-    delete gapSizeValidator;
-    // gapOffsetValidator goes with its parent, this dialog.
-    delete ui;
+    const QString printerName = printer->printerName();
+    presets.addPreset(new Preset(printerName, QString(), cups->cupsOptions(), QStringLiteral("<Current Settings>"),
+                                 QObject::tr("This preset contains this driver's current settings."), 0));
+    presets.addPreset(new Preset(printerName, QString(), QStringList(), QStringLiteral("<Default Settings>"),
+                                 QObject::tr("This preset contains this driver's original default settings."), 1));
 }
 
-void PrintPropertiesDialog::createPresets(const QString &printerName)
+void PrintPropertiesDialog::Private::createValidators()
 {
-    presets = new Presets(printerName);
-    presets->addPreset(new Preset(printerName, QString(), cups->cupsOptions(), QStringLiteral("<Current Settings>"),
-                                  QObject::tr("This preset contains this driver's current settings."), 0));
-    presets->addPreset(new Preset(printerName, QString(), QStringList(), QStringLiteral("<Default Settings>"),
-                                  QObject::tr("This preset contains this driver's original default settings."), 1));
+    NumberField::acceptInches({ui.widthEdit, ui.heightEdit}, pageSizeRange, q);
+    NumberField::acceptInches({ui.gapSize}, family.gapSize, q);
+    NumberField::acceptInches({ui.gapOffset}, family.gapOffset, q);
+    NumberField::acceptInches({ui.feed}, family.feed, q);
+    NumberField::acceptInches({ui.stop}, family.stop, q);
+    NumberField::acceptDots({ui.horizontalEdit, ui.verticalEdit}, family.offsetLimit(cups->getResolution().height()),
+                            q);
+    for (QLineEdit *edit : {ui.widthEdit, ui.heightEdit})
+        edit->installEventFilter(q);
 }
 
-void PrintPropertiesDialog::createValidators()
+void PrintPropertiesDialog::Private::fillLists()
 {
-    pageSizeValidator = new DoubleValidator(pageSizeBottom, pageSizeTop, decimals, this);
-    for (QLineEdit *edit : {ui->widthEdit, ui->heightEdit}) {
-        edit->setValidator(pageSizeValidator);
-        edit->installEventFilter(this);
-    }
-
-    // In inches.
-    if (isOffsetGroup(modelFamily)) {
-        gapSizeValidator = new DoubleValidator(0, 1, decimals, this);
-        gapOffsetValidator = new DoubleValidator(0, 40, decimals, this);
-        feedValidator = new DoubleValidator(-1, 1, decimals, this);
-        stopValidator = new DoubleValidator(-1, 1, decimals, this);
-    } else {
-        gapSizeValidator = new DoubleValidator(0, 1000, decimals, this);
-        gapOffsetValidator = new DoubleValidator(-1000, 1000, decimals, this);
-        feedValidator = new DoubleValidator(0, 1000, decimals, this);
-        stopValidator = new DoubleValidator(0, 1.57, decimals, this);
-    }
-    ui->gapSize->setValidator(gapSizeValidator);
-    ui->gapOffset->setValidator(gapOffsetValidator);
-    ui->feed->setValidator(feedValidator);
-    ui->stop->setValidator(stopValidator);
-
-    // In dots.
-    const int limit = isOffsetGroup(modelFamily) ? roundHalfUp(std::trunc(cups->getResolution().height())) : 100;
-    for (QLineEdit *edit : {ui->horizontalEdit, ui->verticalEdit}) {
-        auto *validator = new QIntValidator(-limit, limit, this);
-        validator->setLocale(cLocale());
-        edit->setValidator(validator);
-    }
+    const QSignalBlocker blocker(ui.mediaType); // its handler is called once everything is there
+    ui.mediaType->addItems({PrintPropertiesDialog::tr("Continuous"), PrintPropertiesDialog::tr("Labels With Gaps"),
+                            PrintPropertiesDialog::tr("Labels With Marks")});
+    ui.cut->addItems({PrintPropertiesDialog::tr("No Cut"), PrintPropertiesDialog::tr("Cut After Job"),
+                      PrintPropertiesDialog::tr("Cut After Page")});
 }
 
-void PrintPropertiesDialog::fillLists()
+// The print method and the start position are never used; backfeed and overlap are carried from load to save.
+void PrintPropertiesDialog::Private::hideUnusedRows()
 {
-    const QSignalBlocker blocker(ui->mediaType); // its handler is called once everything is there
-    ui->mediaType->addItems({tr("Continuous"), tr("Labels With Gaps"), tr("Labels With Marks")});
-    ui->cut->addItems({tr("No Cut"), tr("Cut After Job"), tr("Cut After Page")});
-}
-
-void PrintPropertiesDialog::hideUnusedRows()
-{
-    // The print method and the start position are never used; backfeed and overlap are carried from load to save.
-    for (QWidget *widget : std::initializer_list<QWidget *>{
-             ui->printMethodLabel, ui->printMethod, ui->backLabel, ui->back, ui->backUnits, ui->overlapLabel,
-             ui->overlap, ui->overlapUnits, ui->start, ui->startLabel, ui->startUnits})
-        widget->hide();
+    showAll({ui.printMethodLabel, ui.printMethod, ui.backLabel, ui.back, ui.backUnits, ui.overlapLabel, ui.overlap,
+             ui.overlapUnits, ui.start, ui.startLabel, ui.startUnits},
+            false);
 }
 
 // The form's sizes are made for usual fonts and short words. They stay where these fit; nothing is to be cut off.
-void PrintPropertiesDialog::makeRoom()
+void PrintPropertiesDialog::Private::makeRoom()
 {
     widenFields();
-    FormRoom::freshenSizeHints(*this);
-    for (QGroupBox *box : {ui->previewGroupBox, ui->orientationGroupBox, ui->effectsGroupBox})
+    FormRoom::freshenSizeHints(*q);
+    for (QGroupBox *box : {ui.previewGroupBox, ui.orientationGroupBox, ui.effectsGroupBox})
         box->setMinimumSize(box->minimumSize().expandedTo(box->minimumSizeHint()));
-    ui->tabs->updateGeometry(); // its pages do not tell it
-    const QMargins margins = layout()->contentsMargins();
-    const int tabsWidth = ui->tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
-    setFixedSize(size().expandedTo(minimumSizeHint()).expandedTo(QSize(tabsWidth, 0)));
+    ui.tabs->updateGeometry(); // its pages do not tell it
+    const QMargins margins = q->layout()->contentsMargins();
+    const int tabsWidth = ui.tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
+    q->setFixedSize(q->size().expandedTo(q->minimumSizeHint()).expandedTo(QSize(tabsWidth, 0)));
 }
 
-void PrintPropertiesDialog::widenFields()
+void PrintPropertiesDialog::Private::widenFields()
 {
-    const bool hasLargeFont = FormRoom::hasLargeFont(*this);
+    const bool hasLargeFont = FormRoom::hasLargeFont(*q);
     if (hasLargeFont)
-        for (QComboBox *list : {ui->preset0, ui->preset1})
-            list->setMinimumWidth(presetListWidth * fontMetrics().height() / FormRoom::usualFontHeight);
-    for (QLineEdit *edit : findChildren<QLineEdit *>()) {
+        for (QComboBox *list : {ui.preset0, ui.preset1})
+            list->setMinimumWidth(presetListWidth * q->fontMetrics().height() / FormRoom::usualFontHeight);
+    for (QLineEdit *edit : q->findChildren<QLineEdit *>()) {
         const int frame = edit->minimumSizeHint().width() - edit->fontMetrics().maxWidth();
         const int needed = edit->fontMetrics().horizontalAdvance(QStringLiteral("0.00")) + frame;
         if (hasLargeFont)
@@ -323,129 +210,152 @@ void PrintPropertiesDialog::widenFields()
 }
 
 // The texts that stand in place of the form's.
-void PrintPropertiesDialog::showOwnTexts()
+void PrintPropertiesDialog::Private::showOwnTexts()
 {
-    setWindowTitle(QObject::tr("%1 Printing Preferences").arg(printer ? printer->printerName() : QString()));
-    ui->stopLabel->setText(isOffsetGroup(modelFamily) ? tr("Vertical Offset") : tr("Stop Position"));
-    showGapLabels(ui->mediaType->currentIndex());
-    preview->setAccessibleName(ui->previewGroupBox->title());
-    ui->aboutVersionLabel->setText(tr("Version %1").arg(BuildConstants::version));
-    ui->aboutDateLabel->setText(tr("%1").arg(BuildConstants::releaseDate));
+    q->setWindowTitle(QObject::tr("%1 Printing Preferences").arg(printer ? printer->printerName() : QString()));
+    showStopLabel();
+    showGapLabels(ui.mediaType->currentIndex());
+    preview->setAccessibleName(ui.previewGroupBox->title());
+    ui.aboutVersionLabel->setText(PrintPropertiesDialog::tr("Version %1").arg(BuildConstants::version));
+    ui.aboutDateLabel->setText(PrintPropertiesDialog::tr("%1").arg(BuildConstants::releaseDate));
+}
+
+void PrintPropertiesDialog::Private::showStopLabel()
+{
+    ui.stopLabel->setText(family.isOffsetGroup ? PrintPropertiesDialog::tr("Vertical Offset")
+                                               : PrintPropertiesDialog::tr("Stop Position"));
+}
+
+void PrintPropertiesDialog::Private::showGapLabels(int mediaType)
+{
+    if (mediaType == CupsSupport::LabelsWithGaps) {
+        ui.gapSizeLabel->setText(PrintPropertiesDialog::tr("Gap Size"));
+        ui.gapOffsetLabel->setText(PrintPropertiesDialog::tr("Gap Offset"));
+    } else if (mediaType == CupsSupport::LabelsWithMarks) {
+        ui.gapSizeLabel->setText(PrintPropertiesDialog::tr("Black Mark Size"));
+        ui.gapOffsetLabel->setText(PrintPropertiesDialog::tr("Black Mark Offset"));
+    }
 }
 
 // What a screen reader says of the picture, and of the one field that means something else with each choice beside it.
-void PrintPropertiesDialog::describeFields()
+void PrintPropertiesDialog::Private::describeFields()
 {
     static constexpr const char *texts[] = {
-        QT_TR_NOOP("Orientation: %1"),
-        QT_TR_NOOP("Orientation: %1, mirrored"),
-        QT_TR_NOOP("Orientation: %1, negative"),
-        QT_TR_NOOP("Orientation: %1, mirrored and negative"),
+        QT_TRANSLATE_NOOP("PrintPropertiesDialog", "Orientation: %1"),
+        QT_TRANSLATE_NOOP("PrintPropertiesDialog", "Orientation: %1, mirrored"),
+        QT_TRANSLATE_NOOP("PrintPropertiesDialog", "Orientation: %1, negative"),
+        QT_TRANSLATE_NOOP("PrintPropertiesDialog", "Orientation: %1, mirrored and negative"),
     };
-    const QRadioButton *const orientations[] = {ui->portraitRadioButton, ui->landscapeRadioButton,
-                                                ui->landscape180RadioButton, ui->portrait180RadioButton};
+    const QRadioButton *const orientations[] = {ui.portraitRadioButton, ui.landscapeRadioButton,
+                                                ui.landscape180RadioButton, ui.portrait180RadioButton};
     const int effects = (preview->mirror ? 1 : 0) + (preview->negative ? 2 : 0);
-    describe(preview, tr(texts[effects]).arg(orientations[preview->orientation - CupsSupport::Portrait]->text()));
+    describe(preview, PrintPropertiesDialog::tr(texts[effects])
+                          .arg(orientations[preview->orientation - CupsSupport::Portrait]->text()));
 
-    const QRadioButton *const commands[] = {ui->jobStartRadioButton, ui->labelStartRadioButton, ui->labelEndRadioButton,
-                                            ui->jobEndRadioButton};
-    describe(ui->commandEdit, commands[commandSlot]->text());
+    const QRadioButton *const radios[] = {ui.jobStartRadioButton, ui.labelStartRadioButton, ui.labelEndRadioButton,
+                                          ui.jobEndRadioButton};
+    describe(ui.commandEdit, radios[commandSlot]->text());
 }
 
 // ----- loading -----
 
 void PrintPropertiesDialog::updateDialog()
 {
-    if (cups)
-        showDefaultPageSize();
-    Preset *preset = presets->currentPreset();
-    const QSizeF userPageSize = preset ? preset->getUserPageSize() : QSizeF();
-    ui->stockGroupBox->setChecked(forceCustomStock || (userPageSize.width() > 0 && userPageSize.height() > 0));
-    showFamily();
-
-    jobStartCommand.clear();
-    labelStartCommand.clear();
-    labelEndCommand.clear();
-    jobEndCommand.clear();
-
-    Settings s;
-    if (isOffsetGroup(modelFamily))
-        s.darkness = 8;
-    if (printer && printer->pageLayout().orientation() == QPageLayout::Portrait)
-        s.orientation = CupsSupport::Portrait;
-    if (cups) {
-        const double verticalResolution = cups->getResolution().height();
-        s.orientation = cups->getOrientation();
-        s.mirror = cups->getMirror();
-        s.inverse = cups->getInverse();
-        s.speed = cups->getSpeed();
-        s.darkness = cups->getDarkness();
-        s.category = cups->getCategory();
-        s.cut = cups->getCut();
-        s.feed = cups->getFeed() / verticalResolution;
-        s.back = cups->getBack();
-        s.overlap = cups->getOverlap();
-        s.stop = (isOffsetGroup(modelFamily) ? cups->getShift() : cups->getStop()) / millimetresPerInch;
-        jobStartCommand = cups->getJobStart();
-        labelStartCommand = cups->getLabelStart();
-        labelEndCommand = cups->getLabelEnd();
-        jobEndCommand = cups->getJobEnd();
-        s.offsetH = cups->getOffsetH();
-        s.offsetV = cups->getOffsetV();
-    }
-
+    d->showPageSize();
+    d->showFamily();
+    LabelSettings settings = LabelSettings::withoutPrinter(d->family);
+    if (d->printer && d->printer->pageLayout().orientation() == QPageLayout::Portrait)
+        settings.orientation = CupsSupport::Portrait;
+    if (d->cups)
+        settings = LabelSettings::read(*d->cups);
     updatePresets();
-    checkOrientation(s.orientation);
-    ui->mirroredCheckBox->setChecked(s.mirror);
-    ui->inverseCheckBox->setChecked(s.inverse);
-    ui->speedSlider->setValue(s.speed);
-    ui->speedValue->setText(QString::number(s.speed));
-    ui->darknessSlider->setValue(s.darkness);
-    ui->darknessValue->setText(QString::number(s.darkness));
-    ui->mediaType->setCurrentIndex(s.category);
-    on_mediaType_currentIndexChanged(s.category); // the index may be the one that was shown already
-    ui->cut->setCurrentIndex(s.cut / 2);
-    ui->feed->setText(inchesText(s.feed));
-    ui->back->setText(numberFormat.arg(s.back));
-    ui->overlap->setText(numberFormat.arg(s.overlap));
-    ui->stop->setText(inchesText(s.stop));
-    showCommand();
-    ui->horizontalEdit->setText(numberFormat.arg(s.offsetH));
-    ui->verticalEdit->setText(numberFormat.arg(s.offsetV));
+    d->show(settings);
     updatePreview();
 }
 
-void PrintPropertiesDialog::showDefaultPageSize()
+void PrintPropertiesDialog::Private::showPageSize()
 {
-    const QSize points = cups->getDefaultPageSize();
-    if (points.width() < 1 || points.height() < 1)
-        return;
-    ui->widthEdit->setText(inchesText(points.width() / pointsPerInch));
-    ui->heightEdit->setText(inchesText(points.height() / pointsPerInch));
+    const QSize points = cups ? cups->getDefaultPageSize() : QSize();
+    if (points.width() >= 1 && points.height() >= 1) {
+        ui.widthEdit->setText(NumberField::inchesText(points.width() / pointsPerInch));
+        ui.heightEdit->setText(NumberField::inchesText(points.height() / pointsPerInch));
+    }
+    Preset *preset = presets.currentPreset();
+    const QSizeF size = preset ? preset->getUserPageSize() : QSizeF();
+    ui.stockGroupBox->setChecked(forceCustomStock || (size.width() > 0 && size.height() > 0));
 }
 
-void PrintPropertiesDialog::showFamily()
+void PrintPropertiesDialog::Private::showFamily()
 {
-    const SpeedRange &speed = speedRanges[modelFamily];
-    ui->speedSlider->setRange(speed.minimum, speed.maximum);
-    ui->stopLabel->setText(isOffsetGroup(modelFamily) ? tr("Vertical Offset") : tr("Stop Position"));
-    ui->darknessSlider->setRange(0, isOffsetGroup(modelFamily) ? 15 : 19);
+    setRange(ui.speedSlider, family.speed);
+    setRange(ui.darknessSlider, family.darkness);
+    showStopLabel();
 }
 
-void PrintPropertiesDialog::checkOrientation(int code)
+void PrintPropertiesDialog::Private::show(const LabelSettings &settings)
+{
+    showOrientation(settings.orientation.value_or(CupsSupport::Landscape));
+    ui.mirroredCheckBox->setChecked(settings.mirror.value_or(false));
+    ui.inverseCheckBox->setChecked(settings.inverse.value_or(false));
+    showStep(ui.speedSlider, ui.speedValue, settings.speed);
+    showStep(ui.darknessSlider, ui.darknessValue, settings.darkness);
+    const int category = settings.category ? *settings.category : -1;
+    ui.mediaType->setCurrentIndex(category);
+    q->on_mediaType_currentIndexChanged(category); // the index may be the one that was shown already
+    ui.cut->setCurrentIndex(settings.cut ? *settings.cut / 2 : -1);
+    ui.feed->setText(NumberField::inchesText(settings.feed));
+    ui.back->setText(NumberField::wholeText(settings.back));
+    ui.overlap->setText(NumberField::wholeText(settings.overlap));
+    ui.stop->setText(NumberField::inchesText(settings.*family.stopField()));
+    for (std::size_t slot = 0; slot < commands.size(); ++slot)
+        commands[slot] = (settings.*LabelSettings::commands[slot]).value_or(QString());
+    showCommand();
+    ui.horizontalEdit->setText(NumberField::wholeText(settings.offsetH));
+    ui.verticalEdit->setText(NumberField::wholeText(settings.offsetV));
+}
+
+LabelSettings PrintPropertiesDialog::Private::shown() const
+{
+    LabelSettings settings;
+    settings.orientation = q->cups_orientation();
+    settings.mirror = ui.mirroredCheckBox->isChecked();
+    settings.inverse = ui.inverseCheckBox->isChecked();
+    settings.speed = ui.speedSlider->value();
+    settings.darkness = ui.darknessSlider->value();
+    // A stored media type that the list does not have stays what it is, as does a cut.
+    if (ui.mediaType->currentIndex() >= 0)
+        settings.category = static_cast<CupsSupport::_Category>(ui.mediaType->currentIndex());
+    if (const auto fields = gapFieldsOf(ui.mediaType->currentIndex())) {
+        settings.*fields->size = NumberField::number(ui.gapSize);
+        settings.*fields->offset = NumberField::number(ui.gapOffset);
+    }
+    if (ui.cut->currentIndex() >= 0)
+        settings.cut = 2 * ui.cut->currentIndex();
+    settings.feed = NumberField::number(ui.feed);
+    settings.back = NumberField::whole(ui.back);
+    settings.overlap = NumberField::whole(ui.overlap);
+    settings.*family.stopField() = NumberField::number(ui.stop);
+    for (std::size_t slot = 0; slot < commands.size(); ++slot)
+        settings.*LabelSettings::commands[slot] = commands[slot];
+    settings.offsetH = NumberField::rounded(ui.horizontalEdit);
+    settings.offsetV = NumberField::rounded(ui.verticalEdit);
+    return settings;
+}
+
+void PrintPropertiesDialog::Private::showOrientation(int code)
 {
     switch (code) {
     case CupsSupport::Portrait:
-        ui->portraitRadioButton->setChecked(true);
+        ui.portraitRadioButton->setChecked(true);
         break;
     case CupsSupport::ReverseLandscape:
-        ui->landscape180RadioButton->setChecked(true);
+        ui.landscape180RadioButton->setChecked(true);
         break;
     case CupsSupport::ReversePortrait:
-        ui->portrait180RadioButton->setChecked(true);
+        ui.portrait180RadioButton->setChecked(true);
         break;
     default:
-        ui->landscapeRadioButton->setChecked(true);
+        ui.landscapeRadioButton->setChecked(true);
     }
 }
 
@@ -453,129 +363,63 @@ void PrintPropertiesDialog::checkOrientation(int code)
 
 void PrintPropertiesDialog::saveValues()
 {
-    if (printer)
-        savePrinter();
+    if (d->printer)
+        PrinterProperties::set(*d->printer, orientation(), d->cups);
     QStringList defaults;
-    if (cups) {
-        saveOptions();
-        cups->setDests();
-        defaults = cups->ppdDefaults();
+    if (d->cups) {
+        d->shown().write(*d->cups);
+        d->cups->setDests();
+        defaults = d->cups->ppdDefaults();
     }
-    if (changed || cups)
-        savePresets(defaults);
+    const QSizeF size = d->userPageSize();
+    d->applyPageSize(size);
+    if (d->changed)
+        d->savePresets(size, defaults);
 }
 
-void PrintPropertiesDialog::savePrinter()
+// In inches; 0 by 0 when there is none.
+QSizeF PrintPropertiesDialog::Private::userPageSize() const
 {
-    printer->setPageOrientation(orientation());
-    // Outside the full page mode Qt refuses margins below those that the PPD file declares.
-    const bool fullPage = printer->fullPage();
-    printer->setFullPage(true);
-    printer->setPageMargins(QMarginsF(0, 0, 0, 0), QPageLayout::Point);
-    printer->setFullPage(fullPage);
-    if (!cups)
+    const std::optional<double> width = NumberField::number(ui.widthEdit);
+    const std::optional<double> height = NumberField::number(ui.heightEdit);
+    return ui.stockGroupBox->isChecked() && width && height ? QSizeF(*width, *height) : QSizeF(0.0, 0.0);
+}
+
+void PrintPropertiesDialog::Private::applyPageSize(const QSizeF &size)
+{
+    Preset *preset = presets.currentPreset();
+    if (!preset)
         return;
-    const QString custom = QStringLiteral("Custom");
-    setEngineProperty(printer, cupsPageSizeProperty, custom);
-    // The size of the sheet as it is, whatever the orientation.
-    const QSizeF points = printer->pageLayout().pageSize().size(QPageSize::Point);
-    const QString pageSize =
-        custom + QStringLiteral(".%1x%2").arg(points.width(), 0, 'f', decimals).arg(points.height(), 0, 'f', decimals);
-    QStringList options = cups->options();
-    std::replace(options.begin(), options.end(), custom, pageSize);
-    setEngineProperty(printer, cupsOptionsProperty, options);
-    setEngineProperty(printer, cupsPageRectProperty, cups->pageRect(pageSize.toLatin1().constData()));
-    setEngineProperty(printer, cupsPaperRectProperty, cups->paperRect(pageSize.toLatin1().constData()));
+    preset->setUserPageSize(size);
+    if (size.width() > 0 && size.height() > 0)
+        DriverCommand::run(preset->ppdhack());
 }
 
-void PrintPropertiesDialog::saveOptions()
+void PrintPropertiesDialog::Private::savePresets(const QSizeF &size, const QStringList &defaults)
 {
-    double number = 0.0;
-    int integer = 0;
-    cups->setOrientation(cups_orientation());
-    cups->setMirror(ui->mirroredCheckBox->isChecked());
-    cups->setInverse(ui->inverseCheckBox->isChecked());
-    cups->setSpeed(ui->speedSlider->value());
-    cups->setDarkness(ui->darknessSlider->value());
-    saveMedia();
-    if (ui->cut->currentIndex() >= 0)
-        cups->setCut(2 * ui->cut->currentIndex());
-    if (getDouble(ui->feed, &number))
-        cups->setFeed(roundHalfUp(number * cups->getResolution().height()));
-    if (getInt(ui->back, &integer))
-        cups->setBack(integer);
-    if (getInt(ui->overlap, &integer))
-        cups->setOverlap(integer);
-    if (getDouble(ui->stop, &number))
-        isOffsetGroup(modelFamily) ? cups->setShift(toMillimetres(number)) : cups->setStop(toMillimetres(number));
-    cups->setJobStart(jobStartCommand);
-    cups->setLabelStart(labelStartCommand);
-    cups->setLabelEnd(labelEndCommand);
-    cups->setJobEnd(jobEndCommand);
-    if (getDouble(ui->horizontalEdit, &number))
-        cups->setOffsetH(roundHalfUp(number));
-    if (getDouble(ui->verticalEdit, &number))
-        cups->setOffsetV(roundHalfUp(number));
+    presets.save(defaults);
+    if (printer && cups)
+        saveCurrentSettings(size, defaults);
+    q->setChanged(false);
 }
 
-void PrintPropertiesDialog::saveMedia()
+// The settings last applied, to be applied again by running the script.
+void PrintPropertiesDialog::Private::saveCurrentSettings(const QSizeF &size, const QStringList &defaults)
 {
-    const int category = ui->mediaType->currentIndex();
-    if (category < 0)
-        return; // a stored media type that the list does not have stays what it is
-    cups->setCategory(static_cast<CupsSupport::_Category>(category));
-    double size = 0.0;
-    double offset = 0.0;
-    const bool hasSize = getDouble(ui->gapSize, &size);
-    const bool hasOffset = getDouble(ui->gapOffset, &offset);
-    if (category == CupsSupport::LabelsWithGaps) {
-        if (hasSize)
-            cups->setGapSize(toMillimetres(size));
-        if (hasOffset)
-            cups->setGapOffset(toMillimetres(offset));
-    } else if (category == CupsSupport::LabelsWithMarks) {
-        if (hasSize)
-            cups->setMarkSize(toMillimetres(size));
-        if (hasOffset)
-            cups->setMarkOffset(toMillimetres(offset));
-    }
-}
-
-void PrintPropertiesDialog::savePresets(const QStringList &defaults)
-{
-    QSizeF userPageSize(0.0, 0.0);
-    double width = 0.0;
-    double height = 0.0;
-    if (ui->stockGroupBox->isChecked() && getDouble(ui->widthEdit, &width) && getDouble(ui->heightEdit, &height))
-        userPageSize = QSizeF(width, height);
-
-    if (Preset *preset = presets->currentPreset()) {
-        preset->setUserPageSize(userPageSize);
-        if (userPageSize.width() > 0 && userPageSize.height() > 0)
-            runPpdhack(preset->ppdhack());
-    }
-
-    if (!changed)
-        return;
-    presets->save(defaults);
-    if (printer && cups) {
-        // The settings last applied, to be applied again by running the script.
-        Preset current(printer->printerName(), presets->currentFileName(), QStringList(), QString(), QString(), -1);
-        current.clearOptions();
-        current.setOptions(cups->cupsOptions());
-        current.setUserPageSize(userPageSize);
-        current.setState(Preset::Modified);
-        current.save(defaults);
-    }
-    setChanged(false);
+    Preset current(printer->printerName(), presets.currentFileName(), QStringList(), QString(), QString(), -1);
+    current.clearOptions();
+    current.setOptions(cups->cupsOptions());
+    current.setUserPageSize(size);
+    current.setState(Preset::Modified);
+    current.save(defaults);
 }
 
 void PrintPropertiesDialog::setChanged(bool value)
 {
-    if (value == changed)
+    if (value == d->changed)
         return;
-    changed = value;
-    ui->applyButton->setEnabled(value);
+    d->changed = value;
+    d->ui.applyButton->setEnabled(value);
 }
 
 void PrintPropertiesDialog::on_applyButton_clicked()
@@ -602,25 +446,25 @@ void PrintPropertiesDialog::on_cancelButton_clicked()
 
 bool PrintPropertiesDialog::getDouble(const QLineEdit *edit, double *out) const
 {
-    bool ok = false;
-    *out = edit->text().toDouble(&ok);
-    return ok;
+    const std::optional<double> number = NumberField::number(edit);
+    *out = number.value_or(0.0);
+    return number.has_value();
 }
 
 bool PrintPropertiesDialog::getInt(const QLineEdit *edit, int *out) const
 {
-    bool ok = false;
-    *out = edit->text().toInt(&ok);
-    return ok;
+    const std::optional<int> number = NumberField::whole(edit);
+    *out = number.value_or(0);
+    return number.has_value();
 }
 
 CupsSupport::_CupsOrientation PrintPropertiesDialog::cups_orientation() const
 {
-    if (ui->landscapeRadioButton->isChecked())
+    if (d->ui.landscapeRadioButton->isChecked())
         return CupsSupport::Landscape;
-    if (ui->portrait180RadioButton->isChecked())
+    if (d->ui.portrait180RadioButton->isChecked())
         return CupsSupport::ReversePortrait;
-    if (ui->landscape180RadioButton->isChecked())
+    if (d->ui.landscape180RadioButton->isChecked())
         return CupsSupport::ReverseLandscape;
     return CupsSupport::Portrait;
 }
@@ -634,56 +478,57 @@ QPageLayout::Orientation PrintPropertiesDialog::orientation() const
 
 void PrintPropertiesDialog::setOrientation(QPageLayout::Orientation orientation)
 {
-    (orientation == QPageLayout::Landscape ? ui->landscapeRadioButton : ui->portraitRadioButton)->setChecked(true);
+    const bool isLandscape = orientation == QPageLayout::Landscape;
+    (isLandscape ? d->ui.landscapeRadioButton : d->ui.portraitRadioButton)->setChecked(true);
     updatePreview();
 }
 
 void PrintPropertiesDialog::updatePreview()
 {
-    preview->labelWidth = previewSide;
-    preview->labelHeight = previewSide;
-    preview->orientation = cups_orientation();
-    preview->mirror = ui->mirroredCheckBox->isChecked();
-    preview->negative = ui->inverseCheckBox->isChecked();
-    preview->update();
-    describeFields();
+    d->preview->labelWidth = previewSide;
+    d->preview->labelHeight = previewSide;
+    d->preview->orientation = cups_orientation();
+    d->preview->mirror = d->ui.mirroredCheckBox->isChecked();
+    d->preview->negative = d->ui.inverseCheckBox->isChecked();
+    d->preview->update();
+    d->describeFields();
 }
 
-void PrintPropertiesDialog::previewChanged(bool isChange)
+void PrintPropertiesDialog::Private::previewChanged(bool isChange)
 {
     if (!isChange)
         return;
-    updatePreview();
-    setChanged(true);
+    q->updatePreview();
+    q->setChanged(true);
 }
 
 // A table of one-line functions.
 // clang-format off
-void PrintPropertiesDialog::on_portraitRadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
-void PrintPropertiesDialog::on_landscapeRadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
-void PrintPropertiesDialog::on_portrait180RadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
-void PrintPropertiesDialog::on_landscape180RadioButton_toggled(bool bChecked) { previewChanged(bChecked); }
-void PrintPropertiesDialog::on_mirroredCheckBox_toggled(bool) { previewChanged(true); }
-void PrintPropertiesDialog::on_inverseCheckBox_toggled(bool) { previewChanged(true); }
+void PrintPropertiesDialog::on_portraitRadioButton_toggled(bool bChecked) { d->previewChanged(bChecked); }
+void PrintPropertiesDialog::on_landscapeRadioButton_toggled(bool bChecked) { d->previewChanged(bChecked); }
+void PrintPropertiesDialog::on_portrait180RadioButton_toggled(bool bChecked) { d->previewChanged(bChecked); }
+void PrintPropertiesDialog::on_landscape180RadioButton_toggled(bool bChecked) { d->previewChanged(bChecked); }
+void PrintPropertiesDialog::on_mirroredCheckBox_toggled(bool) { d->previewChanged(true); }
+void PrintPropertiesDialog::on_inverseCheckBox_toggled(bool) { d->previewChanged(true); }
 // clang-format on
 
 void PrintPropertiesDialog::on_stockGroupBox_toggled(bool bChecked)
 {
-    for (QWidget *widget : std::initializer_list<QWidget *>{ui->widthLabel, ui->widthEdit, ui->widthUnits,
-                                                            ui->heightLabel, ui->heightEdit, ui->heightUnits})
+    for (QWidget *widget : std::initializer_list<QWidget *>{d->ui.widthLabel, d->ui.widthEdit, d->ui.widthUnits,
+                                                            d->ui.heightLabel, d->ui.heightEdit, d->ui.heightUnits})
         widget->setEnabled(bChecked);
     setChanged(true);
 }
 
 void PrintPropertiesDialog::on_speedSlider_valueChanged(int iValue)
 {
-    ui->speedValue->setText(QString::number(iValue));
+    d->ui.speedValue->setText(QString::number(iValue));
     setChanged(true);
 }
 
 void PrintPropertiesDialog::on_darknessSlider_valueChanged(int iValue)
 {
-    ui->darknessValue->setText(QString::number(iValue));
+    d->ui.darknessValue->setText(QString::number(iValue));
     setChanged(true);
 }
 
@@ -708,71 +553,54 @@ void PrintPropertiesDialog::on_verticalEdit_textChanged(const QString &) { setCh
 // drops what was typed into them.
 void PrintPropertiesDialog::on_mediaType_currentIndexChanged(int iIndex)
 {
-    const bool gaps = iIndex == CupsSupport::LabelsWithGaps;
-    const bool marks = iIndex == CupsSupport::LabelsWithMarks;
-    if (cups && (gaps || marks)) {
-        const double size = gaps ? cups->getGapSize() : cups->getMarkSize();
-        const double offset = gaps ? cups->getGapOffset() : cups->getMarkOffset();
-        ui->gapSize->setText(inchesText(size / millimetresPerInch));
-        ui->gapOffset->setText(inchesText(offset / millimetresPerInch));
-    }
-    showGapLabels(iIndex);
-
-    const bool showSize = gaps || marks;
-    const bool showOffset = marks || (gaps && showGapOffset);
-    const bool showFeed = !showSize || isOffsetGroup(modelFamily);
-    ui->gapSize->setVisible(showSize);
-    ui->gapSizeLabel->setVisible(showSize);
-    ui->gapSizeUnits->setVisible(showSize);
-    ui->gapOffset->setVisible(showOffset);
-    ui->gapOffsetLabel->setVisible(showOffset);
-    ui->gapOffsetUnits->setVisible(showOffset);
-    ui->feed->setVisible(showFeed);
-    ui->feedLabel->setVisible(showFeed);
-    ui->feedUnits->setVisible(showFeed);
-    if (iIndex != fittedMediaType)
-        makeRoom();
-    fittedMediaType = iIndex;
+    d->showGapFields(iIndex);
+    d->showGapLabels(iIndex);
+    d->showMediaRows(iIndex);
+    if (iIndex != d->fittedMediaType)
+        d->makeRoom();
+    d->fittedMediaType = iIndex;
     setChanged(true);
 }
 
-void PrintPropertiesDialog::showGapLabels(int mediaType)
+void PrintPropertiesDialog::Private::showGapFields(int mediaType)
 {
-    if (mediaType == CupsSupport::LabelsWithGaps) {
-        ui->gapSizeLabel->setText(tr("Gap Size"));
-        ui->gapOffsetLabel->setText(tr("Gap Offset"));
-    } else if (mediaType == CupsSupport::LabelsWithMarks) {
-        ui->gapSizeLabel->setText(tr("Black Mark Size"));
-        ui->gapOffsetLabel->setText(tr("Black Mark Offset"));
-    }
+    const auto fields = gapFieldsOf(mediaType);
+    if (!cups || !fields)
+        return;
+    const LabelSettings stored = LabelSettings::read(*cups);
+    ui.gapSize->setText(NumberField::inchesText(stored.*fields->size));
+    ui.gapOffset->setText(NumberField::inchesText(stored.*fields->offset));
+}
+
+void PrintPropertiesDialog::Private::showMediaRows(int mediaType)
+{
+    const bool marks = mediaType == CupsSupport::LabelsWithMarks;
+    const bool gaps = mediaType == CupsSupport::LabelsWithGaps;
+    showAll({ui.gapSize, ui.gapSizeLabel, ui.gapSizeUnits}, gaps || marks);
+    showAll({ui.gapOffset, ui.gapOffsetLabel, ui.gapOffsetUnits}, marks || (gaps && family.isOffsetGroup));
+    showAll({ui.feed, ui.feedLabel, ui.feedUnits}, family.isOffsetGroup || !(gaps || marks));
 }
 
 // ----- user commands -----
 
-QString &PrintPropertiesDialog::command()
-{
-    QString *const commands[] = {&jobStartCommand, &labelStartCommand, &labelEndCommand, &jobEndCommand};
-    return *commands[commandSlot];
-}
-
 // The text of the command edit. Unlike toPlainText() this keeps a no-break space, which would else be lost from a stored
 // command by merely looking at it.
-QString PrintPropertiesDialog::commandText() const
+QString PrintPropertiesDialog::Private::commandText() const
 {
-    QString text = ui->commandEdit->document()->toRawText();
+    QString text = ui.commandEdit->document()->toRawText();
     text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
     return text.replace(QChar::LineSeparator, QLatin1Char('\n'));
 }
 
-void PrintPropertiesDialog::showCommand()
+void PrintPropertiesDialog::Private::showCommand()
 {
-    if (commandText() != command())
-        ui->commandEdit->setPlainText(command());
+    if (commandText() != commands[commandSlot])
+        ui.commandEdit->setPlainText(commands[commandSlot]);
 }
 
 // The slot changes before the text: the text-changed handler then compares with the new slot's string, finds no difference
 // and marks nothing changed.
-void PrintPropertiesDialog::selectCommand(bool isSelected, int slot)
+void PrintPropertiesDialog::Private::selectCommand(bool isSelected, std::size_t slot)
 {
     if (!isSelected)
         return;
@@ -783,18 +611,18 @@ void PrintPropertiesDialog::selectCommand(bool isSelected, int slot)
 
 // A table of one-line functions.
 // clang-format off
-void PrintPropertiesDialog::on_jobStartRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 0); }
-void PrintPropertiesDialog::on_labelStartRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 1); }
-void PrintPropertiesDialog::on_labelEndRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 2); }
-void PrintPropertiesDialog::on_jobEndRadioButton_toggled(bool bChecked) { selectCommand(bChecked, 3); }
+void PrintPropertiesDialog::on_jobStartRadioButton_toggled(bool bChecked) { d->selectCommand(bChecked, 0); }
+void PrintPropertiesDialog::on_labelStartRadioButton_toggled(bool bChecked) { d->selectCommand(bChecked, 1); }
+void PrintPropertiesDialog::on_labelEndRadioButton_toggled(bool bChecked) { d->selectCommand(bChecked, 2); }
+void PrintPropertiesDialog::on_jobEndRadioButton_toggled(bool bChecked) { d->selectCommand(bChecked, 3); }
 // clang-format on
 
 void PrintPropertiesDialog::on_commandEdit_textChanged()
 {
-    const QString text = commandText();
-    if (text == command())
+    const QString text = d->commandText();
+    if (text == d->commands[d->commandSlot])
         return;
-    command() = text;
+    d->commands[d->commandSlot] = text;
     setChanged(true);
 }
 
@@ -822,202 +650,20 @@ void PrintPropertiesDialog::changeEvent(QEvent *event)
     QDialog::changeEvent(event);
     const bool isOtherLanguage = event->type() == QEvent::LanguageChange;
     if (isOtherLanguage)
-        retranslate();
+        d->retranslate();
     if (isOtherLanguage || FormRoom::isChangedBy(*event))
-        makeRoom();
+        d->makeRoom();
 }
 
 // All texts but the items of the media type and cut lists, which deliberately stay those that the dialog was opened with.
-void PrintPropertiesDialog::retranslate()
+void PrintPropertiesDialog::Private::retranslate()
 {
     // Numbers have no language, and a stored one beyond the slider's range is shown as it is.
-    const QString speed = ui->speedValue->text();
-    const QString darkness = ui->darknessValue->text();
-    ui->retranslateUi(this);
-    ui->speedValue->setText(speed);
-    ui->darknessValue->setText(darkness);
+    const QString speed = ui.speedValue->text();
+    const QString darkness = ui.darknessValue->text();
+    ui.retranslateUi(q);
+    ui.speedValue->setText(speed);
+    ui.darknessValue->setText(darkness);
     showOwnTexts();
     describeFields();
-}
-
-// ----- presets -----
-
-namespace {
-
-// Presets that are kept for users who rely on their names.
-const QStringList &protectedNames()
-{
-    static const QStringList names = {QStringLiteral("Custom 1"), QStringLiteral("Custom 2"),
-                                      QStringLiteral("Custom 3")};
-    return names;
-}
-
-bool shows(const QComboBox *list, const QStringList &names)
-{
-    if (list->count() != names.size())
-        return false;
-    for (int i = 0; i < list->count(); ++i)
-        if (list->itemText(i) != names.at(i))
-            return false;
-    return true;
-}
-
-// A name that a list does not have counts as its first.
-int positionOf(const QString &name, const QComboBox *list)
-{
-    return std::max(0, list->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive));
-}
-
-} // namespace
-
-bool PrintPropertiesDialog::updatePresets()
-{
-    const QStringList names = presets->getPresetNames();
-    const bool refill = !shows(ui->preset0, names) || !shows(ui->preset1, names);
-    if (refill) {
-        const QScopedValueRollback<bool> guard(updatingPresets, true);
-        for (QComboBox *list : {ui->preset0, ui->preset1}) {
-            list->clear();
-            list->addItems(names);
-            list->setCurrentIndex(-1);
-        }
-    }
-    updateCurrentPreset(presets->currentPreset());
-    return refill;
-}
-
-bool PrintPropertiesDialog::updateCurrentPreset(Preset *preset)
-{
-    if (!preset) {
-        for (QWidget *widget : std::initializer_list<QWidget *>{ui->nameEdit, ui->descriptionEdit,
-                                                                ui->presetUpdateButton, ui->presetDeleteButton})
-            widget->setEnabled(false);
-        return false;
-    }
-    const QString name = preset->name();
-    const int position0 = positionOf(name, ui->preset0);
-    const int position1 = positionOf(name, ui->preset1);
-    const bool moves = ui->preset0->currentIndex() != position0 || ui->preset1->currentIndex() != position1;
-    if (moves) {
-        const QScopedValueRollback<bool> guard(updatingPresets, true);
-        ui->preset0->setCurrentIndex(position0);
-        ui->preset1->setCurrentIndex(position1);
-        const bool editable = position1 >= builtInPresets;
-        ui->nameEdit->setEnabled(editable);
-        ui->descriptionEdit->setEnabled(editable);
-        ui->presetUpdateButton->setEnabled(editable && preset->index() < 0);
-        ui->presetDeleteButton->setEnabled(editable && preset->index() < 0 && !protectedNames().contains(name));
-    }
-    ui->nameEdit->setText(name);
-    ui->descriptionEdit->setPlainText(preset->description());
-    return moves;
-}
-
-void PrintPropertiesDialog::setCurrentPreset(const QString &text)
-{
-    if (text.isEmpty())
-        return;
-    if (Preset *preset = presets->findPreset(text))
-        setCurrentPreset(preset);
-}
-
-void PrintPropertiesDialog::setCurrentPreset(Preset *preset)
-{
-    if (preset == presets->currentPreset())
-        return;
-    presets->setCurrentPreset(preset);
-    const QString line = ppdhackLine(preset->pathName());
-    if (!line.isEmpty()) {
-        // The command changes the PPD file at the scheduler; the next use opens it anew.
-        cups->closePpdFile();
-        runPpdhack(line);
-    }
-    setCupsOptions(preset);
-    updateDialog();
-    setChanged(true);
-}
-
-void PrintPropertiesDialog::setCupsOptions(Preset *preset)
-{
-    cups->deleteOptions(preset->getOptionNames());
-    cups->setOptions(preset->options());
-}
-
-Preset *PrintPropertiesDialog::selectedPreset() const
-{
-    return presets->findPreset(ui->preset1->currentText());
-}
-
-void PrintPropertiesDialog::on_preset0_currentIndexChanged(int iIndex)
-{
-    if (!updatingPresets)
-        setCurrentPreset(ui->preset0->itemText(iIndex));
-}
-
-void PrintPropertiesDialog::on_preset1_currentIndexChanged(int iIndex)
-{
-    if (!updatingPresets)
-        setCurrentPreset(ui->preset1->itemText(iIndex));
-}
-
-void PrintPropertiesDialog::on_manageButton_clicked()
-{
-    ui->tabs->setCurrentIndex(presetsTabIndex);
-}
-
-void PrintPropertiesDialog::on_presetNewButton_clicked()
-{
-    QString fileName = QStringLiteral("Preset");
-    QString name = tr("New Preset");
-    for (int n = 2; presets->findPreset(fileName) || presets->findPreset(name); ++n) {
-        fileName = QStringLiteral("Preset%1").arg(n);
-        name = tr("New Preset %1").arg(n);
-    }
-    Preset *preset =
-        presets->addPreset(new Preset(printer->printerName(), fileName, cups->cupsOptions(), name, QString(), -1));
-    preset->setState(Preset::Modified); // to be written even where the printer has no option yet that presets carry
-    updatePresets();
-    setCurrentPreset(preset);
-}
-
-void PrintPropertiesDialog::on_presetUpdateButton_clicked()
-{
-    Preset *preset = selectedPreset();
-    if (!preset)
-        return;
-    const bool cleared = preset->clearOptions();
-    const bool set = preset->setOptions(cups->cupsOptions());
-    if (cleared || set)
-        setChanged(true);
-}
-
-void PrintPropertiesDialog::on_presetDeleteButton_clicked()
-{
-    Preset *preset = selectedPreset();
-    if (!preset)
-        return;
-    presets->deletePreset(preset);
-    updatePresets();
-    setChanged(true);
-}
-
-void PrintPropertiesDialog::on_nameEdit_editingFinished()
-{
-    const QString name = ui->nameEdit->text();
-    Preset *preset = selectedPreset();
-    if (!preset || name == ui->preset1->currentText())
-        return;
-    preset->setName(name);
-    updatePresets();
-    setChanged(true);
-}
-
-void PrintPropertiesDialog::on_descriptionEdit_textChanged()
-{
-    const QString text = ui->descriptionEdit->toPlainText();
-    Preset *preset = selectedPreset();
-    if (!preset || text == preset->description())
-        return;
-    preset->setDescription(text);
-    setChanged(true);
 }

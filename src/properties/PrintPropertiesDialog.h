@@ -12,15 +12,11 @@
 #include <QPageLayout>
 #include <QString>
 
-#include <optional>
+#include <memory>
 
-class DoubleValidator;
 class Preset;
-class Presets;
-class Preview;
 class QLineEdit;
 class QPrinter;
-class Ui_PrintPropertiesDialog;
 
 /**
  * The settings of the current label printer.
@@ -152,51 +148,9 @@ private Q_SLOTS:
     void on_verticalEdit_textChanged(const QString &text);
 
 private:
-    void createPresets(const QString &printerName);
-    void createValidators();
-    void fillLists();
-    void hideUnusedRows();
-    void makeRoom();
-    void widenFields();
-    void describeFields();
-    void retranslate();
-    void showOwnTexts();
-    void showDefaultPageSize();
-    void showFamily();
-    void checkOrientation(int code);
-    void savePrinter();
-    void saveOptions();
-    void saveMedia();
-    void savePresets(const QStringList &defaults);
-    void previewChanged(bool isChange);
-    void showGapLabels(int mediaType);
-    QString &command();
-    QString commandText() const;
-    void showCommand();
-    void selectCommand(bool isSelected, int slot);
-    Preset *selectedPreset() const;
+    struct Q_DECL_HIDDEN Private;
 
-    Ui_PrintPropertiesDialog *ui;
-    QPrinter *printer;
-    CupsSupport *cups;
-    bool updatingPresets = false;
-    Preview *preview = nullptr;
-    Presets *presets = nullptr;
-    bool changed = true;
-    int modelFamily = 0;
-    int commandSlot = 3;
-    std::optional<int> fittedMediaType; // the one whose rows the dialog's size was last fitted to
-    QString jobStartCommand;
-    QString labelStartCommand;
-    QString labelEndCommand;
-    QString jobEndCommand;
-    DoubleValidator *gapSizeValidator = nullptr;
-    DoubleValidator *gapOffsetValidator = nullptr;
-    DoubleValidator *feedValidator = nullptr;
-    DoubleValidator *stopValidator = nullptr;
-    DoubleValidator *pageSizeValidator = nullptr;
-    bool showGapOffset = false;
-    bool forceCustomStock = false;
+    const std::unique_ptr<Private> d;
 };
 
 #endif

@@ -8,6 +8,7 @@
 
 #include "properties/DoubleValidator.h"
 #include "properties/Preview.h"
+#include "properties/PrintPropertiesDialogPrivate.h"
 
 #include <QBitmap>
 #include <QIntValidator>
@@ -25,23 +26,16 @@ namespace {
 
 // The dialog's constructor needs the printer and its settings, but loading works without them.
 // An explicit instantiation may name private members.
-using CupsMember = CupsSupport *PrintPropertiesDialog::*;
-using PrinterMember = QPrinter *PrintPropertiesDialog::*;
-struct CupsReach
+struct Reach
 {
-    friend CupsMember memberOf(CupsReach);
+    friend auto partsOf(Reach);
 };
-struct PrinterReach
-{
-    friend PrinterMember memberOf(PrinterReach);
-};
-template<class Tag, class Member, Member member>
+template<auto member>
 struct Open
 {
-    friend Member memberOf(Tag) { return member; }
+    friend auto partsOf(Reach) { return member; }
 };
-template struct Open<CupsReach, CupsMember, &PrintPropertiesDialog::cups>;
-template struct Open<PrinterReach, PrinterMember, &PrintPropertiesDialog::printer>;
+template struct Open<&PrintPropertiesDialog::d>;
 
 // ----- the entry function in processes of its own -----
 
@@ -659,9 +653,10 @@ void PropertiesDialogLoadTest::loadsWithoutCups()
     t.dialog.show();
     t.printer.setPageOrientation(printerOrientation);
     t.edit("widthEdit")->setText("7.77");
-    t.dialog.*memberOf(CupsReach()) = nullptr;
+    const auto &parts = t.dialog.*partsOf(Reach());
+    parts->cups = nullptr;
     if (!hasPrinter)
-        t.dialog.*memberOf(PrinterReach()) = nullptr;
+        parts->printer = nullptr;
     t.dialog.updateDialog();
 
     QCOMPARE(t.shown(checkedOrientation), "True");

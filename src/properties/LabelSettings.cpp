@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "properties/LabelSettings.h"
+
+#include "cups/Rounding.h"
+#include "properties/ModelFamily.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr double millimetresPerInch = 25.4;
+
+// How a value goes over from the option to the form and back.
+
+struct AsItIs
+{
+    template<class Value>
+    static Value toForm(const Value &value, const CupsSupport &)
+    {
+        return value;
+    }
+    template<class Value>
+    static Value toOption(const Value &value, const CupsSupport &)
+    {
+        return value;
+    }
+};
+
+struct Millimetres
+{
+    static double toForm(double millimetres, const CupsSupport &) { return millimetres / millimetresPerInch; }
+    static double toOption(double inches, const CupsSupport &) // to the thousandth
+    {
+        return roundHalfUp(inches * millimetresPerInch * 1000) / 1000.0;
+    }
+};
+
+struct VerticalDots
+{
+    static double toForm(int dots, const CupsSupport &cups) { return dots / cups.getResolution().height(); }
+    static int toOption(double inches, const CupsSupport &cups)
+    {
+        return roundHalfUp(inches * cups.getResolution().height());
+    }
+};
+
+// Calls a function for each setting: the member here, the option's getter and setter, the conversion.
+template<class Function>
+void forEachSetting(Function function)
+{
+    using S = LabelSettings;
+    using C = CupsSupport;
+    function(&S::orientation, &C::getOrientation, &C::setOrientation, AsItIs());
+    function(&S::mirror, &C::getMirror, &C::setMirror, AsItIs());
+    function(&S::inverse, &C::getInverse, &C::setInverse, AsItIs());
+    function(&S::speed, &C::getSpeed, &C::setSpeed, AsItIs());
+    function(&S::darkness, &C::getDarkness, &C::setDarkness, AsItIs());
+    function(&S::category, &C::getCategory, &C::setCategory, AsItIs());
+    function(&S::gapSize, &C::getGapSize, &C::setGapSize, Millimetres());
+    function(&S::gapOffset, &C::getGapOffset, &C::setGapOffset, Millimetres());
+    function(&S::markSize, &C::getMarkSize, &C::setMarkSize, Millimetres());
+    function(&S::markOffset, &C::getMarkOffset, &C::setMarkOffset, Millimetres());
+    function(&S::cut, &C::getCut, &C::setCut, AsItIs());
+    function(&S::feed, &C::getFeed, &C::setFeed, VerticalDots());
+    function(&S::back, &C::getBack, &C::setBack, AsItIs());
+    function(&S::overlap, &C::getOverlap, &C::setOverlap, AsItIs());
+    function(&S::shift, &C::getShift, &C::setShift, Millimetres());
+    function(&S::stop, &C::getStop, &C::setStop, Millimetres());
+    function(&S::jobStart, &C::getJobStart, &C::setJobStart, AsItIs());
+    function(&S::labelStart, &C::getLabelStart, &C::setLabelStart, AsItIs());
+    function(&S::labelEnd, &C::getLabelEnd, &C::setLabelEnd, AsItIs());
+    function(&S::jobEnd, &C::getJobEnd, &C::setJobEnd, AsItIs());
+    function(&S::offsetH, &C::getOffsetH, &C::setOffsetH, AsItIs());
+    function(&S::offsetV, &C::getOffsetV, &C::setOffsetV, AsItIs());
+}
+
+// What is no number cannot be shown.
+template<class Value>
+bool isShowable(const Value &)
+{
+    return true;
+}
+
+bool isShowable(double value)
+{
+    return std::isfinite(value);
+}
+
+} // namespace
+
+LabelSettings LabelSettings::withoutPrinter(const ModelFamily &family)
+{
+    LabelSettings settings;
+    settings.orientation = CupsSupport::Landscape;
+    settings.mirror = false;
+    settings.inverse = false;
+    settings.speed = 2;
+    settings.darkness = family.fallbackDarkness;
+    settings.category = CupsSupport::Continuous;
+    settings.cut = 4;
+    settings.feed = 0.0;
+    settings.back = 2;
+    settings.overlap = 12;
+    settings.*family.stopField() = 30.0 / millimetresPerInch;
+    settings.offsetH = 0;
+    settings.offsetV = 0;
+    return settings;
+}
+
+LabelSettings LabelSettings::read(const CupsSupport &cups)
+{
+    LabelSettings settings;
+    forEachSetting([&](auto member, auto get, auto, auto unit) {
+        const auto value = unit.toForm((cups.*get)(), cups);
+        if (isShowable(value))
+            settings.*member = value;
+    });
+    return settings;
+}
+
+void LabelSettings::write(CupsSupport &cups) const
+{
+    forEachSetting([&](auto member, auto, auto set, auto unit) {
+        if (const auto &value = this->*member)
+            (cups.*set)(unit.toOption(*value, cups));
+    });
+}

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef LABELSETTINGS_H
+#define LABELSETTINGS_H
+
+#include "cups/CupsSupport.h"
+
+#include <QString>
+
+#include <array>
+#include <optional>
+
+struct ModelFamily;
+
+/**
+ * The settings of a label printer in the units of the form, on their way between the printer's options and the fields.
+ *
+ * A value that is missing here is one that a field cannot show, or does not hold: write() leaves its option alone.
+ */
+struct LabelSettings
+{
+    using Length = std::optional<double> LabelSettings::*;
+    using Command = std::optional<QString> LabelSettings::*;
+
+    std::optional<CupsSupport::_CupsOrientation> orientation;
+    std::optional<bool> mirror;
+    std::optional<bool> inverse;
+    std::optional<int> speed;
+    std::optional<int> darkness;
+    std::optional<CupsSupport::_Category> category;
+    std::optional<double> gapSize; ///< Inches, as all lengths here.
+    std::optional<double> gapOffset;
+    std::optional<double> markSize;
+    std::optional<double> markOffset;
+    std::optional<int> cut; ///< 0, 2 or 4.
+    std::optional<double> feed;
+    std::optional<int> back; ///< Dots.
+    std::optional<int> overlap; ///< Dots.
+    std::optional<double> shift;
+    std::optional<double> stop;
+    std::optional<QString> jobStart;
+    std::optional<QString> labelStart;
+    std::optional<QString> labelEnd;
+    std::optional<QString> jobEnd;
+    std::optional<int> offsetH; ///< Dots.
+    std::optional<int> offsetV; ///< Dots.
+
+    /** The user commands in the order of the form. */
+    static constexpr std::array<Command, 4> commands{&LabelSettings::jobStart, &LabelSettings::labelStart,
+                                                     &LabelSettings::labelEnd, &LabelSettings::jobEnd};
+
+    /** What a dialog shows that has no printer. */
+    static LabelSettings withoutPrinter(const ModelFamily &family);
+
+    /** The settings of the current printer. */
+    static LabelSettings read(const CupsSupport &cups);
+
+    /** Stores what is here as options of the current printer, in memory. */
+    void write(CupsSupport &cups) const;
+};
+
+#endif

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTPROPERTIESDIALOGPRIVATE_H
+#define PRINTPROPERTIESDIALOGPRIVATE_H
+
+#include "presets/Presets.h"
+#include "properties/LabelSettings.h"
+#include "properties/PrintPropertiesDialog.h"
+#include "ui_PrintPropertiesDialog.h"
+
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <optional>
+
+class Preset;
+class Preview;
+struct ModelFamily;
+
+/** What the dialog consists of, kept from hosts so that their binaries outlive the next member. */
+struct PrintPropertiesDialog::Private
+{
+    Private(PrintPropertiesDialog *dialog, QPrinter *printer_, CupsSupport *cups_);
+
+    void createPresets();
+    void createValidators();
+    void fillLists();
+    void hideUnusedRows();
+
+    void makeRoom();
+    void widenFields();
+    void describeFields();
+    void retranslate();
+    void showOwnTexts();
+    void showStopLabel();
+    void showGapLabels(int mediaType);
+
+    void showPageSize();
+    void showFamily();
+    void show(const LabelSettings &settings);
+    LabelSettings shown() const;
+    void showOrientation(int code);
+    void showGapFields(int mediaType);
+    void showMediaRows(int mediaType);
+    void previewChanged(bool isChange);
+
+    QString commandText() const;
+    void showCommand();
+    void selectCommand(bool isSelected, std::size_t slot);
+
+    QSizeF userPageSize() const;
+    void applyPageSize(const QSizeF &size);
+    void savePresets(const QSizeF &size, const QStringList &defaults);
+    void saveCurrentSettings(const QSizeF &size, const QStringList &defaults);
+    Preset *selectedPreset() const;
+
+    PrintPropertiesDialog *const q;
+    QPrinter *printer;
+    CupsSupport *cups;
+    const ModelFamily &family;
+    const bool forceCustomStock; // the host is set up so that the user page size always applies
+    Ui_PrintPropertiesDialog ui;
+    Presets presets;
+    Preview *preview = nullptr; // goes with the frame that it is in
+    bool updatingPresets = false;
+    bool changed = true;
+    std::array<QString, LabelSettings::commands.size()> commands;
+    std::size_t commandSlot = commands.size() - 1; // of the command that the edit shows
+    std::optional<int> fittedMediaType; // the one whose rows the dialog's size was last fitted to
+};
+
+#endif
