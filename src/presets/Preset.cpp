@@ -6,9 +6,9 @@
 #include "presets/PresetScript.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QMessageBox>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -24,17 +24,71 @@ const QStringList &optionNamesFor(const QString &printer)
     return PresetScript::optionNames();
 }
 
+// The value of a keyword, which is the default where the options do not set it.
+QString valueOf(const QString &keyword, const QStringList &options, const QStringList &defaults)
+{
+    const auto index = PresetScript::valueIndex(options, keyword);
+    return index >= 0 ? options.at(index) : defaults.value(PresetScript::valueIndex(defaults, keyword));
+}
+
+QString valueInScript(const QString &keyword, const QByteArray &script, const QStringList &defaults)
+{
+    QString value = valueOf(keyword, {}, defaults);
+    PresetScript::parseOption(script, keyword, value);
+    return value;
+}
+
+// Scripts spell flags in one way. The readers of values take both forms of a stored line break.
+bool isSameValue(QString one, QString other)
+{
+    for (QString *value : {&one, &other})
+        value->replace(QLatin1String("\\\\r"), QLatin1String("\\r"));
+    return one.compare(other, Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
+
+struct PROPERTIESDIALOG_NO_EXPORT Preset::Private
+{
+    struct Unparsed
+    {
+        QByteArray script;
+        QStringList optionNames; // as they were when the script was read
+    };
+
+    Private(const QString &printer, const QString &file, const QString &name_, const QString &description_, int index_)
+        : printerName(printer)
+        , fileName(file)
+        , name(name_)
+        , description(description_)
+        , index(index_)
+        , state(file.isEmpty() ? Clean : NotLoaded)
+        , optionNames(optionNamesFor(printer))
+    {
+    }
+
+    bool load();
+    void loadIfNeeded();
+    void parseOptions();
+    PresetScript::Content content(const QString &file, const QStringList &values) const;
+    bool create(const QStringList &defaults);
+
+    const QString printerName;
+    QString fileName;
+    QStringList options;
+    Unparsed unparsed; // the script whose options are not among the options yet
+    QString name;
+    QString description;
+    int index;
+    _State state;
+    bool isNew = false;
+    const QStringList &optionNames; // the list that all presets share
+    QSizeF userPageSize{-1.0, -1.0};
+};
 
 Preset::Preset(const QString &printer, const QString &file, const QStringList &options, const QString &name,
                const QString &description, int index)
-    : m_printerName(printer)
-    , m_fileName(file)
-    , m_name(name)
-    , m_description(description)
-    , m_index(index)
-    , m_state(file.isEmpty() ? Clean : NotLoaded)
-    , m_optionNames(optionNamesFor(printer))
+    : d(std::make_unique<Private>(printer, file, name, description, index))
 {
     if (!options.isEmpty())
         setOptions(options);
@@ -46,37 +100,48 @@ Preset::~Preset() = default;
 
 QString Preset::printerName() const
 {
-    return m_printerName;
+    return d->printerName;
 }
 
 QString Preset::fileName() const
 {
-    return m_fileName;
+    return d->fileName;
 }
 
 Preset::_State Preset::state() const
 {
-    return m_state;
+    return d->state;
 }
 
 void Preset::setState(_State state)
 {
-    m_state = state;
+    d->state = state;
 }
 
 void Preset::setUserPageSize(const QSizeF &size)
 {
-    m_userPageSize = size;
+    d->userPageSize = size;
+}
+
+void Preset::setNew()
+{
+    d->isNew = true;
+    d->state = Modified;
+}
+
+bool Preset::isNew() const
+{
+    return d->isNew;
 }
 
 QStringList Preset::getOptionNames() const
 {
-    return m_optionNames;
+    return d->optionNames;
 }
 
 QString Preset::pathName() const
 {
-    return pathName(m_printerName, m_fileName);
+    return pathName(d->printerName, d->fileName);
 }
 
 QString Preset::pathName(const QString &printer, const QString &file)
@@ -86,71 +151,71 @@ QString Preset::pathName(const QString &printer, const QString &file)
 
 QString Preset::ppdhack() const
 {
-    return PresetScript::ppdhack(m_userPageSize, m_printerName);
+    return PresetScript::ppdhack(d->userPageSize, d->printerName);
 }
 
 // ----- accessors that read the script first -----
 
 QString Preset::name()
 {
-    loadIfNeeded();
-    return m_name.isEmpty() ? m_fileName : m_name;
+    d->loadIfNeeded();
+    return d->name.isEmpty() ? d->fileName : d->name;
 }
 
 QString Preset::description()
 {
-    loadIfNeeded();
-    return m_description;
+    d->loadIfNeeded();
+    return d->description;
 }
 
 int Preset::index()
 {
-    loadIfNeeded();
-    return m_index;
+    d->loadIfNeeded();
+    return d->index;
 }
 
 QStringList Preset::options()
 {
-    loadIfNeeded();
-    parseOptions();
-    return m_options;
+    d->loadIfNeeded();
+    d->parseOptions();
+    return d->options;
 }
 
 QSizeF Preset::getUserPageSize()
 {
-    loadIfNeeded();
-    return m_userPageSize;
+    d->loadIfNeeded();
+    return d->userPageSize;
 }
 
 void Preset::setName(const QString &name)
 {
     // The file name is what an empty name shows already.
-    if (name == this->name() || name == m_name)
+    if (name == this->name() || name == d->name)
         return;
-    m_name = name;
-    m_state = Modified;
+    d->name = name;
+    d->state = Modified;
 }
 
 void Preset::setDescription(const QString &description)
 {
     if (description == this->description())
         return;
-    m_description = description;
-    m_state = Modified;
+    d->description = description;
+    d->state = Modified;
 }
 
 void Preset::setIndex(int index)
 {
     if (index == this->index())
         return;
-    m_index = index;
-    m_state = Modified;
+    d->index = index;
+    d->state = Modified;
 }
 
-void Preset::loadIfNeeded()
+void Preset::Private::loadIfNeeded()
 {
     // Where this fails, the state stays and the next request tries again.
-    if (m_state == NotLoaded)
+    if (state == NotLoaded)
         load();
 }
 
@@ -158,95 +223,147 @@ void Preset::loadIfNeeded()
 
 bool Preset::setOptions(const QStringList &list)
 {
-    loadIfNeeded();
-    parseOptions();
+    d->loadIfNeeded();
+    d->parseOptions();
     bool changed = false;
-    for (const QString &keyword : m_optionNames) {
+    for (const QString &keyword : d->optionNames) {
         const auto given = PresetScript::valueIndex(list, keyword);
         if (given < 0)
             continue;
-        const auto present = PresetScript::valueIndex(m_options, keyword);
-        if (present >= 0 && m_options.at(present) == list.at(given))
+        const auto present = PresetScript::valueIndex(d->options, keyword);
+        if (present >= 0 && d->options.at(present) == list.at(given))
             continue;
         if (present >= 0)
-            m_options[present] = list.at(given);
+            d->options[present] = list.at(given);
         else
-            m_options << keyword << list.at(given);
+            d->options << keyword << list.at(given);
         changed = true;
     }
     if (changed)
-        m_state = Modified;
+        d->state = Modified;
     return changed;
 }
 
 bool Preset::clearOptions()
 {
-    parseOptions();
-    const bool known = m_state == Clean || m_state == Modified;
-    if (m_state == Deleted || (known && m_options.isEmpty()))
+    d->parseOptions();
+    const bool known = d->state == Clean || d->state == Modified;
+    if (d->state == Deleted || (known && d->options.isEmpty()))
         return false;
-    m_options.clear();
-    m_state = Modified;
+    d->options.clear();
+    d->state = Modified;
     return true;
+}
+
+QStringList Preset::valuesNotHeld(const QStringList &options, const QStringList &defaults)
+{
+    const QStringList own = this->options();
+    if (d->fileName.isEmpty())
+        return {};
+    const QByteArray toWrite = PresetScript::text(d->content(d->fileName, own), defaults);
+    const QByteArray script = d->state == Modified ? toWrite : PresetScript::read(pathName()).value_or(toWrite);
+    const QByteArray ofPrinter = PresetScript::text(d->content(d->fileName, options), defaults);
+    QStringList keywords;
+    for (const QString &keyword : d->optionNames) {
+        const QString wanted = valueOf(keyword, options, defaults);
+        const QString held = valueInScript(keyword, script, defaults);
+        const bool isOfPrinter = isSameValue(valueOf(keyword, own, defaults), wanted)
+                                 || isSameValue(held, valueInScript(keyword, ofPrinter, defaults));
+        if (isOfPrinter && !isSameValue(held, wanted))
+            keywords << keyword;
+    }
+    return keywords;
 }
 
 // ----- the script -----
 
 bool Preset::load()
 {
-    const std::optional<QByteArray> data = PresetScript::read(pathName());
+    return d->load();
+}
+
+bool Preset::Private::load()
+{
+    const std::optional<QByteArray> data = PresetScript::read(pathName(printerName, fileName));
     if (!data)
         return false;
 
-    parseAttribute(*data, QStringLiteral("name"), m_name);
-    parseAttribute(*data, QStringLiteral("description"), m_description);
-    QString index;
+    PresetScript::parseText(*data, QStringLiteral("name"), name);
+    PresetScript::parseText(*data, QStringLiteral("description"), description);
+    QString number;
     bool isNumber = false;
-    parseAttribute(*data, QStringLiteral("index"), index);
-    m_index = index.toInt(&isNumber);
+    parseAttribute(*data, QStringLiteral("index"), number);
+    index = number.toInt(&isNumber);
     if (!isNumber)
-        m_index = -1;
+        index = -1;
 
-    m_options.clear();
-    m_unparsed = {*data, m_optionNames};
-    parsePpdhack(*data, m_userPageSize);
-    m_state = Clean;
+    options.clear();
+    unparsed = {*data, optionNames};
+    parsePpdhack(*data, userPageSize);
+    state = Clean;
     return true;
 }
 
 // A list of presets needs their names alone, and the options are by far the most to parse.
-void Preset::parseOptions()
+void Preset::Private::parseOptions()
 {
-    const Unparsed unparsed = std::exchange(m_unparsed, {});
-    for (const QString &keyword : unparsed.optionNames) {
+    const Unparsed script = std::exchange(unparsed, {});
+    for (const QString &keyword : script.optionNames) {
         QString value;
-        if (parseOption(unparsed.script, keyword, value))
-            m_options << keyword << value;
+        if (parseOption(script.script, keyword, value))
+            options << keyword << value;
     }
+}
+
+PresetScript::Content Preset::Private::content(const QString &file, const QStringList &values) const
+{
+    return {printerName, file, name.isEmpty() ? file : name, description, index, values, userPageSize};
 }
 
 bool Preset::save(const QStringList &defaults)
 {
-    if (m_state < Modified || m_fileName.isEmpty())
+    if (d->state < Modified || d->fileName.isEmpty())
         return true;
-    if (m_index >= 0) {
+    if (d->index >= 0) {
         QMessageBox::warning(nullptr, QCoreApplication::translate("Preset", "Warning"),
                              QCoreApplication::translate("Preset", "%1 cannot be modified.").arg(name()),
                              QMessageBox::Ok);
         load();
         return false;
     }
-    if (m_state == Deleted)
-        return PresetScript::remove(pathName());
-    if (m_state != Modified)
+    // A script in the place of one that was never written is somebody else's.
+    if (d->state == Deleted)
+        return !d->isNew && PresetScript::remove(pathName());
+    if (d->state != Modified)
         return false;
 
-    parseOptions();
-    const PresetScript::Content content{m_printerName, m_fileName, name(),        m_description,
-                                        m_index,       m_options,  m_userPageSize};
-    if (!PresetScript::write(pathName(), PresetScript::text(content, defaults)))
+    d->parseOptions();
+    if (d->isNew ? !d->create(defaults)
+                 : !PresetScript::write(pathName(), PresetScript::text(d->content(d->fileName, d->options), defaults)))
         return false;
-    m_state = Clean;
+    d->isNew = false;
+    d->state = Clean;
+    return true;
+}
+
+// Writes the script of a new preset under the first file name that is free.
+bool Preset::Private::create(const QStringList &defaults)
+{
+    auto stemSize = fileName.size();
+    while (stemSize > 0 && fileName.at(stemSize - 1).isDigit())
+        --stemSize;
+    int number = std::max(1, fileName.mid(stemSize).toInt());
+    QString file = fileName;
+    for (;;) {
+        const PresetFolder::Result result =
+            PresetScript::create(pathName(printerName, file), PresetScript::text(content(file, options), defaults));
+        if (result == PresetFolder::Failed)
+            return false;
+        if (result == PresetFolder::Done)
+            break;
+        file = fileName.left(stemSize) + QString::number(++number);
+    }
+    fileName = file;
     return true;
 }
 

@@ -11,6 +11,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 /**
  * A named set of option values for one printer, kept as an executable shell script.
  *
@@ -55,6 +57,12 @@ public:
      * Sets the user page size, in inches. Where width and height are above 0 the script carries it; keeps the state.
      */
     void setUserPageSize(const QSizeF &size);
+    /**
+     * Says that the script has yet to be created; the state becomes Modified. The next save() then replaces no script that
+     * another program has made in the meantime, but takes the next free file name: "Preset", "Preset2", "Preset3", ...
+     */
+    void setNew();
+    bool isNew() const; ///< Whether setNew() was called and no script has been written since.
     /** The keywords that presets carry, in the order of the script's items. */
     QStringList getOptionNames() const;
     /** The path of this preset's script; empty when printer or file name would lead out of $HOME/.cups. */
@@ -93,6 +101,15 @@ public:
      */
     bool clearOptions();
 
+    /**
+     * The keywords whose values the script of this preset cannot hold as a printer has them: it holds, or is about to be
+     * given, values of @p options that read back as something else, such as one with a blank or beyond ASCII.
+     *
+     * @param options the printer's values as an option list.
+     * @param defaults the printer's default values as an option list, as for save().
+     */
+    QStringList valuesNotHeld(const QStringList &options, const QStringList &defaults);
+
     /** Reads the script. @return false, without change, when it cannot be read. */
     bool load();
 
@@ -102,6 +119,8 @@ public:
      * A built-in preset is not written: the user is told so and the script is read again.
      *
      * @param defaults the printer's default values as an option list; values that equal them become removals.
+     * A link in the script's place is replaced, not followed. A link in the place of the printer's folder is a failure.
+     *
      * @return true when there was nothing to do or it was done; false when the preset is built in or its file could not
      *         be written or removed. A file that could not be written stays as it was, and the preset Modified.
      */
@@ -115,25 +134,9 @@ public:
     /** @} */
 
 private:
-    struct Unparsed
-    {
-        QByteArray script;
-        QStringList optionNames; // as they were when the script was read
-    };
+    struct Private;
 
-    void loadIfNeeded();
-    void parseOptions();
-
-    QString m_printerName;
-    QString m_fileName;
-    QStringList m_options;
-    Unparsed m_unparsed; // the script whose options are not in m_options yet
-    QString m_name;
-    QString m_description;
-    int m_index;
-    _State m_state;
-    const QStringList &m_optionNames; // the list that all presets share
-    QSizeF m_userPageSize{-1.0, -1.0};
+    const std::unique_ptr<Private> d;
 };
 
 #endif

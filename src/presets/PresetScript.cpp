@@ -5,10 +5,7 @@
 
 #include "presets/DriverCommand.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -22,6 +19,8 @@ namespace {
 // ----- the layout -----
 
 const QLatin1String interpreterLine("#!/bin/bash\n");
+const QLatin1String inertLines("#This does nothing: the name of the queue has characters that a shell would act upon.\n"
+                               "exit 1\n");
 const QLatin1String attributeLine("#%1=%2\n");
 const QLatin1String nameKey("name");
 const QLatin1String descriptionKey("description");
@@ -31,6 +30,10 @@ const QLatin1String setItem(" -o");
 const QLatin1String removeItem(" -r");
 constexpr int ppdhackDecimals = 2;
 constexpr signed char lastControlCharacter = 31;
+constexpr ushort lastAsciiCharacter = 0x7f;
+constexpr ushort lastLatin1Character = 0xff;
+const QLatin1String harmlessMarks("!%+,-./:=@^_"); // beside letters and digits, in what a shell is to take as it is
+const QByteArray unicodeMark("-utf8"); // behind the key of a line that holds a whole text
 
 const QStringList extendedOptionNames{
     QStringLiteral("Darkness"),
@@ -70,9 +73,6 @@ QStringList sharedOptionNames{
 
 // ----- places -----
 
-// Made when the library is loaded: what the host does to its environment later does not move the presets.
-const QString settingsRoot = QString::fromUtf8(qgetenv("HOME")) + QLatin1String("/.cups/");
-
 bool climbs(const QString &path)
 {
     // The first look is for speed: hardly any name has two dots in a row.
@@ -85,11 +85,50 @@ bool hasControlCharacter(const QString &text)
         text.cbegin(), text.cend(), [](QChar c) { return c < QLatin1Char(' ') || c == QLatin1Char(0x7f); });
 }
 
+QString folderOf(const QString &path)
+{
+    return path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+QString nameOf(const QString &path)
+{
+    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
 // ----- writing -----
 
 QString attribute(const QString &key, const QString &value)
 {
     return QString(attributeLine).arg(key, value);
+}
+
+bool isControlCharacter(QChar c)
+{
+    return c.unicode() <= lastControlCharacter;
+}
+
+// The line that holds a text whole where its attribute's line cannot, which ends at the first character beyond ASCII;
+// empty where it can. Readers look for their keys anywhere: what these begin with is encoded.
+QByteArray unicodeLine(const QString &key, const QString &text)
+{
+    const QString firstLine(
+        text.cbegin(),
+        static_cast<QString::size_type>(std::find_if(text.cbegin(), text.cend(), isControlCharacter) - text.cbegin()));
+    if (std::all_of(firstLine.cbegin(), firstLine.cend(), [](QChar c) { return c.unicode() <= lastAsciiCharacter; }))
+        return {};
+    QByteArray value = firstLine.toUtf8();
+    value.replace('%', "%25").replace('#', "%23").replace('-', "%2D");
+    return '#' + key.toLatin1() + unicodeMark + '=' + value + '\n';
+}
+
+// Whether a shell takes the name of a queue for that and nothing more.
+bool isPlain(const QString &queue)
+{
+    return std::all_of(
+        queue.cbegin(), queue.cend(),
+        [](QChar c) {
+            return c.isLetterOrNumber() ? c.unicode() <= lastLatin1Character : QString(harmlessMarks).contains(c);
+        });
 }
 
 // A value as the shell is to see it. Only blanks make for quotes; whatever else means something to a shell is written
@@ -111,7 +150,12 @@ QString optionItem(const QString &keyword, const QStringList &options, const QSt
     // Without a value of the preset's own the default is the value, which equals the default.
     if (standard >= 0 && (own < 0 || options.at(own) == defaults.at(standard)))
         return removeItem + keyword;
-    return own < 0 ? QString() : setItem + keyword + QLatin1Char('=') + shellWord(options.at(own));
+    if (own < 0)
+        return {};
+    // lpoptions stores an empty value in a form that reads back as "true".
+    if (options.at(own).trimmed().isEmpty())
+        return removeItem + keyword;
+    return setItem + keyword + QLatin1Char('=') + shellWord(options.at(own));
 }
 
 // ----- reading -----
@@ -134,6 +178,16 @@ QString valueAt(const QByteArray &data, QByteArray::size_type position, signed c
     return QString::fromLatin1(begin, static_cast<QString::size_type>(end - begin));
 }
 
+// What stands behind an attribute's key, whatever can be read of it.
+QByteArray attributeBytes(const QByteArray &data, const QString &key)
+{
+    const QByteArray start = '#' + key.toLatin1() + '=';
+    const auto begin = data.cbegin() + positionOf(start, data) + start.size();
+    const auto end =
+        std::find_if(begin, data.cend(), [](char c) { return static_cast<unsigned char>(c) <= lastControlCharacter; });
+    return QByteArray(begin, static_cast<QByteArray::size_type>(end - begin));
+}
+
 // The two Qt versions differ in whether they convert what follows a NUL.
 QString fromLatin1UpToNul(const QByteArray &data)
 {
@@ -147,7 +201,7 @@ QString PresetScript::folder(const QString &printer)
 {
     if (printer.startsWith(QLatin1Char('/')) || climbs(printer) || hasControlCharacter(printer))
         return {};
-    return settingsRoot + printer;
+    return PresetFolder::root() + printer;
 }
 
 QString PresetScript::pathName(const QString &printer, const QString &file)
@@ -187,6 +241,8 @@ QString PresetScript::ppdhack(const QSizeF &size, const QString &printer)
 QByteArray PresetScript::text(const Content &content, const QStringList &defaults)
 {
     QString script = interpreterLine;
+    if (!isPlain(content.printerName))
+        script += inertLines;
     if (content.name != content.fileName)
         script += attribute(nameKey, content.name);
     if (!content.description.isEmpty())
@@ -201,35 +257,37 @@ QByteArray PresetScript::text(const Content &content, const QStringList &default
 
     if (content.userPageSize.width() > 0 && content.userPageSize.height() > 0)
         script += ppdhack(content.userPageSize, content.printerName);
-    return script.toLatin1();
+    QByteArray bytes = script.toLatin1();
+    if (content.name != content.fileName)
+        bytes += unicodeLine(nameKey, content.name);
+    return bytes + unicodeLine(descriptionKey, content.description);
 }
 
 bool PresetScript::write(const QString &path, const QByteArray &script)
 {
-    // A device, a pipe or a folder in the script's place is not for us to replace.
-    const QFileInfo earlier(path);
-    if (path.isEmpty() || (earlier.exists() && !earlier.isFile()))
-        return false;
-    // Should this fail, so does opening the file.
-    QDir().mkpath(path.left(path.lastIndexOf(QLatin1Char('/'))));
+    return PresetFolder(folderOf(path), PresetFolder::MakeIt).replace(nameOf(path), script);
+}
 
-    QSaveFile file(path); // takes over the earlier file's permissions, and follows a link to it
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.setPermissions(file.permissions() | QFile::ExeUser | QFile::ExeGroup | QFile::ExeOther);
-    // commit() alone would notice neither what could not be flushed nor what the disk then had no room for.
-    return file.write(script) == script.size() && file.flush() && fsync(file.handle()) == 0 && file.commit();
+PresetFolder::Result PresetScript::create(const QString &path, const QByteArray &script)
+{
+    return PresetFolder(folderOf(path), PresetFolder::MakeIt).create(nameOf(path), script);
 }
 
 bool PresetScript::remove(const QString &path)
 {
-    return !path.isEmpty() && QFile::remove(path);
+    return PresetFolder(folderOf(path), PresetFolder::LeaveIt).remove(nameOf(path));
+}
+
+bool PresetScript::exists(const QString &path)
+{
+    struct stat status = {};
+    return lstat(PresetFolder::localPath(path).constData(), &status) == 0;
 }
 
 std::optional<QByteArray> PresetScript::read(const QString &path)
 {
     // Opened first and looked at then: nothing can be put in its place in between. O_NONBLOCK is for pipes.
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    const int fd = ::open(PresetFolder::localPath(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (fd < 0)
         return std::nullopt;
     QFile file;
@@ -251,6 +309,24 @@ bool PresetScript::parseAttribute(const QByteArray &data, const QString &key, QS
     if (found < 0)
         return false;
     value = valueAt(data, found + start.size(), lastControlCharacter);
+    return true;
+}
+
+bool PresetScript::parseText(const QByteArray &data, const QString &key, QString &value)
+{
+    if (!parseAttribute(data, key, value))
+        return false;
+    const QByteArray start = '\n' + ('#' + key.toLatin1() + unicodeMark + '=');
+    const auto found = data.lastIndexOf(start); // what else may begin so stands above
+    if (found < 0)
+        return true;
+    const auto begin = found + start.size();
+    const auto end = data.indexOf('\n', begin);
+    const QString whole =
+        QString::fromUtf8(QByteArray::fromPercentEncoding(data.mid(begin, end < 0 ? -1 : end - begin)));
+    // Somebody who knows nothing of this line has changed the other one since: that is the newer one.
+    if (attributeBytes(data, key) == whole.toLatin1())
+        value = whole;
     return true;
 }
 

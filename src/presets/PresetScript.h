@@ -4,6 +4,8 @@
 #ifndef PRESETSCRIPT_H
 #define PRESETSCRIPT_H
 
+#include "presets/PresetFolder.h"
+
 #include <QByteArray>
 #include <QSizeF>
 #include <QString>
@@ -23,6 +25,15 @@
  *     #index=INDEX                                0 or more, in built-in presets only
  *     lpoptions -pPRINTER -oKEYWORD=VALUE -rKEYWORD ...
  *     ppdhack WIDTH HEIGHT PRINTER                when there is a user page size
+ *     #name-utf8=NAME                             when the name is not plain ASCII
+ *     #description-utf8=DESCRIPTION               when the description is not: its first line
+ *
+ * All but the last two is Latin-1 and is read up to the first character beyond ASCII, as other readers do. The last two
+ * hold the whole text in UTF-8, with "%", "#" and "-" as "%25", "%23" and "%2D". Each counts only while the line above
+ * that it belongs to is the one that was written with it.
+ *
+ * Where a shell would act upon characters in the name of the queue, "exit 1" stands before everything else: running the
+ * script does nothing, reading it works as usual.
  */
 namespace PresetScript {
 
@@ -79,14 +90,20 @@ QStringList::size_type valueIndex(const QStringList &options, const QString &key
 /** The line that hands the user page size to the driver, with its line end. */
 QString ppdhack(const QSizeF &size, const QString &printer);
 
-/** The script's text; values that equal those of @p defaults, an option list, become removals. */
+/** The script's text; values that equal those of @p defaults, an option list, become removals, as do empty ones. */
 QByteArray text(const Content &content, const QStringList &defaults);
 
-/** Puts @p script into the file @p path, as a whole or, returning false, not at all, and makes it executable. */
+/** Puts @p script into the place of the file or link @p path; see PresetFolder::replace(). */
 bool write(const QString &path, const QByteArray &script);
 
-/** Removes the file @p path. @return false when it did not exist, too. */
+/** The same where nothing is at @p path; see PresetFolder::create(). */
+PresetFolder::Result create(const QString &path, const QByteArray &script);
+
+/** Removes the file or link @p path. @return false when it did not exist, too. */
 bool remove(const QString &path);
+
+/** Whether there is anything at @p path, if only a link to nothing. */
+bool exists(const QString &path);
 
 /** @} */
 /** @name Reading; the parsers return whether they found it and leave the output alone if not */
@@ -96,6 +113,8 @@ bool remove(const QString &path);
 std::optional<QByteArray> read(const QString &path);
 
 bool parseAttribute(const QByteArray &data, const QString &key, QString &value);
+/** An attribute that may be in any language: its own line, or the whole text that stands behind it. */
+bool parseText(const QByteArray &data, const QString &key, QString &value);
 bool parseOption(const QByteArray &data, const QString &keyword, QString &value);
 bool parsePpdhack(const QByteArray &data, QSizeF &size);
 

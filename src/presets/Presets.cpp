@@ -7,17 +7,17 @@
 #include "presets/PresetScript.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QMessageBox>
 
 #include <algorithm>
-#include <cstdio>
 #include <map>
 
 namespace {
 
 const QLatin1Char hiddenMark('_');
+const QLatin1Char hiddenFileMark('.');
+const QString linkName = QStringLiteral("currentPreset");
 
 // Removes the suffix wherever it occurs: "a.sh.sh" is listed as "a".
 QString withoutSuffix(QString entry)
@@ -25,22 +25,22 @@ QString withoutSuffix(QString entry)
     return entry.remove(PresetScript::suffix);
 }
 
-// Puts a symbolic link in the place of whatever link or file stands there. There is always one link or the other, even
-// if the process ends here.
-void replaceLink(const QString &target, const QString &path)
-{
-    const QString temporary = path + QLatin1Char('.') + QString::number(QCoreApplication::applicationPid());
-    QFile::remove(temporary);
-    if (QFile::link(target, temporary)
-        && std::rename(QFile::encodeName(temporary).constData(), QFile::encodeName(path).constData()) != 0)
-        QFile::remove(temporary);
-}
-
 } // namespace
 
-Presets::Presets(const QString &printer)
-    : m_printerName(printer)
+struct PROPERTIESDIALOG_NO_EXPORT Presets::Private
 {
+    Preset *firstRemaining() const;
+    void drop(Preset *preset);
+
+    QString printerName;
+    QList<Preset *> presets;
+    Preset *currentPreset = nullptr;
+};
+
+Presets::Presets(const QString &printer)
+    : d(std::make_unique<Private>())
+{
+    d->printerName = printer;
     load();
 }
 
@@ -52,25 +52,24 @@ Presets::~Presets()
 bool Presets::load()
 {
     clearPresets();
-    const QString folder = PresetScript::folder(m_printerName);
+    const QString folder = PresetScript::folder(d->printerName);
     if (folder.isEmpty())
         return true;
 
-    const QStringList entries = QDir(folder).entryList({QLatin1String("*") + PresetScript::suffix},
-                                                       QDir::Files | QDir::CaseSensitive, QDir::Name);
+    const QStringList entries = PresetFolder::files(folder, PresetScript::suffix);
     for (const QString &entry : entries)
-        if (!entry.startsWith(hiddenMark))
-            addPreset(new Preset(m_printerName, withoutSuffix(entry), {}, QString(), QString(), -1));
+        if (!entry.startsWith(hiddenMark) && !entry.startsWith(hiddenFileMark))
+            addPreset(new Preset(d->printerName, withoutSuffix(entry), {}, QString(), QString(), -1));
 
-    const QString target = QFile::symLinkTarget(linkPathName());
+    const QString target = QFile::decodeName(PresetFolder::linkTarget(linkPathName()));
     if (!target.isEmpty())
-        m_currentPreset = findPresetByFileName(withoutSuffix(target.mid(target.lastIndexOf(QLatin1Char('/')) + 1)));
+        d->currentPreset = findPresetByFileName(withoutSuffix(target.mid(target.lastIndexOf(QLatin1Char('/')) + 1)));
     return true;
 }
 
 bool Presets::save(const QStringList &defaults)
 {
-    const QList<Preset *> snapshot = m_presets;
+    const QList<Preset *> snapshot = d->presets;
     for (Preset *preset : snapshot) {
         const bool isDeleted = preset->state() == Preset::Deleted;
         if (!isDeleted && preset->state() != Preset::Modified)
@@ -79,20 +78,31 @@ bool Presets::save(const QStringList &defaults)
         if (!preset->save(defaults))
             return false;
         if (isDeleted)
-            drop(preset);
+            d->drop(preset);
     }
 
-    const QString link = linkPathName();
-    if (m_currentPreset && !link.isEmpty() && QFile::symLinkTarget(link) != m_currentPreset->pathName())
-        replaceLink(m_currentPreset->pathName(), link);
+    if (!d->currentPreset)
+        return true;
+    // A help for the next run, no part of what is saved: where it cannot be made, nothing is lost.
+    const QByteArray target = PresetFolder::localPath(d->currentPreset->pathName());
+    if (PresetFolder::linkTarget(linkPathName()) != target)
+        PresetFolder(PresetScript::folder(d->printerName), PresetFolder::LeaveIt).link(linkName, target);
     return true;
 }
 
-void Presets::drop(Preset *preset)
+void Presets::dropMissing()
 {
-    m_presets.removeOne(preset);
-    if (m_currentPreset == preset)
-        m_currentPreset = firstRemaining();
+    const QList<Preset *> snapshot = d->presets;
+    for (Preset *preset : snapshot)
+        if (preset->state() == Preset::Deleted && (preset->isNew() || !PresetScript::exists(preset->pathName())))
+            d->drop(preset);
+}
+
+void Presets::Private::drop(Preset *preset)
+{
+    presets.removeOne(preset);
+    if (currentPreset == preset)
+        currentPreset = firstRemaining();
     delete preset;
 }
 
@@ -100,9 +110,9 @@ Preset *Presets::addPreset(Preset *preset)
 {
     if (!preset)
         return nullptr;
-    m_presets.append(preset);
-    if (!m_currentPreset)
-        m_currentPreset = preset;
+    d->presets.append(preset);
+    if (!d->currentPreset)
+        d->currentPreset = preset;
     return preset;
 }
 
@@ -120,65 +130,79 @@ Preset *Presets::deletePreset(Preset *preset)
         return preset;
     preset->setState(Preset::Deleted);
     // The only preset stays current until it is gone.
-    Preset *remaining = firstRemaining();
-    if (m_currentPreset == preset && remaining)
-        m_currentPreset = remaining;
+    Preset *remaining = d->firstRemaining();
+    if (d->currentPreset == preset && remaining)
+        d->currentPreset = remaining;
     return preset;
 }
 
-Preset *Presets::firstRemaining() const
+Preset *Presets::Private::firstRemaining() const
 {
-    const auto found = std::find_if(m_presets.cbegin(), m_presets.cend(),
+    const auto found = std::find_if(presets.cbegin(), presets.cend(),
                                     [](const Preset *preset) { return preset->state() != Preset::Deleted; });
-    return found == m_presets.cend() ? nullptr : *found;
+    return found == presets.cend() ? nullptr : *found;
 }
 
 Preset *Presets::findPreset(const QString &text) const
 {
     if (text.isEmpty())
         return nullptr;
-    const auto found = std::find_if(m_presets.cbegin(), m_presets.cend(), [&text](Preset *preset) {
+    const auto found = std::find_if(d->presets.cbegin(), d->presets.cend(), [&text](Preset *preset) {
         return preset->name() == text || preset->fileName() == text;
     });
-    return found == m_presets.cend() ? nullptr : *found;
+    return found == d->presets.cend() ? nullptr : *found;
 }
 
 Preset *Presets::findPresetByFileName(const QString &file) const
 {
     if (file.isEmpty())
         return nullptr;
-    const auto found = std::find_if(m_presets.cbegin(), m_presets.cend(),
+    const auto found = std::find_if(d->presets.cbegin(), d->presets.cend(),
                                     [&file](const Preset *preset) { return preset->fileName() == file; });
-    return found == m_presets.cend() ? nullptr : *found;
+    return found == d->presets.cend() ? nullptr : *found;
+}
+
+bool Presets::isFileNameTaken(const QString &file) const
+{
+    return findPresetByFileName(file) || PresetScript::exists(PresetScript::pathName(d->printerName, file));
+}
+
+QList<Preset *> Presets::listedPresets() const
+{
+    QList<Preset *> list;
+    std::map<int, QList<Preset *>> builtIn; // by index
+    for (Preset *preset : d->presets) {
+        if (preset->state() == Preset::Deleted)
+            continue;
+        const int index = preset->index();
+        (index < 0 ? list : builtIn[index]).append(preset);
+    }
+    // Each goes to the position of its index; those that share one follow each other; past the end they are appended.
+    for (const auto &[index, group] : builtIn) {
+        qint64 position = index;
+        for (Preset *preset : group)
+            list.insert(static_cast<QList<Preset *>::size_type>(std::min<qint64>(position++, list.size())), preset);
+    }
+    return list;
 }
 
 QStringList Presets::getPresetNames() const
 {
     QStringList names;
-    std::map<int, QStringList> builtIn; // by index
-    for (Preset *preset : m_presets) {
-        if (preset->state() == Preset::Deleted)
-            continue;
-        const int index = preset->index();
-        (index < 0 ? names : builtIn[index]).append(preset->name());
-    }
-    // Each goes to the position of its index; those that share one follow each other; past the end they are appended.
-    for (const auto &[index, group] : builtIn) {
-        qint64 position = index;
-        for (const QString &name : group)
-            names.insert(static_cast<QStringList::size_type>(std::min<qint64>(position++, names.size())), name);
-    }
+    const QList<Preset *> list = listedPresets();
+    for (Preset *preset : list)
+        names << preset->name();
     return names;
 }
 
 Preset *Presets::currentPreset() const
 {
-    return m_currentPreset;
+    return d->currentPreset;
 }
 
 void Presets::setCurrentPreset(Preset *preset)
 {
-    m_currentPreset = preset;
+    d->currentPreset = preset;
 }
 
 QString Presets::currentFileName() const
@@ -188,13 +212,13 @@ QString Presets::currentFileName() const
 
 QString Presets::linkPathName() const
 {
-    const QString folder = PresetScript::folder(m_printerName);
-    return folder.isEmpty() ? QString() : folder + QLatin1String("/currentPreset");
+    const QString folder = PresetScript::folder(d->printerName);
+    return folder.isEmpty() ? QString() : folder + QLatin1Char('/') + linkName;
 }
 
 void Presets::clearPresets()
 {
-    m_currentPreset = nullptr;
-    qDeleteAll(m_presets);
-    m_presets.clear();
+    d->currentPreset = nullptr;
+    qDeleteAll(d->presets);
+    d->presets.clear();
 }

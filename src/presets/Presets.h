@@ -10,6 +10,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 class Preset;
 
 /**
@@ -59,6 +61,18 @@ public:
     /** The first preset whose file name is @p file; null when there is none. Owned here. */
     Preset *findPresetByFileName(const QString &file) const;
 
+    /** Whether a preset in memory has the file name @p file, or there is anything in the place of its script. */
+    bool isFileNameTaken(const QString &file) const;
+
+    /**
+     * Drops the presets that are marked for removal and have no script: one that was never written, or that another
+     * program has removed. save() would fail at them. Pointers to them become invalid.
+     */
+    void dropMissing();
+
+    /** The presets that getPresetNames() names, in its order. Owned here. */
+    QList<Preset *> listedPresets() const;
+
     /** The names to show: built-in presets at the positions of their indexes, then the user's, by file name. */
     QStringList getPresetNames() const;
 
@@ -77,12 +91,9 @@ public:
     void clearPresets();
 
 private:
-    Preset *firstRemaining() const;
-    void drop(Preset *preset);
+    struct Private;
 
-    QString m_printerName;
-    QList<Preset *> m_presets;
-    Preset *m_currentPreset = nullptr;
+    const std::unique_ptr<Private> d;
 };
 
 #endif

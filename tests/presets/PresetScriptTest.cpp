@@ -94,15 +94,28 @@ private Q_SLOTS:
     void pageSizeLine_data();
     void pageSizeLine();
     void wholeScript();
-    void latin1_data();
-    void latin1();
+    void beyondAscii_data();
+    void beyondAscii();
+    void needsNoWholeLine();
+    void parseText_data();
+    void parseText();
+    void queueForShells_data();
+    void queueForShells();
 
     void writeMakesFoldersAndIsExecutable();
     void writeKeepsPermissions();
-    void writeFollowsLink();
-    void writeFollowsDanglingLink();
+    void writeReplacesLink_data();
+    void writeReplacesLink();
     void writeRefused_data();
     void writeRefused();
+    void linkedFolder_data();
+    void linkedFolder();
+    void linkedRoot();
+    void createTakesNoName_data();
+    void createTakesNoName();
+    void create();
+    void writeBesideLeftovers();
+    void ownersOfUsers();
     void writeIntoReadOnlyFolder();
     void writeOverReadOnlyFile();
     void writeOnFullDisk();
@@ -331,9 +344,11 @@ void PresetScriptTest::optionItem_data()
     row("fALSE", {"Direct", "fALSE"}, {}, " -oDirect=False");
     row("flag is the default", {"Direct", "False"}, {"Direct", "False"}, " -rDirect");
     row("not quite true", {"Direct", "trues"}, {}, " -oDirect=trues");
-    row("empty", {"JobStart", ""}, {}, " -oJobStart=");
-    row("null", {"JobStart", QString()}, {}, " -oJobStart=");
-    row("empty with a default", {"JobStart", ""}, {"JobStart", "None"}, " -oJobStart=");
+    // lpoptions would make "true" of an empty value.
+    row("empty", {"JobStart", ""}, {}, " -rJobStart");
+    row("null", {"JobStart", QString()}, {}, " -rJobStart");
+    row("blanks", {"JobStart", " \t "}, {}, " -rJobStart");
+    row("empty with a default", {"JobStart", ""}, {"JobStart", "None"}, " -rJobStart");
     row("null is the empty default", {"JobStart", QString()}, {"JobStart", ""}, " -rJobStart");
     row("backslash", {"JobStart", "C:\\dir"}, {}, " -oJobStart=C:\\\\dir");
     row("stored line break", {"JobStart", "^XA\\\\r"}, {}, " -oJobStart=^XA\\\\\\\\r");
@@ -404,24 +419,151 @@ void PresetScriptTest::wholeScript()
                         "ppdhack 4.00 2.25 LP1/draft\n"));
 }
 
-void PresetScriptTest::latin1_data()
+void PresetScriptTest::beyondAscii_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("within") << QString::fromUtf8("Größe")
-                            << QByteArray("Gr\xf6\xdf"
-                                          "e");
-    QTest::newRow("last") << QString(QChar(0xff)) << QByteArray("\xff");
-    QTest::newRow("beyond") << QString::fromUtf8("5 €") << QByteArray("5 ?");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("fixed");
+    QTest::addColumn<QByteArray>("whole");
+    const auto row = [](const char *name, const char *text, const QByteArray &fixed, const char *whole) {
+        QTest::newRow(name) << QString::fromUtf8(text) << fixed << QByteArray(whole);
+    };
+    row("Latin-1", "Größe",
+        "Gr\xf6\xdf"
+        "e",
+        "Größe");
+    row("first", "Étiquettes",
+        "\xc9"
+        "tiquettes",
+        "Étiquettes");
+    row("last of Latin-1", "ÿ", "\xff", "ÿ");
+    row("euro", "5 €", "5 ?", "5 €");
+    row("Japanese", "連続紙", "???", "連続紙");
+    row("beyond the basic plane", "🏷", "??", "🏷");
+    // Nothing of it may look like another line's key.
+    row("keys", "é#index=1 -oStop=2 #name=x", "\xe9#index=1 -oStop=2 #name=x", "é%23index=1 %2DoStop=2 %23name=x");
+    row("percent sign", "é%25%", "\xe9%25%", "é%2525%25");
+    // What the fixed line is read up to ends this one.
+    row("lines", "é1\né2",
+        "\xe9"
+        "1\n\xe9"
+        "2",
+        "é1");
+    row("tabulator", "é1\té2",
+        "\xe9"
+        "1\t\xe9"
+        "2",
+        "é1");
 }
 
-void PresetScriptTest::latin1()
+void PresetScriptTest::beyondAscii()
 {
-    QFETCH(QString, name);
-    QFETCH(QByteArray, bytes);
+    QFETCH(QString, text);
+    QFETCH(QByteArray, fixed);
+    QFETCH(QByteArray, whole);
     PresetScript::Content preset = content();
-    preset.name = name;
-    QCOMPARE(PresetScript::text(preset, {}), head + ("#name=" + bytes + "\nlpoptions -pLP1\n"));
+    preset.name = text;
+    QCOMPARE(PresetScript::text(preset, {}),
+             head + ("#name=" + fixed + "\nlpoptions -pLP1\n#name-utf8=" + whole + '\n'));
+    preset.name = preset.fileName;
+    preset.description = text;
+    preset.userPageSize = QSizeF(1, 2);
+    const QByteArray script = PresetScript::text(preset, {});
+    QCOMPARE(script, head
+                         + ("#description=" + fixed
+                            + "\nlpoptions -pLP1\nppdhack 1.00 2.00 LP1\n#description-utf8=" + whole + '\n'));
+
+    QString read;
+    QVERIFY(PresetScript::parseText(script, "description", read));
+    QCOMPARE(read, text.section(QRegularExpression("[\n\t]"), 0, 0));
+    // Who knows the fixed line alone finds there what was always there.
+    QVERIFY(PresetScript::parseAttribute(script, "description", read));
+    QCOMPARE(read, QString::fromLatin1(fixed).section(QRegularExpression("[^ -~]"), 0, 0));
+}
+
+void PresetScriptTest::needsNoWholeLine()
+{
+    PresetScript::Content preset = content();
+    preset.name = "plain\x7f~";
+    preset.description = QString::fromUtf8("plain\nbehind é");
+    QCOMPARE(PresetScript::text(preset, {}),
+             QByteArray("#!/bin/bash\n#name=plain\x7f~\n#description=plain\nbehind \xe9\n"
+                        "lpoptions -pLP1\n"));
+    // The name is the file's, which needs no line at all.
+    preset = content();
+    preset.name = preset.fileName = QString::fromUtf8("Größe");
+    QCOMPARE(PresetScript::text(preset, {}), QByteArray("#!/bin/bash\nlpoptions -pLP1\n"));
+}
+
+void PresetScriptTest::parseText_data()
+{
+    QTest::addColumn<QByteArray>("data");
+    QTest::addColumn<bool>("found");
+    QTest::addColumn<QString>("value");
+    const auto row = [](const char *name, const QByteArray &data, const char *value) {
+        QTest::newRow(name) << data << (value != nullptr) << QString::fromUtf8(value ? value : "untouched");
+    };
+    row("no whole line",
+        "#name=Gr\xf6\xdf"
+        "e\n",
+        "Gr");
+    row("whole line", "#name=Gr\xf6n\nlpoptions -pLP1\n#name-utf8=Grün\n", "Gr"); // ö is not ü
+    row("written with it", "#name=Gr\xfcn\nlpoptions -pLP1\n#name-utf8=Grün\n", "Grün");
+    row("end of data", "#name=Gr\xfcn\n#name-utf8=Grün", "Grün");
+    row("encoded", "#name=\xfc-%#\n#name-utf8=ü%2D%25%23\n", "ü-%#");
+    // Somebody who edits the script by hand changes the line that he knows.
+    row("edited by hand", "#name=Blau\n#name-utf8=Grün\n", "Blau");
+    row("edited by hand in part", "#name=Gr\xfcn 2\n#name-utf8=Grün\n", "Gr");
+    row("emptied by hand", "#name=\n#name-utf8=Grün\n", "");
+    row("removed by hand", "#!/bin/bash\n#name-utf8=Grün\n", nullptr);
+    row("last of two", "#name=Gr\xfcn\n#name-utf8=Blau\n#name-utf8=Grün\n", "Grün");
+    row("not at a line's start", "#name=Gr\xfcn\n #name-utf8=Grün\n", "Gr");
+    row("of another key", "#name=Gr\xfcn\n#description-utf8=Grün\n", "Gr");
+    row("not UTF-8", "#name=?\n#name-utf8=\xfc\n", "\uFFFD");
+    row("a hidden line break", "#name=a?\n#name-utf8=a€%0Aid\n", "a?");
+    row("no data", "", nullptr);
+}
+
+void PresetScriptTest::parseText()
+{
+    QFETCH(QByteArray, data);
+    QString value = "untouched";
+    QTEST(PresetScript::parseText(data, "name", value), "found");
+    QTEST(value, "value");
+}
+
+void PresetScriptTest::queueForShells_data()
+{
+    QTest::addColumn<QString>("printer");
+    QTest::addColumn<bool>("isPlain");
+    for (const char *name : {"LP1", "LP1/draft", "Label_2-b.x@host:9100", "100%", "a,b+c=d!^", "Drücker"})
+        QTest::newRow(name) << QString::fromUtf8(name) << true;
+    for (const char *name : {"q&x;y$z", "$(id)", "`id`", "a|b",   "a<b",   "a>b", "a(b)", "a'b",  "a\"b", "a\\b",
+                             "a*",      "a?",    "[a]",  "{a,b}", "~root", "#a",  "a b",  "a\tb", "a\nb", "ラベル"})
+        QTest::newRow(name) << QString::fromUtf8(name) << false;
+}
+
+// Run by a shell, the name of a queue is that or the script does nothing. It is read in any case.
+void PresetScriptTest::queueForShells()
+{
+    QFETCH(QString, printer);
+    QFETCH(bool, isPlain);
+    PresetScript::Content preset = content({"Darkness", "7"});
+    preset.printerName = printer;
+    preset.name = "Name";
+    preset.userPageSize = QSizeF(1, 2);
+    const QByteArray script = PresetScript::text(preset, {});
+    QCOMPARE(script.startsWith("#!/bin/bash\n#name=Name\n"), isPlain);
+    QCOMPARE(script.contains("\nexit 1\n#name=Name\n"), !isPlain);
+    QString value;
+    QVERIFY(PresetScript::parseAttribute(script, "name", value));
+    QCOMPARE(value, QString("Name"));
+    QVERIFY(PresetScript::parseOption(script, "Darkness", value));
+    QCOMPARE(value, QString("7"));
+    QSizeF size;
+    QVERIFY(PresetScript::parsePpdhack(script, size));
+    QCOMPARE(size, QSizeF(1, 2));
+    QVERIFY(!PresetScript::parseAttribute(script, "description", value));
+    QVERIFY(!PresetScript::parseAttribute(script, "index", value));
 }
 
 // ----- writing -----
@@ -449,25 +591,44 @@ void PresetScriptTest::writeKeepsPermissions()
     QCOMPARE(modeOf(path) & 07777, mode_t(0751));
 }
 
-void PresetScriptTest::writeFollowsLink()
+void PresetScriptTest::writeReplacesLink_data()
 {
-    const QString path = PresetFiles::script("LP1", "Wide");
-    const QString target = home() + "/target";
-    QVERIFY(PresetFiles::writeFile(target, "earlier"));
-    QVERIFY(QDir().mkpath(PresetFiles::folder("LP1")) && QFile::link(target, path));
-    QVERIFY(PresetScript::write(path, "text"));
-    QVERIFY(S_ISLNK(modeOf(path)));
-    QCOMPARE(PresetFiles::readFile(target), QByteArray("text"));
+    QTest::addColumn<QString>("target");
+    for (const char *target : {"../../outside", "../inside.sh", "chain", "itself.sh", "missing", "folder", "pipe"})
+        QTest::newRow(target) << target;
 }
 
-void PresetScriptTest::writeFollowsDanglingLink()
+// What a link leads to is neither changed nor made executable.
+void PresetScriptTest::writeReplacesLink()
 {
-    const QString path = PresetFiles::script("LP1", "Wide");
-    const QString target = PresetFiles::folder("LP1") + "/target";
-    QVERIFY(QDir().mkpath(PresetFiles::folder("LP1")) && QFile::link(target, path));
+    QFETCH(QString, target);
+    const QString folder = PresetFiles::folder("LP1");
+    const QString path = folder + "/itself.sh";
+    QVERIFY(PresetFiles::writeFile(home() + "/outside", "earlier"));
+    QVERIFY(PresetFiles::writeFile(PresetFiles::root() + "/inside.sh", "earlier"));
+    QVERIFY(QDir().mkpath(folder + "/folder"));
+    QCOMPARE(mkfifo(QFile::encodeName(folder + "/pipe").constData(), 0600), 0);
+    QCOMPARE(symlink("link", QFile::encodeName(folder + "/chain").constData()), 0);
+    QCOMPARE(symlink("../../outside", QFile::encodeName(folder + "/link").constData()), 0);
+    QCOMPARE(symlink(QFile::encodeName(target).constData(), QFile::encodeName(path).constData()), 0);
+    const auto others = [&] {
+        QList<mode_t> modes;
+        for (const QString &name : {home() + "/outside", PresetFiles::root() + "/inside.sh", folder + "/folder",
+                                    folder + "/pipe", folder + "/chain", folder + "/link", folder + "/missing"})
+            modes << modeOf(name);
+        return modes;
+    };
+    const QList<mode_t> modes = others();
+    const QStringList entries = PresetFiles::entries(folder);
+
     QVERIFY(PresetScript::write(path, "text"));
-    QVERIFY(S_ISLNK(modeOf(path)));
-    QCOMPARE(PresetFiles::readFile(target), QByteArray("text"));
+    QVERIFY(S_ISREG(modeOf(path)));
+    QCOMPARE(PresetFiles::readFile(path), QByteArray("text"));
+    QCOMPARE(others(), modes);
+    QCOMPARE(PresetFiles::entries(folder), entries);
+    QCOMPARE(PresetFiles::readFile(home() + "/outside"), QByteArray("earlier"));
+    QCOMPARE(PresetFiles::readFile(PresetFiles::root() + "/inside.sh"), QByteArray("earlier"));
+    QVERIFY(QFile::remove(home() + "/outside"));
 }
 
 void PresetScriptTest::writeRefused_data()
@@ -475,8 +636,6 @@ void PresetScriptTest::writeRefused_data()
     QTest::addColumn<QString>("file");
     QTest::newRow("folder") << "folder";
     QTest::newRow("pipe") << "pipe";
-    QTest::newRow("link to pipe") << "pipelink";
-    QTest::newRow("link to folder") << "folderlink";
     QTest::newRow("folder cannot be made") << "notes/Wide";
 }
 
@@ -488,16 +647,161 @@ void PresetScriptTest::writeRefused()
     QVERIFY(PresetFiles::writeFile(PresetFiles::folder("LP1/notes"), "a file"));
     QVERIFY(QDir().mkdir(PresetFiles::script("LP1", "folder")));
     QCOMPARE(mkfifo(QFile::encodeName(PresetFiles::script("LP1", "pipe")).constData(), 0600), 0);
-    QVERIFY(QFile::link(PresetFiles::script("LP1", "pipe"), PresetFiles::script("LP1", "pipelink")));
-    QVERIFY(QFile::link(PresetFiles::script("LP1", "folder"), PresetFiles::script("LP1", "folderlink")));
     const mode_t earlier = modeOf(path);
     const QStringList entries = PresetFiles::entries(PresetFiles::folder("LP1"));
 
     QVERIFY(!PresetScript::write(path, "text"));
+    QVERIFY(PresetScript::create(path, "text") != PresetFolder::Done);
     QCOMPARE(modeOf(path), earlier);
-    QVERIFY(S_ISFIFO(modeOf(PresetFiles::script("LP1", "pipe"))));
     QCOMPARE(PresetFiles::entries(PresetFiles::folder("LP1")), entries);
     QVERIFY(!PresetScript::write(QString(), "text"));
+}
+
+void PresetScriptTest::linkedFolder_data()
+{
+    QTest::addColumn<QString>("link");
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("printer");
+    QTest::newRow("of the queue") << "LP1"
+                                  << "../elsewhere"
+                                  << "LP1";
+    QTest::newRow("of another queue") << "LP1"
+                                      << "LP2"
+                                      << "LP1";
+    QTest::newRow("of an instance") << "LP2/draft"
+                                    << "../../elsewhere"
+                                    << "LP2/draft";
+    QTest::newRow("of an instance's queue") << "LP1"
+                                            << "../elsewhere"
+                                            << "LP1/draft";
+    QTest::newRow("chain") << "LP1"
+                           << "chain"
+                           << "LP1";
+    QTest::newRow("to nothing") << "LP1"
+                                << "../missing"
+                                << "LP1";
+    QTest::newRow("to a file") << "LP1"
+                               << "../elsewhere/Wide.sh"
+                               << "LP1";
+}
+
+// Nothing is written, removed or made where the link of a folder leads to. Looking is allowed.
+void PresetScriptTest::linkedFolder()
+{
+    QFETCH(QString, link);
+    QFETCH(QString, target);
+    QFETCH(QString, printer);
+    const QString elsewhere = home() + "/elsewhere";
+    QVERIFY(PresetFiles::writeFile(elsewhere + "/Wide.sh", "earlier"));
+    QVERIFY(QDir().mkpath(elsewhere + "/draft") && QDir().mkpath(PresetFiles::folder("LP2")));
+    QCOMPARE(symlink("../elsewhere", QFile::encodeName(PresetFiles::folder("chain")).constData()), 0);
+    QCOMPARE(symlink(QFile::encodeName(target).constData(), QFile::encodeName(PresetFiles::folder(link)).constData()),
+             0);
+
+    for (const char *file : {"Wide", "New", "sub/New"}) {
+        const QString path = PresetFiles::script(printer, file);
+        QVERIFY(!PresetScript::write(path, "text"));
+        QCOMPARE(PresetScript::create(path, "text"), PresetFolder::Failed);
+        QVERIFY(!PresetScript::remove(path));
+    }
+    QCOMPARE(PresetFiles::readFile(elsewhere + "/Wide.sh"), QByteArray("earlier"));
+    QCOMPARE(PresetFiles::entries(elsewhere), (QStringList{"Wide.sh", "draft"}));
+    QCOMPARE(PresetFiles::entries(elsewhere + "/draft"), QStringList());
+    QVERIFY(!QFile::exists(home() + "/missing"));
+    QVERIFY(S_ISLNK(modeOf(PresetFiles::folder(link))));
+    QVERIFY(QDir(elsewhere).removeRecursively());
+}
+
+// Where all of $HOME/.cups is to lie is the user's to say.
+void PresetScriptTest::linkedRoot()
+{
+    QVERIFY(QDir(PresetFiles::root()).removeRecursively() && QDir().mkpath(home() + "/dotfiles/cups"));
+    QVERIFY(QFile::link(home() + "/dotfiles/cups", PresetFiles::root()));
+    const bool written = PresetScript::write(PresetFiles::script("LP1", "Wide"), "text");
+    const QByteArray text = PresetFiles::readFile(home() + "/dotfiles/cups/LP1/Wide.sh");
+    QVERIFY(QFile::remove(PresetFiles::root()) && QDir(home() + "/dotfiles").removeRecursively());
+    QVERIFY(written);
+    QCOMPARE(text, QByteArray("text"));
+}
+
+void PresetScriptTest::createTakesNoName_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char *file : {"file", "folder", "pipe", "link", "dangling"})
+        QTest::newRow(file) << file;
+}
+
+void PresetScriptTest::createTakesNoName()
+{
+    QFETCH(QString, file);
+    const QString path = PresetFiles::script("LP1", file);
+    QVERIFY(PresetFiles::writeFile(PresetFiles::script("LP1", "file"), "earlier"));
+    QVERIFY(QDir().mkdir(PresetFiles::script("LP1", "folder")));
+    QCOMPARE(mkfifo(QFile::encodeName(PresetFiles::script("LP1", "pipe")).constData(), 0600), 0);
+    QCOMPARE(symlink("file.sh", QFile::encodeName(PresetFiles::script("LP1", "link")).constData()), 0);
+    QCOMPARE(symlink("new.sh", QFile::encodeName(PresetFiles::script("LP1", "dangling")).constData()), 0);
+    const mode_t earlier = modeOf(path);
+    const QStringList entries = PresetFiles::entries(PresetFiles::folder("LP1"));
+    QVERIFY(PresetScript::exists(path));
+    QCOMPARE(PresetScript::create(path, "text"), PresetFolder::Taken);
+    QCOMPARE(modeOf(path), earlier);
+    QCOMPARE(PresetFiles::readFile(PresetFiles::script("LP1", "file")), QByteArray("earlier"));
+    QCOMPARE(PresetFiles::entries(PresetFiles::folder("LP1")), entries);
+}
+
+void PresetScriptTest::create()
+{
+    const QString path = PresetFiles::script("LP1/draft", "Wide");
+    QVERIFY(!PresetScript::exists(path));
+    const mode_t earlier = umask(027);
+    const PresetFolder::Result result = PresetScript::create(path, "text");
+    umask(earlier);
+    QCOMPARE(result, PresetFolder::Done);
+    QCOMPARE(PresetFiles::readFile(path), QByteArray("text"));
+    QCOMPARE(modeOf(path) & 07777, mode_t(0751));
+    QCOMPARE(PresetFiles::entries(PresetFiles::folder("LP1/draft")), QStringList{"Wide.sh"});
+    QVERIFY(PresetScript::exists(path));
+}
+
+// Root, who saves in a user's home, leaves nothing there that the user cannot use.
+void PresetScriptTest::ownersOfUsers()
+{
+    constexpr uid_t user = 65534;
+    const auto ownerOf = [](const QString &path) {
+        struct stat status = {};
+        return lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_uid : 0;
+    };
+    const uid_t self = geteuid();
+    const uid_t owner = self == 0 ? user : self; // nobody else can give files away
+    const QString existing = PresetFiles::script("LP1", "Existing");
+    QVERIFY(PresetFiles::writeFile(existing, "earlier") && QDir(PresetFiles::root()).exists());
+    for (const QString &path : {home(), existing})
+        QCOMPARE(chown(QFile::encodeName(path).constData(), owner, static_cast<gid_t>(-1)), 0);
+
+    QVERIFY(PresetScript::write(existing, "text"));
+    QCOMPARE(ownerOf(existing), owner);
+    // The folder of this queue is root's: so are new files in it.
+    QVERIFY(PresetScript::write(PresetFiles::script("LP1", "New"), "text"));
+    QCOMPARE(ownerOf(PresetFiles::script("LP1", "New")), self);
+
+    QVERIFY(QDir(PresetFiles::root()).removeRecursively());
+    QVERIFY(PresetScript::write(PresetFiles::script("LP1/draft", "New"), "text"));
+    QCOMPARE(PresetScript::create(PresetFiles::script("LP1/draft", "Other"), "text"), PresetFolder::Done);
+    for (const QString &path : {PresetFiles::root(), PresetFiles::folder("LP1"), PresetFiles::folder("LP1/draft"),
+                                PresetFiles::script("LP1/draft", "New"), PresetFiles::script("LP1/draft", "Other")})
+        QCOMPARE(ownerOf(path), owner);
+    QCOMPARE(chown(QFile::encodeName(home()).constData(), self, static_cast<gid_t>(-1)), 0);
+}
+
+// A process of this number that was killed while it wrote left a file behind.
+void PresetScriptTest::writeBesideLeftovers()
+{
+    const QString leftover =
+        PresetFiles::folder("LP1") + "/.new-" + QString::number(QCoreApplication::applicationPid()) + "-0";
+    QVERIFY(PresetFiles::writeFile(leftover, "half"));
+    QVERIFY(PresetScript::write(PresetFiles::script("LP1", "Wide"), "text"));
+    QCOMPARE(PresetFiles::readFile(PresetFiles::script("LP1", "Wide")), QByteArray("text"));
+    QCOMPARE(PresetFiles::readFile(leftover), QByteArray("half"));
 }
 
 void PresetScriptTest::writeIntoReadOnlyFolder()

@@ -99,6 +99,12 @@ private Q_SLOTS:
     void saveUnreadableBuiltIn();
     void warningIsTranslated();
     void hostilePrinter();
+
+    void texts_data();
+    void texts();
+    void valuesNotHeld_data();
+    void valuesNotHeld();
+    void valuesNotHeldOfOther();
 };
 
 void PresetTest::init()
@@ -638,7 +644,7 @@ void PresetTest::saveWritesReadableScript_data()
     row("usual", "^XA", {"JobStart", "^XA"});
     row("true", "TRUE", {"JobStart", "True"});
     row("false", "false", {"JobStart", "False"});
-    row("empty", "", {"JobStart", ""});
+    row("empty", "", {});
     row("default", "None", {});
     row("stored line break", "^XA\\\\r^XZ\\\\r", {"JobStart", "^XA\\r^XZ\\r"});
     row("backslash", "C:\\dir", {"JobStart", "C:\\\\dir"});
@@ -768,6 +774,90 @@ void PresetTest::hostilePrinter()
     QVERIFY(!preset.save({}));
     QCOMPARE(readFile(outside), QByteArray(scriptText));
     QVERIFY(QFile::remove(outside));
+}
+
+// ----- what scripts hold -----
+
+void PresetTest::texts_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char *text :
+         {"Größe", "Étiquettes", "ラベル 連続紙", "Этикетки 58-мм", "🏷 #1", "100 % é #index=0 -oStop=1", "é~"})
+        QTest::newRow(text) << QString::fromUtf8(text);
+}
+
+// Names and descriptions come back in any language, also when something else was changed in between.
+void PresetTest::texts()
+{
+    QFETCH(QString, text);
+    const QString plainText = QString(text).remove("#index=0");
+    Preset preset("LP1", "Wide", {"Darkness", "1"}, plainText, plainText + "\nand more", -1);
+    QVERIFY(preset.save({}));
+    {
+        UserPreset again;
+        QCOMPARE(again.name(), plainText);
+        QCOMPARE(again.description(), plainText);
+        QCOMPARE(again.index(), -1);
+        QVERIFY(again.setOptions({"Feed", "3"}));
+        QVERIFY(again.save({}));
+    }
+    UserPreset last;
+    QCOMPARE(last.name(), plainText);
+    QCOMPARE(last.description(), plainText);
+    last.setName("Plain");
+    QVERIFY(last.save({}));
+    QCOMPARE(UserPreset().name(), QString("Plain"));
+    QVERIFY(!readFile(script("LP1", "Wide")).contains("#name-utf8"));
+}
+
+void PresetTest::valuesNotHeld_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("standard");
+    QTest::addColumn<bool>("isHeld");
+    const auto row = [](const char *name, const char *value, bool isHeld, const char *standard = "None") {
+        QTest::newRow(name) << QString::fromUtf8(value) << QString(standard) << isHeld;
+    };
+    row("command", "^XA^FD1^FS", true);
+    row("stored line break", "^XA\\\\r^XZ\\\\r", true);
+    row("flag in other case", "TRUE", true);
+    row("default", "None", true);
+    row("empty without a default", "", true, "");
+    row("empty with a default", "", false);
+    row("blank", "a b", false);
+    row("backslash", "C:\\dir", false);
+    row("tabulator", "a\tb", false);
+    row("beyond ASCII", "aä", false);
+    row("default with a blank", "a b", true, "a b");
+}
+
+void PresetTest::valuesNotHeld()
+{
+    QFETCH(QString, value);
+    QFETCH(QString, standard);
+    QFETCH(bool, isHeld);
+    const QStringList options{"Darkness", "3", "JobStart", value};
+    const QStringList defaults{"Darkness", "1", "JobStart", standard, "Feed", "0"};
+    const QStringList expected = isHeld ? QStringList() : QStringList("JobStart");
+    // As it was made, as it was saved, and as another run finds it.
+    Preset preset("LP1", "Wide", options, QString(), QString(), -1);
+    QCOMPARE(preset.valuesNotHeld(options, defaults), expected);
+    QVERIFY(preset.save(defaults));
+    QCOMPARE(preset.valuesNotHeld(options, defaults), expected);
+    QCOMPARE(UserPreset().valuesNotHeld(options, defaults), expected);
+    // Printers that have what the script holds.
+    UserPreset chosen;
+    QCOMPARE(chosen.valuesNotHeld(chosen.options() + QStringList{"JobEnd", "^XZ"}, defaults), QStringList());
+}
+
+// A preset that is not of the printer's present values misses nothing of them.
+void PresetTest::valuesNotHeldOfOther()
+{
+    QVERIFY(writeScript());
+    QCOMPARE(UserPreset().valuesNotHeld({"Darkness", "a b", "Stop", "a b"}, {}), QStringList());
+    QCOMPARE(UserPreset().valuesNotHeld({}, {}), QStringList());
+    Preset noScript("LP1", "", {"JobStart", "a b"}, QString(), QString(), 0);
+    QCOMPARE(noScript.valuesNotHeld({"JobStart", "a b"}, {}), QStringList());
 }
 
 PROPERTIESDIALOG_TEST_MAIN(PresetTest)

@@ -123,6 +123,18 @@ private Q_SLOTS:
     void saveWithoutFolder();
     void saveForHostilePrinter();
 
+    void linkLeadsNowhere_data();
+    void linkLeadsNowhere();
+    void linkedFolder();
+
+    void isFileNameTaken_data();
+    void isFileNameTaken();
+    void newOnesOfTwo();
+    void newOneKeepsName();
+    void newOneDeleted();
+    void dropMissing();
+    void listedPresets();
+
     void fixedNames();
 };
 
@@ -795,6 +807,188 @@ void PresetsTest::saveForHostilePrinter()
     QVERIFY(presets.save({}));
     QCOMPARE(PresetFiles::entries(home), before);
     QCOMPARE(PresetFiles::entries(PresetFiles::root()), QStringList());
+}
+
+void PresetsTest::linkLeadsNowhere_data()
+{
+    QTest::addColumn<QString>("target");
+    for (const char *target :
+         {"../../outside", "/dev/zero", "/etc/passwd", "..", "a.sh/..", "../../missing", "currentPreset"})
+        QTest::newRow(target) << target;
+}
+
+// Wherever the link of the current preset leads, nothing there is opened, changed or made.
+void PresetsTest::linkLeadsNowhere()
+{
+    QFETCH(QString, target);
+    const QString home = qEnvironmentVariable("HOME");
+    QVERIFY(writeFile(home + "/outside", "earlier") && writeScripts({"a"}));
+    QCOMPARE(chmod(QFile::encodeName(home + "/outside").constData(), 0600), 0);
+    QCOMPARE(symlink(QFile::encodeName(target).constData(), QFile::encodeName(link()).constData()), 0);
+    const QStringList before = PresetFiles::entries(home);
+    Presets presets("LP1");
+    QCOMPARE(presets.currentPreset(), nullptr);
+    presets.setCurrentPreset(presets.findPreset("a"));
+    presets.currentPreset()->setDescription("x");
+    QVERIFY(presets.save({}));
+    QCOMPARE(linkText(), QFile::encodeName(script("LP1", "a")));
+    QCOMPARE(PresetFiles::entries(home), before);
+    QCOMPARE(PresetFiles::entries(folder("LP1")), (QStringList{"a.sh", "currentPreset"}));
+    QCOMPARE(readFile(home + "/outside"), QByteArray("earlier"));
+    QVERIFY(!QFileInfo(home + "/outside").isExecutable());
+    QVERIFY(QFile::remove(home + "/outside"));
+}
+
+// The presets there are listed, and stay as they are.
+void PresetsTest::linkedFolder()
+{
+    const QString elsewhere = qEnvironmentVariable("HOME") + "/elsewhere";
+    QVERIFY(writeFile(elsewhere + "/a.sh", "#name=Alpha\n") && writeFile(elsewhere + "/b.sh", "#name=Beta\n"));
+    QVERIFY(QFile::link(elsewhere, folder("LP1")));
+    for (const bool isDeleted : {false, true}) {
+        Presets presets("LP1");
+        QCOMPARE(presets.getPresetNames(), (QStringList{"Alpha", "Beta"}));
+        Preset *a = presets.findPreset("a");
+        if (isDeleted)
+            presets.deletePreset(a);
+        else
+            a->setDescription("x");
+        QVERIFY(!presets.save({}));
+    }
+    Presets presets("LP1");
+    presets.setCurrentPreset(presets.findPreset("b"));
+    presets.save({});
+    QCOMPARE(readFile(elsewhere + "/a.sh"), QByteArray("#name=Alpha\n"));
+    QCOMPARE(PresetFiles::entries(elsewhere), (QStringList{"a.sh", "b.sh"}));
+    QVERIFY(QDir(elsewhere).removeRecursively());
+}
+
+// ----- new presets -----
+
+void PresetsTest::isFileNameTaken_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("listed") << "a" << true;
+    QTest::newRow("made by another program since") << "later" << true;
+    QTest::newRow("not written yet") << "never" << true;
+    QTest::newRow("folder") << "folder" << true;
+    QTest::newRow("link to nothing") << "dangling" << true;
+    QTest::newRow("hidden preset") << "_current" << true;
+    QTest::newRow("free") << "b" << false;
+    QTest::newRow("name") << "Alpha" << false;
+}
+
+void PresetsTest::isFileNameTaken()
+{
+    QFETCH(QString, file);
+    QVERIFY(writeScript("a", "#name=Alpha\n") && writeScripts({"_current"}));
+    Presets presets("LP1");
+    presets.addPreset(newPreset("never"));
+    QVERIFY(writeScripts({"later"}) && QDir().mkdir(script("LP1", "folder")));
+    QVERIFY(QFile::link("nowhere", script("LP1", "dangling")));
+    QTEST(presets.isFileNameTaken(file), "isTaken");
+}
+
+// Two dialogs are open at once, and each makes presets.
+void PresetsTest::newOnesOfTwo()
+{
+    for (int round = 0; round < 10; ++round) {
+        QVERIFY(PresetFiles::reset());
+        Presets one("LP1");
+        Presets other("LP1");
+        const auto add = [](Presets &presets, const QString &file, const QString &darkness) {
+            Preset *preset = new Preset("LP1", file, {"Darkness", darkness}, "Name of " + darkness, QString(), -1);
+            preset->setNew();
+            return presets.addPreset(preset);
+        };
+        add(one, "Preset", "1");
+        add(one, "Preset2", "2");
+        Preset *third = add(other, "Preset", "3");
+        add(other, "Preset2", "4");
+        other.setCurrentPreset(third);
+        QVERIFY(one.save({}));
+        QVERIFY(other.save({}));
+        QCOMPARE(third->fileName(), QString("Preset3"));
+        QVERIFY(!third->isNew());
+        QCOMPARE(linkText(), QFile::encodeName(script("LP1", "Preset3")));
+        // From now on they are what all presets are.
+        third->setDescription("x");
+        QVERIFY(other.save({}));
+
+        Presets both("LP1");
+        QCOMPARE(both.getPresetNames(), (QStringList{"Name of 1", "Name of 2", "Name of 3", "Name of 4"}));
+        for (const char *darkness : {"1", "2", "3", "4"})
+            QCOMPARE(both.findPreset(QString("Name of ") + darkness)->options(), QStringList({"Darkness", darkness}));
+        QCOMPARE(PresetFiles::entries(folder("LP1")),
+                 (QStringList{"Preset.sh", "Preset2.sh", "Preset3.sh", "Preset4.sh", "currentPreset"}));
+    }
+}
+
+void PresetsTest::newOneKeepsName()
+{
+    Presets presets("LP1");
+    Preset *preset = presets.addPreset(newPreset("Preset9"));
+    preset->setNew();
+    QCOMPARE(preset->state(), Preset::Modified);
+    QVERIFY(presets.save({}));
+    QCOMPARE(preset->fileName(), QString("Preset9"));
+    // Where it cannot be written, nothing changes.
+    QVERIFY(QDir(folder("LP1")).removeRecursively() && writeFile(folder("LP1"), "a file"));
+    preset->setNew();
+    QVERIFY(!presets.save({}));
+    QCOMPARE(preset->fileName(), QString("Preset9"));
+    QCOMPARE(preset->state(), Preset::Modified);
+    QVERIFY(preset->isNew());
+}
+
+// A script that another program has made under its name in the meantime is not its own.
+void PresetsTest::newOneDeleted()
+{
+    Presets presets("LP1");
+    Preset *preset = presets.addPreset(newPreset("Preset"));
+    preset->setNew();
+    QVERIFY(writeScripts({"Preset"}));
+    presets.deletePreset(preset);
+    QVERIFY(!presets.save({}));
+    presets.dropMissing();
+    QVERIFY(presets.save({}));
+    QVERIFY(QFile::exists(script("LP1", "Preset")));
+    QCOMPARE(presets.getPresetNames(), QStringList());
+    QCOMPARE(presets.currentPreset(), nullptr);
+}
+
+void PresetsTest::dropMissing()
+{
+    QVERIFY(writeScripts({"a", "b", "c", "d"}));
+    Presets presets("LP1");
+    for (const char *file : {"a", "b"})
+        presets.deletePreset(presets.findPreset(file));
+    presets.addPreset(newPreset("never"))->setState(Preset::Deleted);
+    presets.findPreset("c")->setDescription("x");
+    // What another program removes:
+    for (const char *file : {"a", "c", "d"})
+        QVERIFY(QFile::remove(script("LP1", file)));
+    presets.dropMissing();
+    QCOMPARE(presets.findPreset("a"), nullptr);
+    QCOMPARE(presets.findPreset("never"), nullptr);
+    QVERIFY(presets.findPreset("b") && presets.findPreset("c") && presets.findPreset("d"));
+    QVERIFY(presets.save({}));
+    QVERIFY(!QFile::exists(script("LP1", "b")));
+    // The user has just worked on this one.
+    QVERIFY(readFile(script("LP1", "c")).contains("#description=x"));
+}
+
+void PresetsTest::listedPresets()
+{
+    Presets presets("LP1");
+    Preset *first = presets.addPreset(newPreset("x", "Same"));
+    Preset *deleted = presets.addPreset(newPreset("y", "Same"));
+    Preset *second = presets.addPreset(newPreset("z", "Same"));
+    Preset *builtIn = presets.addPreset(newPreset("", "<Current Settings>", 0));
+    deleted->setState(Preset::Deleted);
+    QCOMPARE(presets.listedPresets(), (QList<Preset *>{builtIn, first, second}));
+    QCOMPARE(presets.getPresetNames(), (QStringList{"<Current Settings>", "Same", "Same"}));
 }
 
 void PresetsTest::fixedNames()

@@ -868,8 +868,8 @@ void PropertiesDialogSaveTest::currentSettingsScript()
     const QString path = scriptPath("Q", "_current");
     QCOMPARE(fileContent(path),
              QByteArray("#!/bin/bash\n"
-                        "lpoptions -pQ -oDarkness=4 -oDirect=True -oFeed=24 -oGapSize=5.080 -oJobEnd="
-                        " -oJobStart='A B\\\\\\\\r' -rLabelCategory -oLabelEnd= -oLabelStart= -rMarkOffset -rMarkSize"
+                        "lpoptions -pQ -oDarkness=4 -oDirect=True -oFeed=24 -oGapSize=5.080 -rJobEnd"
+                        " -oJobStart='A B\\\\\\\\r' -rLabelCategory -rLabelEnd -rLabelStart -rMarkOffset -rMarkSize"
                         " -oMirrorPrint=True -rNegativePrint -oOffsetH=-3 -rOffsetV -oorientation-requested=5"
                         " -oPrintSpeed=2 -oStop=29.972 -oStart=1.000\n"
                         "ppdhack 4.00 2.00 Q\n"));

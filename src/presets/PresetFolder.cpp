@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "presets/PresetFolder.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+
+namespace {
+
+// Made when the library is loaded: what the host does to its environment later does not move the presets.
+const QByteArray home = qgetenv("HOME") + '/';
+const QByteArray cupsFolder(".cups");
+const QByteArray rootBytes = home + cupsFolder + '/';
+const QString rootText = QString::fromUtf8(rootBytes);
+
+constexpr mode_t permissionBits = 0777;
+constexpr mode_t executable = 0111;
+constexpr mode_t cupsFolderMode = 0700; // as libcups makes it
+constexpr mode_t folderMode = 0777; // less what the user's umask takes away
+constexpr mode_t fileMode = 0666; // likewise
+
+// What root makes in somebody's home is theirs. Others cannot give files away and need not. By descriptor: what has the
+// name may have been put there by somebody else meanwhile.
+bool giveTo(const struct stat &owner, int file)
+{
+    return geteuid() == 0 && fchownat(file, "", owner.st_uid, owner.st_gid, AT_EMPTY_PATH) == 0;
+}
+
+bool giveToOwnerOf(int folder, int file)
+{
+    struct stat status = {};
+    return fstat(folder, &status) == 0 && giveTo(status, file);
+}
+
+// Opens a folder that is in another one, whose descriptor is closed; -1 on failure.
+int descend(int parent, const QByteArray &name, PresetFolder::IfMissing ifMissing, mode_t mode, int flags)
+{
+    const bool made = ifMissing == PresetFolder::MakeIt && mkdirat(parent, name.constData(), mode) == 0;
+    const int folder = openat(parent, name.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC | flags);
+    if (made && folder >= 0)
+        giveToOwnerOf(parent, folder);
+    close(parent);
+    return folder;
+}
+
+// Files, and links to anything but a folder.
+bool isListed(const std::filesystem::directory_entry &entry)
+{
+    std::error_code ignored;
+    return entry.is_symlink(ignored) ? entry.exists(ignored) && !entry.is_directory(ignored)
+                                     : entry.is_regular_file(ignored);
+}
+
+} // namespace
+
+PresetFolder::PresetFolder(const QString &path, IfMissing ifMissing)
+{
+    if (!path.startsWith(rootText))
+        return;
+    // Up to here it is the user's own choice where links lead to.
+    fd = open(home.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0)
+        fd = descend(fd, cupsFolder, ifMissing, cupsFolderMode, 0);
+    const QStringList parts = path.mid(rootText.size()).split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    for (const QString &part : parts)
+        if (fd >= 0)
+            fd = descend(fd, QFile::encodeName(part), ifMissing, folderMode, O_NOFOLLOW);
+}
+
+PresetFolder::~PresetFolder()
+{
+    if (fd >= 0)
+        close(fd);
+}
+
+// Writes a new file that no list shows, and returns its name; empty on failure.
+QByteArray PresetFolder::write(const QByteArray &content, const struct stat *earlier)
+{
+    const QByteArray start = ".new-" + QByteArray::number(QCoreApplication::applicationPid()) + '-';
+    QByteArray name;
+    int descriptor = -1;
+    // A process of the same number may have left files behind.
+    for (int i = 0; descriptor < 0; ++i) {
+        name = start + QByteArray::number(i);
+        descriptor = openat(fd, name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, fileMode);
+        if (descriptor < 0 && errno != EEXIST)
+            return {};
+    }
+
+    QFile file;
+    struct stat status = {};
+    bool good = fstat(descriptor, &status) == 0
+                && file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+    if (good) {
+        if (earlier)
+            giveTo(*earlier, descriptor);
+        else
+            giveToOwnerOf(fd, descriptor);
+        const mode_t mode = (earlier ? earlier->st_mode : status.st_mode) & permissionBits;
+        good = fchmod(descriptor, mode | executable) == 0 && file.write(content) == content.size()
+               && fsync(descriptor) == 0;
+    } else {
+        close(descriptor);
+    }
+    if (good)
+        return name;
+    unlinkat(fd, name.constData(), 0);
+    return {};
+}
+
+bool PresetFolder::replace(const QString &name, const QByteArray &content)
+{
+    const QByteArray place = QFile::encodeName(name);
+    struct stat earlier = {};
+    const bool exists = fstatat(fd, place.constData(), &earlier, AT_SYMLINK_NOFOLLOW) == 0;
+    const bool isFile = exists && S_ISREG(earlier.st_mode);
+    // A device, a pipe or a folder is not for us to replace, nor is a file that its user has made read-only.
+    if (exists && !isFile && !S_ISLNK(earlier.st_mode))
+        return false;
+    if (isFile && faccessat(fd, place.constData(), W_OK, AT_EACCESS) != 0)
+        return false;
+
+    const QByteArray temporary = write(content, isFile ? &earlier : nullptr);
+    if (temporary.isEmpty())
+        return false;
+    if (renameat(fd, temporary.constData(), fd, place.constData()) == 0)
+        return true;
+    unlinkat(fd, temporary.constData(), 0);
+    return false;
+}
+
+PresetFolder::Result PresetFolder::create(const QString &name, const QByteArray &content)
+{
+    const QByteArray place = QFile::encodeName(name);
+    const QByteArray temporary = write(content, nullptr);
+    if (temporary.isEmpty())
+        return Failed;
+    // Neither call replaces anything. Some file systems have the one and some the other.
+    const bool done =
+        linkat(fd, temporary.constData(), fd, place.constData(), 0) == 0
+        || (errno != EEXIST && renameat2(fd, temporary.constData(), fd, place.constData(), RENAME_NOREPLACE) == 0);
+    const Result failure = errno == EEXIST ? Taken : Failed;
+    unlinkat(fd, temporary.constData(), 0);
+    return done ? Done : failure;
+}
+
+bool PresetFolder::remove(const QString &name)
+{
+    return unlinkat(fd, QFile::encodeName(name).constData(), 0) == 0;
+}
+
+bool PresetFolder::link(const QString &name, const QByteArray &target)
+{
+    const QByteArray place = QFile::encodeName(name);
+    const QByteArray temporary = place + '.' + QByteArray::number(QCoreApplication::applicationPid());
+    unlinkat(fd, temporary.constData(), 0);
+    if (symlinkat(target.constData(), fd, temporary.constData()) != 0)
+        return false;
+    const int made = openat(fd, temporary.constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC);
+    struct stat status = {};
+    if (made >= 0 && fstat(made, &status) == 0 && S_ISLNK(status.st_mode))
+        giveToOwnerOf(fd, made);
+    close(made);
+    if (renameat(fd, temporary.constData(), fd, place.constData()) == 0)
+        return true;
+    unlinkat(fd, temporary.constData(), 0);
+    return false;
+}
+
+QString PresetFolder::root()
+{
+    return rootText;
+}
+
+QByteArray PresetFolder::localPath(const QString &path)
+{
+    return path.startsWith(rootText) ? rootBytes + QFile::encodeName(path.mid(rootText.size()))
+                                     : QFile::encodeName(path);
+}
+
+QStringList PresetFolder::files(const QString &path, const QString &suffix)
+{
+    QStringList names;
+    std::error_code error;
+    const std::filesystem::directory_iterator end;
+    for (std::filesystem::directory_iterator entry(localPath(path).constData(), error); !error && entry != end;
+         entry.increment(error)) {
+        const QString name = QFile::decodeName(entry->path().filename().c_str());
+        if (name.endsWith(suffix) && isListed(*entry))
+            names << name;
+    }
+    names.sort();
+    return names;
+}
+
+QByteArray PresetFolder::linkTarget(const QString &path)
+{
+    std::error_code error;
+    const std::filesystem::path target = std::filesystem::read_symlink(localPath(path).constData(), error);
+    return error ? QByteArray() : QByteArray(target.c_str());
+}
