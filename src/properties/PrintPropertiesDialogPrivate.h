@@ -60,7 +60,7 @@ struct PrintPropertiesDialog::Private
     PrintPropertiesDialog *const q;
     QPrinter *printer;
     CupsSupport *cups;
-    const ModelFamily &family;
+    const ModelFamily family;
     const bool forceCustomStock; // the host is set up so that the user page size always applies
     Ui_PrintPropertiesDialog ui;
     Presets presets;
