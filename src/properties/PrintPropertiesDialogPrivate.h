@@ -6,6 +6,7 @@
 
 #include "presets/Presets.h"
 #include "properties/LabelSettings.h"
+#include "properties/ModelFamily.h"
 #include "properties/PrintPropertiesDialog.h"
 #include "ui_PrintPropertiesDialog.h"
 
