@@ -6,6 +6,8 @@
 #include "cups/CLocale.h"
 #include "cups/Dialect.h"
 #include "cups/OptionsFile.h"
+#include "cups/PpdFile.h"
+#include "cups/PrintJob.h"
 #include "cups/Rounding.h"
 #include "cups/Scheduler.h"
 
@@ -15,12 +17,10 @@
 #include <cups/cups.h>
 #include <cups/ppd.h>
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <vector>
+#include <utility>
 
 // The PPD interface is deprecated as a whole; label printers have nothing else yet.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -70,27 +70,17 @@ QByteArray titleOf(const QString &text)
     return QString::fromLatin1(text.toLatin1()).toUtf8();
 }
 
-// The options of one job: those of the destination, overridden by the host's. Freed with the object.
-class JobOptions
+// The destinations as they were fetched. Freed with the object unless they were taken.
+struct Destinations
 {
-public:
-    JobOptions(const cups_dest_t &dest, const QStringList &list)
-    {
-        for (int i = 0; i < dest.num_options; ++i)
-            add(dest.options[i].name, dest.options[i].value);
-        for (int i = 0; i + 1 < list.size(); i += 2)
-            add(list.at(i).toLatin1().constData(), list.at(i + 1).toLatin1().constData());
-    }
-    ~JobOptions() { cupsFreeOptions(count, options); }
+    Destinations() = default;
+    ~Destinations() { cupsFreeDests(count, list); }
 
-    JobOptions(const JobOptions &) = delete;
-    JobOptions &operator=(const JobOptions &) = delete;
+    Destinations(const Destinations &) = delete;
+    Destinations &operator=(const Destinations &) = delete;
 
     int count = 0;
-    cups_option_t *options = nullptr;
-
-private:
-    void add(const char *name, const char *value) { count = cupsAddOption(name, value, count, &options); }
+    cups_dest_t *list = nullptr;
 };
 
 } // namespace
@@ -135,9 +125,11 @@ int CupsSupport::getDefaultPrinter()
     destCount = 0;
     if (ppd == &absentPpdFile)
         ppd = nullptr; // another printer may become current, and only an open file stays
-    const SchedulerConnection connection;
-    if (connection.isUsable())
-        destCount = cupsGetDests2(connection.get(), &dests);
+    const auto fetched = std::make_shared<Destinations>();
+    if (Scheduler::ask([fetched](http_t *http) { fetched->count = cupsGetDests2(http, &fetched->list); })) {
+        destCount = std::exchange(fetched->count, 0);
+        dests = std::exchange(fetched->list, nullptr);
+    }
     if (!dests || destCount < 1)
         return currentIndex;
     // Printers may have gone since the last time; an index past the end would be no printer for good.
@@ -161,16 +153,11 @@ void CupsSupport::openPpdFile() const
     const cups_dest_t *dest = currentDest();
     if (!dest)
         return;
-    const SchedulerConnection connection;
-    const char *path = connection.isUsable() ? cupsGetPPD2(connection.get(), dest->name) : nullptr;
-    if (!path) {
-        if (connection.isUsable() && cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND)
-            ppd = &absentPpdFile;
-        return;
-    }
-    ppd = ppdOpenFile(path);
-    unlink(path); // the copy is ours and nobody else knows it
-    if (!ppd)
+    bool isAbsent = false;
+    ppd = PpdFile::fetch(dest->name, &isAbsent);
+    if (isAbsent)
+        ppd = &absentPpdFile;
+    if (isAbsent || !ppd)
         return;
     d->dialect = Dialect::of(ppd);
     ppdMarkDefaults(ppd);
@@ -246,7 +233,7 @@ int CupsSupport::setDests()
 
 const char *CupsSupport::getCupsError()
 {
-    return cupsLastErrorString();
+    return Scheduler::lastError();
 }
 
 cups_option_t *CupsSupport::printerOption(const QString &name) const
@@ -721,13 +708,7 @@ int CupsSupport::printFile(const QString &fileName, const QString &printerDescri
     const cups_dest_t *dest = index < 0 ? currentDest() : dests + index;
     if (!dest)
         return 0;
-    const SchedulerConnection connection;
-    if (!connection.isUsable())
-        return 0;
-    const JobOptions job(*dest, list);
-    const QByteArray jobTitle = titleOf(title.isEmpty() ? fileName : title);
-    return cupsPrintFile2(connection.get(), dest->name, fileName.toLocal8Bit().constData(), jobTitle.constData(),
-                          job.count, job.options);
+    return PrintJob::submit(*dest, {fileName}, titleOf(title.isEmpty() ? fileName : title), list);
 }
 
 int CupsSupport::printFiles(const QStringList &fileNames, const QString &title, const QStringList &list) const
@@ -735,19 +716,5 @@ int CupsSupport::printFiles(const QStringList &fileNames, const QString &title, 
     const cups_dest_t *dest = currentDest();
     if (!dest || fileNames.isEmpty())
         return 0;
-    const SchedulerConnection connection;
-    if (!connection.isUsable())
-        return 0;
-    const JobOptions job(*dest, list);
-    // Names outside Latin-1 are as welcome here as in printFile().
-    std::vector<QByteArray> names;
-    names.reserve(static_cast<std::size_t>(fileNames.size()));
-    for (const QString &fileName : fileNames)
-        names.push_back(fileName.toLocal8Bit());
-    std::vector<const char *> pointers;
-    pointers.reserve(names.size());
-    for (const QByteArray &name : names)
-        pointers.push_back(name.constData());
-    return cupsPrintFiles2(connection.get(), dest->name, static_cast<int>(pointers.size()), pointers.data(),
-                           titleOf(title).constData(), job.count, job.options);
+    return PrintJob::submit(*dest, fileNames, titleOf(title), list);
 }

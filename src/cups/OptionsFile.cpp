@@ -85,17 +85,19 @@ void addServerOption(ipp_attribute_t *attribute, cups_dest_t *dest)
 // which is more than need be but loses none.
 void fetchServerOptions(FreeDests &server)
 {
-    const SchedulerConnection connection;
-    if (!connection.isUsable())
-        return;
     static const char *const wanted[] = {"printer-name", "printer-defaults", "job-sheets-default",
                                          "printer-mandatory-job-attributes"};
-    ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
-    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  static_cast<int>(std::size(wanted)), nullptr, wanted);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    const std::unique_ptr<ipp_t, decltype(&ippDelete)> response(cupsDoRequest(connection.get(), request, "/"),
-                                                                &ippDelete);
+    const auto answer = std::make_shared<std::unique_ptr<ipp_t, decltype(&ippDelete)>>(nullptr, &ippDelete);
+    const bool isAnswered = Scheduler::ask([answer](http_t *http) {
+        ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
+        ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                      static_cast<int>(std::size(wanted)), nullptr, wanted);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+        answer->reset(cupsDoRequest(http, request, "/"));
+    });
+    if (!isAnswered)
+        return;
+    const auto &response = *answer;
     if (!response)
         return;
 

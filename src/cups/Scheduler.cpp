@@ -3,66 +3,326 @@
 
 #include "cups/Scheduler.h"
 
+#include <QByteArray>
+#include <QCoreApplication>
+
 #include <cups/cups.h>
 
-#include <chrono>
+#include <algorithm>
+#include <atomic>
+#include <condition_variable>
+#include <csignal>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <system_error>
+#include <thread>
+
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
 
 namespace {
 
+using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
+using Scheduler::Limits;
+using Scheduler::Milliseconds;
+using Scheduler::Work;
 
-// Until when the scheduler is not asked again. Loading the dialog makes many calls that need the PPD file; without this
-// each of them would wait anew for a scheduler that has fallen silent.
+// How often a request that takes long is looked at; one that is answered is noticed at once.
+constexpr Milliseconds watchInterval = 100ms;
+
+// libcups connects again and goes on with the next step of a call whose connection was shut down; it is shut down again
+// after this time. A thread that has not ended after that many times hangs elsewhere, in a look-up of a name say, and is left to
+// itself: it owns all that it uses.
+constexpr Milliseconds shutDownInterval = 200ms;
+constexpr int shutDowns = 6;
+
+// An answer that takes no longer is no reason to lose patience, however many requests follow each other.
+constexpr Milliseconds quickAnswer = 250ms;
+// Two requests with so long a pause between them belong to different actions of the user.
+constexpr Milliseconds pauseBetweenActions = 1s;
+
+// Documents are given a second for this many bytes.
+constexpr qint64 slowestNetwork = 100'000;
+
+Limits limits;
 Clock::time_point leaveAloneUntil;
+QByteArray errorText;
 
-void leaveAlone()
+// What the slow requests of the present action have taken so far.
+struct Action
 {
-    leaveAloneUntil = Clock::now() + std::chrono::milliseconds(SchedulerConnection::patienceMs);
+    Milliseconds spent{0};
+    Clock::time_point end;
+
+    Milliseconds left()
+    {
+        if (Clock::now() - end > pauseBetweenActions)
+            spent = 0ms;
+        return std::max(0ms, limits.altogether - spent);
+    }
+    void add(Clock::duration duration)
+    {
+        if (duration <= quickAnswer)
+            return;
+        spent += std::chrono::duration_cast<Milliseconds>(duration);
+        end = Clock::now();
+    }
+};
+Action action;
+
+// What the host may have told libcups on its thread about where the scheduler is and who asks.
+class Identity
+{
+public:
+    Identity()
+        : server(cupsServer())
+        , user(cupsUser())
+        , port(ippPort())
+        , encryption(cupsEncryption())
+    {
+    }
+
+    bool isLocalSocket() const { return server.startsWith('/'); }
+
+    // Tells libcups on this thread; only what it does not know already, since setting a server drops the rest of its entry.
+    void adopt() const
+    {
+        if (server != cupsServer())
+            cupsSetServer(server.constData());
+        if (port != ippPort())
+            ippSetPort(port);
+        if (encryption != cupsEncryption())
+            cupsSetEncryption(encryption);
+        if (user != cupsUser())
+            cupsSetUser(user.constData());
+    }
+
+private:
+    const QByteArray server;
+    const QByteArray user;
+    const int port;
+    const http_encryption_t encryption;
+};
+
+// A request, shared by the thread that does it and the one that waits.
+struct Request
+{
+    std::mutex mutex;
+    std::condition_variable changed;
+    http_t *http = nullptr; // while its connection may be shut down
+    bool isConnected = false;
+    bool hasEnded = false;
+    std::atomic<bool> isGivenUp{false};
+    int cancelsConnecting = 0; // the same in the form that libcups wants
+    ipp_status_t status = IPP_STATUS_OK;
+    QByteArray message;
+};
+
+// The request for which this thread works.
+thread_local const Request *ownRequest = nullptr;
+
+// Lets the system notice that a network is gone; libcups never looks.
+void keepAlive(http_t *http)
+{
+    const int fd = httpGetFd(http);
+    const auto set = [fd](int level, int option, int value) { setsockopt(fd, level, option, &value, sizeof value); };
+    set(SOL_SOCKET, SO_KEEPALIVE, 1);
+    set(IPPROTO_TCP, TCP_KEEPIDLE, 3);
+    set(IPPROTO_TCP, TCP_KEEPINTVL, 1);
+    set(IPPROTO_TCP, TCP_KEEPCNT, 3);
 }
 
-// Whether somebody answers here. This question is no work for a scheduler, and it keeps no log of it.
-bool answers(http_t *http)
+http_t *connect(int *cancel)
 {
-    httpClearFields(http);
-    return httpOptions(http, "*") == 0 && httpWait(http, SchedulerConnection::patienceMs);
+    const int patience = static_cast<int>(limits.withoutProgress.count());
+    http_t *http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, patience, cancel);
+    if (http && httpAddrFamily(httpGetAddress(http)) != AF_LOCAL)
+        keepAlive(http);
+    return http;
+}
+
+// Never on a terminal: the process would be stopped there when it runs in the background.
+const char *refuseToAsk(const char *, http_t *, const char *, const char *, void *)
+{
+    return nullptr;
+}
+
+// What the thread of a request does.
+void run(const std::shared_ptr<Request> &request, const Work &work, const Identity &identity, http_t *connected)
+{
+    ownRequest = request.get();
+    identity.adopt();
+    cupsSetPasswordCB2(refuseToAsk, nullptr);
+    http_t *http = connected ? connected : connect(&request->cancelsConnecting);
+    if (http) {
+        {
+            const std::lock_guard lock(request->mutex);
+            request->http = http;
+            request->isConnected = true;
+        }
+        work(http);
+        const std::lock_guard lock(request->mutex);
+        request->http = nullptr;
+    }
+    const ipp_status_t status = cupsLastError();
+    const QByteArray message = cupsLastErrorString();
+    httpClose(http); // which may wait as well, when the connection is encrypted
+    const std::lock_guard lock(request->mutex);
+    request->status = status;
+    request->message = message;
+    request->hasEnded = true;
+    request->changed.notify_one();
+}
+
+// A thread to which no signal of the host's is delivered. None if the system has no more.
+std::optional<std::thread> startThread(const std::function<void()> &function)
+{
+    sigset_t all;
+    sigset_t before;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before);
+    std::optional<std::thread> thread;
+    try {
+        thread.emplace(function);
+    } catch (const std::system_error &) {
+        thread.reset();
+    }
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    return thread;
+}
+
+// Waits until the request has ended, or nothing came for too long, or its time is up.
+bool endsInTime(Request &request, std::unique_lock<std::mutex> &lock, Milliseconds altogether)
+{
+    const Clock::time_point start = Clock::now();
+    Clock::time_point lastProgress = start;
+    time_t lastActivity = 0;
+    while (!request.changed.wait_for(lock, watchInterval, [&request] { return request.hasEnded; })) {
+        const Clock::time_point now = Clock::now();
+        const time_t activity = request.http ? httpGetActivity(request.http) : 0;
+        if (activity != lastActivity)
+            lastProgress = now;
+        lastActivity = activity;
+        if (now - lastProgress >= limits.withoutProgress || now - start >= altogether)
+            return false;
+    }
+    return true;
+}
+
+// Ends a request whose time is up. Returns whether its thread has ended.
+bool giveUp(Request &request, std::unique_lock<std::mutex> &lock)
+{
+    request.isGivenUp = true;
+    request.cancelsConnecting = 1;
+    for (int i = 0; i < shutDowns; ++i) {
+        if (request.http)
+            shutdown(httpGetFd(request.http), SHUT_RDWR);
+        if (request.changed.wait_for(lock, shutDownInterval, [&request] { return request.hasEnded; }))
+            return true;
+    }
+    return false;
+}
+
+void rememberTimeOut()
+{
+    Scheduler::setLastError(QCoreApplication::translate("CupsSupport", "The print server did not answer in time."));
+    leaveAloneUntil = Clock::now() + limits.withoutProgress;
+}
+
+bool askWithin(const Work &work, Milliseconds altogether)
+{
+    const Identity identity;
+    const auto request = std::make_shared<Request>();
+    http_t *http = nullptr;
+    if (identity.isLocalSocket()) {
+        // Without a name to look up this takes no time, and where nobody listens no thread is needed.
+        http = connect(nullptr);
+        if (!http) {
+            errorText = cupsLastErrorString();
+            return false;
+        }
+    }
+    std::optional<std::thread> thread = startThread([=] { run(request, work, identity, http); });
+    if (!thread) {
+        httpClose(http);
+        return false;
+    }
+    std::unique_lock lock(request->mutex);
+    const bool isInTime = endsInTime(*request, lock, altogether);
+    const bool hasEnded = isInTime || giveUp(*request, lock);
+    lock.unlock();
+    hasEnded ? thread->join() : thread->detach();
+    if (!isInTime) {
+        rememberTimeOut();
+        return false;
+    }
+    // After a success libcups' text is about whatever the system last complained of.
+    const bool isSuccess = request->status < IPP_STATUS_REDIRECTION_OTHER_SITE;
+    errorText = isSuccess ? QByteArray(ippErrorString(IPP_STATUS_OK)) : request->message;
+    return request->isConnected;
 }
 
 } // namespace
 
-SchedulerConnection::SchedulerConnection()
+bool Scheduler::ask(const Work &work)
 {
-    if (isSilent())
-        return;
+    if (isLeftAlone())
+        return false;
     const Clock::time_point start = Clock::now();
-    http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, patienceMs, nullptr);
-    // Not httpSetTimeout(): libcups then looks twice whether there is something to read before each of its tiny reads, and
-    // the destinations take more than twice as long.
-    if (http && !answers(http))
-        leaveAlone();
-    else if (http)
-        httpReconnect2(http, patienceMs, nullptr);
-    else if (Clock::now() - start >= std::chrono::milliseconds(patienceMs))
-        leaveAlone();
-    usable = !isSilent();
+    const bool isAnswered = askWithin(work, action.left());
+    action.add(Clock::now() - start);
+    return isAnswered;
 }
 
-SchedulerConnection::~SchedulerConnection()
+bool Scheduler::askToPrint(const Work &work, qint64 size)
 {
-    httpClose(http);
+    return !isLeftAlone() && askWithin(work, limits.altogether + std::chrono::seconds(size / slowestNetwork));
 }
 
-bool SchedulerConnection::isSilent()
+bool Scheduler::isWaitedFor()
+{
+    return !ownRequest->isGivenUp;
+}
+
+bool Scheduler::isLeftAlone()
 {
     return Clock::now() < leaveAloneUntil;
 }
 
-SchedulerOutOfReach::SchedulerOutOfReach()
-    : server(cupsServer())
+void Scheduler::leaveAlone()
 {
-    cupsSetServer("/nonexistent");
+    setLastError(QCoreApplication::translate("CupsSupport", "The print server broke off in the middle of an answer."));
+    leaveAloneUntil = Clock::now() + limits.withoutProgress;
 }
 
-SchedulerOutOfReach::~SchedulerOutOfReach()
+const char *Scheduler::lastError()
 {
-    cupsSetServer(server.constData());
+    return errorText.isNull() ? cupsLastErrorString() : errorText.constData();
+}
+
+void Scheduler::setLastError(const QString &text)
+{
+    errorText = text.toUtf8();
+}
+
+void Scheduler::callWithoutScheduler(const std::function<void()> &function)
+{
+    std::optional<std::thread> thread = startThread([&function] {
+        cupsSetServer("/nonexistent");
+        function();
+    });
+    if (thread)
+        thread->join();
+    else
+        function(); // in a system so short of everything it will hardly be answered
+}
+
+void Scheduler::setLimits(const Limits &newLimits)
+{
+    limits = newLimits;
+    leaveAloneUntil = {};
+    action = {};
 }

@@ -4,66 +4,72 @@
 #ifndef SCHEDULER_H
 #define SCHEDULER_H
 
-#include <QByteArray>
+#include <QString>
 
 #include <cups/http.h>
 
+#include <chrono>
+#include <functional>
+
 /**
- * A connection to the scheduler of this user, made only if the scheduler answers.
+ * The scheduler of this user, asked without waiting for long.
  *
- * libcups' own default connection waits for minutes when the scheduler accepts requests and never answers, and the
- * dialogs would freeze with it.
+ * libcups waits for minutes, in some calls for ever, when a scheduler accepts a request and does not answer, stops in the
+ * middle of an answer or sends it byte by byte. Each request therefore runs on a thread of its own, whose connection is
+ * shut down when its time is up.
  *
- * A scheduler that stops in the middle of an answer is still waited for. The price of a limit there is paid by everybody:
- * libcups then takes more than twice as long to read the destinations.
+ * The thread also keeps the host's libcups as it is: libcups has a server, a default connection and a password callback
+ * for each thread, and no call that returns the callback, so what is replaced on the host's thread could not be put back.
+ *
+ * To be used from the GUI thread only.
  */
-class SchedulerConnection
+namespace Scheduler {
+
+using Milliseconds = std::chrono::milliseconds;
+
+/** How long the scheduler may take. */
+struct Limits
 {
-public:
-    /** How long the scheduler may take to answer, and for how long a silent scheduler is then left alone. */
-    static constexpr int patienceMs = 4000;
-
-    SchedulerConnection();
-    ~SchedulerConnection();
-
-    SchedulerConnection(const SchedulerConnection &) = delete;
-    SchedulerConnection &operator=(const SchedulerConnection &) = delete;
-
-    /** False when the scheduler did not answer, now or a moment ago. */
-    bool isUsable() const { return usable; }
-
-    /** Whether the scheduler accepted a request a moment ago and did not answer it in time. */
-    static bool isSilent();
-
-    /**
-     * The connection to hand to libcups, owned by this object; only for use when isUsable().
-     *
-     * Null when the scheduler refused the connection at once. For libcups that means its own default connection, which is
-     * refused as well, and then cupsLastErrorString() tells the user so.
-     */
-    http_t *get() const { return http; }
-
-private:
-    http_t *http = nullptr;
-    bool usable = false;
+    Milliseconds withoutProgress{5000}; ///< not a byte; also, for how long it is then left alone
+    Milliseconds altogether{15000}; ///< all requests of one action of the user
 };
 
 /**
- * Takes the scheduler out of reach of libcups' own default connection while it lives.
- *
- * Qt's printer objects use that connection, and wait without a limit.
+ * What to do with the connection. It runs on another thread, which may go on for a while after the request was given up: it
+ * has to own all that it touches, and may use libcups alone.
  */
-class SchedulerOutOfReach
-{
-public:
-    SchedulerOutOfReach();
-    ~SchedulerOutOfReach();
+using Work = std::function<void(http_t *)>;
 
-    SchedulerOutOfReach(const SchedulerOutOfReach &) = delete;
-    SchedulerOutOfReach &operator=(const SchedulerOutOfReach &) = delete;
+/** Has @p work done. Returns whether it ended in time; false also without a scheduler, and a moment after a time-out. */
+bool ask(const Work &work);
 
-private:
-    const QByteArray server;
-};
+/** The same for a job whose documents have @p size bytes; sending them may take longer than other requests. */
+bool askToPrint(const Work &work, qint64 size);
+
+/** For @p work of several steps: whether somebody still waits for it, so that the next step makes sense. */
+bool isWaitedFor();
+
+/** Whether a request was not answered in time a moment ago, so that the scheduler is not asked now. */
+bool isLeftAlone();
+
+/** Does not ask the scheduler for a moment, because it broke off in the middle of an answer. */
+void leaveAlone();
+
+/** Why the last request failed, as a text for the user; valid until the next request. */
+const char *lastError();
+
+/** Replaces what libcups said of the last request. */
+void setLastError(const QString &text);
+
+/**
+ * Calls @p function, which makes Qt use libcups, with no scheduler in reach. It runs on a thread of its own, so that
+ * neither the server nor the password callback of the host's thread is touched; Qt replaces the latter.
+ */
+void callWithoutScheduler(const std::function<void()> &function);
+
+/** For tests, which cannot wait that long. */
+void setLimits(const Limits &limits);
+
+} // namespace Scheduler
 
 #endif

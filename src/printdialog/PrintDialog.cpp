@@ -356,7 +356,7 @@ void PrintDialog::changePrinter(int index)
     cups->setCurrentPrinter(index);
     // Qt would wait for a scheduler that does not answer, without a limit. Kept from it, it would stay with the old printer
     // and later print there what the user sent elsewhere.
-    if (SchedulerConnection::isSilent()) {
+    if (Scheduler::isLeftAlone()) {
         cups->setCurrentPrinter(initialIndex);
         reject();
         return;

@@ -9,8 +9,8 @@
 #include "properties/Translation.h"
 
 #include <QApplication>
+#include <QPrintEngine>
 #include <QPrinter>
-#include <QPrinterInfo>
 
 #include <optional>
 
@@ -28,17 +28,12 @@ bool hasDisplay()
 int runDialog()
 {
     const Translation translation;
-    // The printer object is destroyed last but made after the other, whose waits for the scheduler have a limit: QPrinter's
-    // have none. It is kept from a scheduler that does not answer, and then prints to PDF.
+    // Qt would ask the scheduler for all destinations and the PPD file once more, and wait for it without a limit. Nothing
+    // is printed with this printer object: of its queue it only has to know the name.
     std::optional<QPrinter> printer;
+    Scheduler::callWithoutScheduler([&printer] { printer.emplace(QPrinter::ScreenResolution); });
     CupsSupport cups;
-    if (SchedulerConnection::isSilent()) {
-        const SchedulerOutOfReach guard;
-        printer.emplace(QPrinter::ScreenResolution);
-    } else {
-        // Told which printer is meant, it does not fetch all destinations once more to find the default one.
-        printer.emplace(QPrinterInfo::printerInfo(cups.getCurrentQueueName()), QPrinter::ScreenResolution);
-    }
+    printer->printEngine()->setProperty(QPrintEngine::PPK_PrinterName, cups.getCurrentQueueName());
     PrintPropertiesDialog dialog(nullptr, &*printer, &cups);
     return dialog.exec();
 }

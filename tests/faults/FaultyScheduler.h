@@ -13,13 +13,17 @@
 #include <cstdlib>
 
 #include <csignal>
+#include <poll.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-/** What clients find on a socket instead of a scheduler, for the time of this object; a process of its own. */
+/**
+ * What clients find on a socket instead of a scheduler, for the time of this object; a process of its own. Some faults are
+ * those of something between the client and a real scheduler.
+ */
 class FaultyScheduler
 {
 public:
@@ -30,9 +34,18 @@ public:
         Garbage,
         HttpGarbage,
         Password,
+        // between the client and a scheduler:
+        OnlyOptions, // what is asked by other methods is not passed on
+        HalfAnswer, // and then nothing
+        ByteByByte, // after the first few hundred
+        WrongLength, // announces more than comes
+        PpdFileStops, // all else is passed on
+        PpdFileBreaksOff,
     };
 
-    FaultyScheduler(const QString &path, Fault fault)
+    /** @param upstream the socket of the scheduler, for the faults that need one. */
+    FaultyScheduler(const QString &path, Fault fault, const QString &upstream = {})
+        : schedulerPath(upstream)
     {
         QFile::remove(path);
         const int listener = open(path, true, fault == NeverAccepts ? 0 : 100);
@@ -72,29 +85,104 @@ private:
         return fd;
     }
 
-    [[noreturn]] static void serve(int listener, Fault fault)
+    [[noreturn]] void serve(int listener, Fault fault)
     {
         std::signal(SIGCHLD, SIG_IGN);
         std::signal(SIGPIPE, SIG_IGN);
         while (fault != NeverAccepts) {
             const int client = accept(listener, nullptr, nullptr);
-            const pid_t server = getpid();
+            const pid_t self = getpid();
             if (fork() == 0) {
                 prctl(PR_SET_PDEATHSIG, SIGKILL);
-                if (getppid() == server)
-                    answer(client, fault);
+                if (getppid() == self)
+                    schedulerPath.isEmpty() ? answer(client, fault) : relay(client, open(schedulerPath, false), fault);
                 std::_Exit(EXIT_SUCCESS);
             }
             close(client);
         }
-        for (;;)
-            pause();
+        stall();
     }
 
     static void say(int client, const QByteArray &text)
     {
         if (write(client, text.constData(), std::size_t(text.size())) < 0)
             std::_Exit(EXIT_FAILURE);
+    }
+
+    [[noreturn]] static void stall()
+    {
+        for (;;)
+            pause();
+    }
+
+    // Passes on what both say, until the fault shows.
+    static void relay(int client, int scheduler, Fault fault)
+    {
+        QByteArray request;
+        qsizetype passedOn = 0; // of the answer to it
+        for (;;) {
+            pollfd ends[] = {{client, POLLIN, 0}, {scheduler, POLLIN, 0}};
+            poll(ends, 2, -1);
+            char buffer[4096];
+            if (ends[0].revents != 0) {
+                const ssize_t count = read(client, buffer, sizeof buffer);
+                if (count <= 0)
+                    return;
+                if (passedOn > 0)
+                    request.clear();
+                passedOn = 0;
+                request.append(buffer, int(count));
+                if (fault == OnlyOptions && !request.startsWith("OPTIONS"))
+                    stall();
+                say(scheduler, QByteArray(buffer, int(count)));
+                continue;
+            }
+            const ssize_t count = read(scheduler, buffer, sizeof buffer);
+            if (count <= 0)
+                return;
+            QByteArray part(buffer, int(count));
+            if (part.startsWith("HTTP/1.1 100")) {
+                // That the client may go on is not the answer yet.
+                const auto end = part.indexOf("\r\n\r\n") + 4;
+                say(client, part.left(end));
+                part.remove(0, end);
+            }
+            spoil(client, fault, request, passedOn, part);
+            say(client, part);
+            passedOn += part.size();
+        }
+    }
+
+    // Does what is wrong with an answer of which @p part comes next.
+    static void spoil(int client, Fault fault, const QByteArray &request, qsizetype passedOn, QByteArray &part)
+    {
+        const qsizetype good = 400; // in the middle of all answers, and behind their heads
+        const bool isPpdFile = request.startsWith("GET ");
+        switch (fault) {
+        case WrongLength:
+            if (const auto at = part.indexOf("Content-Length: "); at >= 0)
+                part.insert(at + int(qstrlen("Content-Length: ")), '9');
+            return;
+        case PpdFileStops:
+        case PpdFileBreaksOff:
+            if (!isPpdFile)
+                return;
+            break;
+        default:
+            break;
+        }
+        if (passedOn + part.size() <= good)
+            return;
+        say(client, part.left(int(good - passedOn)));
+        if (fault == PpdFileBreaksOff)
+            std::_Exit(EXIT_SUCCESS);
+        if (fault != ByteByByte)
+            stall();
+        for (qsizetype i = good - passedOn; i < part.size(); ++i) {
+            usleep(200000);
+            say(client, QByteArray(1, part.at(int(i))));
+        }
+        stall();
     }
 
     static void answer(int client, Fault fault)
@@ -112,8 +200,7 @@ private:
         default:
             break;
         }
-        for (;;)
-            pause();
+        stall();
     }
 
     static QByteArray text(Fault fault)
@@ -131,6 +218,7 @@ private:
         }
     }
 
+    const QString schedulerPath;
     pid_t server;
 };
 

@@ -17,17 +17,26 @@
 
 #include <cstdio>
 #include <functional>
+#include <future>
 #include <memory>
+#include <vector>
 
 using namespace CupsMembers;
+using namespace std::chrono_literals;
 
 namespace {
 
-// What may wait twice: once for each of two requests that are sent on connections of their own. The rest is for a machine
-// that is busy; without a limit a call waits for ever.
-const qint64 longest = 2 * SchedulerConnection::patienceMs + 40000;
+// So that this test takes seconds, not minutes. Progress is noticed once a second.
+const Scheduler::Limits shortLimits{1500ms, 3000ms};
 
-// ----- dialogs, in processes of their own -----
+// For a scheduler that is known not to answer.
+const Scheduler::Limits shortestLimits{300ms, 900ms};
+
+// The longest that one action of the user may take. The rest is for a machine that is busy; without limits it takes minutes
+// or for ever.
+const qint64 longest = 3000 + 20000;
+
+// ----- actions, in processes of their own; each prints how many milliseconds it took -----
 
 // Runs the function with each dialog that opens, until the process ends.
 void onEachDialog(const std::function<void(QWidget *)> &function)
@@ -51,43 +60,52 @@ void refuse(QWidget *dialog)
     qobject_cast<QDialog *>(dialog)->reject();
 }
 
-int result(bool good, const QElapsedTimer &timer)
+int result(bool good, qint64 elapsed)
 {
-    std::printf("%lld", static_cast<long long>(timer.elapsed()));
+    std::printf("%lld\n", static_cast<long long>(elapsed));
     return good ? 0 : 1;
 }
 
+int result(bool good, const QElapsedTimer &timer)
+{
+    return result(good, timer.elapsed());
+}
+
+// Until it is shown and until it has applied; both have a time limit of their own, since the user acts in between.
 int wholeDialog(int &argc, char **argv)
 {
+    Scheduler::setLimits(shortLimits);
     QElapsedTimer timer;
     timer.start();
     const QApplication app(argc, argv);
-    bool isShown = false;
+    qint64 shown = -1;
+    qint64 applied = -1;
     onEachDialog([&](QWidget *dialog) {
         if (qobject_cast<PrintPropertiesDialog *>(dialog) == nullptr)
             return refuse(dialog);
-        isShown = isShown || dialog->isVisible();
+        shown = timer.restart();
+        dialog->findChild<QSlider *>("darknessSlider")->setValue(12);
         click(dialog, "applyButton");
+        applied = timer.elapsed();
         click(dialog, "cancelButton");
     });
-    const bool good = propertiesDialog() == 0 && isShown;
-    return result(good, timer);
+    const bool good = propertiesDialog() == 0 && shown >= 0;
+    return result(good, shown) + result(good, applied);
 }
 const TestMain::ChildFunction wholeDialogFunction("whole-dialog", wholeDialog);
 
 int printDialog(int &argc, char **argv)
 {
+    Scheduler::setLimits(shortLimits);
+    const QApplication app(argc, argv);
+    // The host's QPrinter is the host's business: this one has not met the scheduler.
+    std::unique_ptr<QPrinter> printer;
+    Scheduler::callWithoutScheduler([&printer] { printer = std::make_unique<QPrinter>(); });
     QElapsedTimer timer;
     timer.start();
-    const QApplication app(argc, argv);
     CupsSupport cups;
-    // The host's QPrinter is the host's business: this one has not met the scheduler.
-    const QByteArray server = cupsServer();
-    cupsSetServer("/nonexistent");
-    QPrinter printer(QPrinter::ScreenResolution);
-    cupsSetServer(server.constData());
     onEachDialog(refuse);
-    PrintDialog dialog(nullptr, &printer, &cups);
+    PrintDialog dialog(nullptr, printer.get(), &cups);
     dialog.show();
     dialog.findChild<QAbstractButton *>("chkDefaultPrinter")->click();
     dialog.findChild<QAbstractButton *>("chkDefaultPrinter")->click();
@@ -96,18 +114,55 @@ int printDialog(int &argc, char **argv)
 }
 const TestMain::ChildFunction printDialogFunction("print-dialog", printDialog);
 
-int allMembers(int &argc, char **argv)
+// On a queue that was fetched while all was well: SOCKET, which then answers no more as it should
+int printJob(int &argc, char **argv)
 {
-    QElapsedTimer timer;
-    timer.start();
+    Scheduler::setLimits(shortLimits);
     const QCoreApplication app(argc, argv);
     CupsSupport cups;
-    const bool good = cups.getDestCount() == 0;
+    cupsSetServer(argv[1]);
+    QElapsedTimer timer;
+    timer.start();
+    const int job = cups.printFile(document(), "", "title", {});
+    const QByteArray error = CupsSupport::getCupsError();
+    std::fprintf(stderr, "%d: %s\n", job, error.constData());
+    // When the answer to the last request alone is lost, there is a job.
+    return result(job > 0 || (!error.isEmpty() && error != "successful-ok"), timer);
+}
+const TestMain::ChildFunction printJobFunction("print-job", printJob);
+
+int allMembers(int &argc, char **argv)
+{
+    Scheduler::setLimits(shortLimits);
+    const QCoreApplication app(argc, argv);
+    QElapsedTimer timer;
+    timer.start();
+    CupsSupport cups;
     for (const Member &member : all())
         member.call(cups);
-    return result(good, timer);
+    return result(true, timer);
 }
 const TestMain::ChildFunction allMembersFunction("all-members", allMembers);
+
+int openPatiently(int &argc, char **argv)
+{
+    const QCoreApplication app(argc, argv);
+    QElapsedTimer timer;
+    timer.start();
+    const CupsSupport cups;
+    const bool namesTheTimeOut = QByteArray(CupsSupport::getCupsError()).contains("did not answer in time");
+    return result(cups.getDestCount() == 0 && namesTheTimeOut, timer);
+}
+const TestMain::ChildFunction openPatientlyFunction("open-patiently", openPatiently);
+
+int openBrokenPpdFile(int &argc, char **argv)
+{
+    const QCoreApplication app(argc, argv);
+    const CupsSupport cups;
+    const bool isNone = cups.getDestCount() == 3 && cups.getPpdFile() == nullptr;
+    return isNone && QByteArray(CupsSupport::getCupsError()).contains("broke off") ? 0 : 1;
+}
+const TestMain::ChildFunction openBrokenPpdFileFunction("open-broken-ppd-file", openBrokenPpdFile);
 
 // ----- while a dialog is open -----
 
@@ -151,12 +206,14 @@ const QList<Action> &actions()
 // The scheduler falls silent while the dialog is open: PROCESS ACTION
 int fallSilent(int &argc, char **argv)
 {
+    Scheduler::setLimits(shortLimits);
     const QApplication app(argc, argv);
     const pid_t scheduler = QByteArray(argv[1]).toInt();
     OpenDialog open;
     open.slide("darknessSlider", 12);
     QElapsedTimer timer;
     timer.start();
+    Scheduler::setLimits(shortestLimits);
     kill(scheduler, SIGSTOP);
     actions().at(QByteArray(argv[2]).toInt()).act(open);
     QCoreApplication::processEvents();
@@ -170,6 +227,7 @@ const TestMain::ChildFunction fallSilentFunction("fall-silent", fallSilent);
 // Another printer is chosen in the print dialog after the scheduler has fallen silent: PROCESS
 int changePrinter(int &argc, char **argv)
 {
+    Scheduler::setLimits(shortLimits);
     const QApplication app(argc, argv);
     const pid_t scheduler = QByteArray(argv[1]).toInt();
     QPrinter printer(QPrinter::ScreenResolution);
@@ -180,6 +238,7 @@ int changePrinter(int &argc, char **argv)
     dialog.findChild<QComboBox *>("cboPrinterName")->setCurrentIndex(1);
     QElapsedTimer timer;
     timer.start();
+    Scheduler::setLimits(shortestLimits);
     kill(scheduler, SIGSTOP);
     click(&dialog, "yesButton_2");
     // Not accepted: the QPrinter could not be told.
@@ -194,6 +253,25 @@ const QByteArray storedBefore =
     "Dest Gone Darkness=3\nDest LP1 Darkness=5 Back=30 CutMedia=2 JobEnd=end Overlap=9 Stop=7.000\n"
     "Dest LP2 Darkness=4\n";
 
+const QList<std::pair<FaultyScheduler::Fault, const char *>> &faults()
+{
+    static const QList<std::pair<FaultyScheduler::Fault, const char *>> list{
+        {FaultyScheduler::NeverAnswers, "never answers"},
+        {FaultyScheduler::NeverAccepts, "never accepts"},
+        {FaultyScheduler::Closes, "closes at once"},
+        {FaultyScheduler::Garbage, "answers garbage"},
+        {FaultyScheduler::HttpGarbage, "answers garbage in HTTP"},
+        {FaultyScheduler::Password, "wants a password"},
+        {FaultyScheduler::OnlyOptions, "answers OPTIONS alone"},
+        {FaultyScheduler::HalfAnswer, "half an answer"},
+        {FaultyScheduler::ByteByByte, "byte by byte"},
+        {FaultyScheduler::WrongLength, "wrong length"},
+        {FaultyScheduler::PpdFileStops, "PPD file stops midway"},
+        {FaultyScheduler::PpdFileBreaksOff, "PPD file breaks off"},
+    };
+    return list;
+}
+
 } // namespace
 
 // A scheduler that does not answer costs a few seconds and no settings.
@@ -207,18 +285,29 @@ private slots:
 
     void member_data();
     void member();
-    void fromTheStart_data();
-    void fromTheStart();
+    void fault_data();
+    void fault();
+    void usualLimits();
+    void brokenPpdFile();
     void whileOpen_data();
     void whileOpen();
     void printerIsChanged();
     void answersAgain();
 
 private:
-    void runsInTime(const char *function, const QStringList &arguments, const QMap<QString, QString> &environment = {});
+    void runsInTime(const char *function, const QStringList &arguments);
+
+    void startFaults();
+    void collectFaults();
+    QString socketOf(FaultyScheduler::Fault fault) const;
 
     PrivateScheduler scheduler;
     QTemporaryDir folder{"/tmp/pd-XXXXXX"};
+    std::vector<std::unique_ptr<FaultyScheduler>> faulty;
+    std::vector<std::pair<FaultyScheduler::Fault, std::future<TestMain::ChildResult>>> children;
+    std::future<TestMain::ChildResult> patient;
+    QMap<FaultyScheduler::Fault, QList<TestMain::ChildResult>> faultResults;
+    TestMain::ChildResult patientResult;
     Outcomes running;
     Outcomes silent;
     Outcomes noPrinter;
@@ -238,6 +327,9 @@ void SilentSchedulerTest::initTestCase()
     CupsSupport cups;
     running = callEach(cups);
     noPpdFile = callEach(cups, [](CupsSupport &c) { c.setCurrentPrinter(2); });
+    startFaults();
+    collectFaults();
+    Scheduler::setLimits(shortestLimits);
     kill(processOf(scheduler), SIGSTOP);
     silent = callEach(cups);
     noPrinter = callEach(cups, withoutPrinter);
@@ -249,10 +341,47 @@ void SilentSchedulerTest::cleanup()
     kill(processOf(scheduler), SIGCONT);
 }
 
-void SilentSchedulerTest::runsInTime(const char *function, const QStringList &arguments,
-                                     const QMap<QString, QString> &environment)
+// Each action with each fault, in a process and a HOME of its own, all at the same time.
+void SilentSchedulerTest::startFaults()
 {
-    const TestMain::ChildResult result = TestMain::runChild(function, arguments, environment);
+    // The processes are forked before there are other threads.
+    for (const auto &[fault, name] : faults()) {
+        const bool isBetween = fault >= FaultyScheduler::OnlyOptions;
+        faulty.push_back(
+            std::make_unique<FaultyScheduler>(socketOf(fault), fault, isBetween ? scheduler.socket() : QString()));
+    }
+    for (const auto &[fault, name] : faults())
+        for (const char *function : {"all-members", "whole-dialog", "print-dialog", "print-job"}) {
+            const QString home = folder.filePath(QString("%1-%2").arg(int(fault)).arg(function));
+            writeFile(home + "/document.txt", "text\n");
+            const QString socket = socketOf(fault);
+            const bool isLater = qstrcmp(function, "print-job") == 0;
+            const QMap<QString, QString> environment{{"CUPS_SERVER", isLater ? scheduler.socket() : socket},
+                                                     {"HOME", home}};
+            children.emplace_back(fault, std::async(std::launch::async, [=] {
+                                      return TestMain::runChild(function, {socket}, environment);
+                                  }));
+        }
+    patient = std::async(std::launch::async, [socket = socketOf(FaultyScheduler::NeverAnswers)] {
+        return TestMain::runChild("open-patiently", {}, {{"CUPS_SERVER", socket}});
+    });
+}
+
+void SilentSchedulerTest::collectFaults()
+{
+    for (auto &[fault, child] : children)
+        faultResults[fault] << child.get();
+    patientResult = patient.get();
+}
+
+QString SilentSchedulerTest::socketOf(FaultyScheduler::Fault fault) const
+{
+    return folder.filePath(QString("sock%1").arg(int(fault)));
+}
+
+void SilentSchedulerTest::runsInTime(const char *function, const QStringList &arguments)
+{
+    const TestMain::ChildResult result = TestMain::runChild(function, arguments);
     kill(processOf(scheduler), SIGCONT);
     QCOMPARE(result.exitCode, 0);
     QVERIFY(!result.output.isEmpty());
@@ -277,24 +406,38 @@ void SilentSchedulerTest::member()
     QVERIFY2(silent.value(name).elapsed < longest, qPrintable(QString::number(silent.value(name).elapsed)));
 }
 
-void SilentSchedulerTest::fromTheStart_data()
+void SilentSchedulerTest::fault_data()
 {
     QTest::addColumn<FaultyScheduler::Fault>("fault");
-    QTest::newRow("never answers") << FaultyScheduler::NeverAnswers;
-    QTest::newRow("never accepts") << FaultyScheduler::NeverAccepts;
-    QTest::newRow("closes at once") << FaultyScheduler::Closes;
-    QTest::newRow("answers garbage") << FaultyScheduler::Garbage;
-    QTest::newRow("answers garbage in HTTP") << FaultyScheduler::HttpGarbage;
-    QTest::newRow("wants a password") << FaultyScheduler::Password;
+    for (const auto &[fault, name] : faults())
+        QTest::newRow(name) << fault;
 }
 
-void SilentSchedulerTest::fromTheStart()
+void SilentSchedulerTest::fault()
 {
     QFETCH(FaultyScheduler::Fault, fault);
-    const FaultyScheduler faulty(folder.filePath("sock"), fault);
-    const QMap<QString, QString> environment{{"CUPS_SERVER", folder.filePath("sock")}};
-    for (const char *function : {"all-members", "whole-dialog", "print-dialog"})
-        runsInTime(function, {}, environment);
+    for (const TestMain::ChildResult &result : faultResults.value(fault)) {
+        QCOMPARE(result.exitCode, 0);
+        qInfo("%s", result.output.simplified().constData());
+        const QList<QByteArray> times = result.output.simplified().split(' ');
+        for (const QByteArray &elapsed : times)
+            QVERIFY2(elapsed.toLongLong() < longest, result.output.constData());
+    }
+}
+
+// The limits with which users live.
+void SilentSchedulerTest::usualLimits()
+{
+    QCOMPARE(patientResult.exitCode, 0);
+    QVERIFY2(patientResult.output.toLongLong() < 5000 + 20000, patientResult.output.constData());
+}
+
+// A part of a PPD file is none: what the rest declares would be taken for not declared.
+void SilentSchedulerTest::brokenPpdFile()
+{
+    const QString socket = socketOf(FaultyScheduler::PpdFileBreaksOff);
+    const TestMain::ChildResult result = TestMain::runChild("open-broken-ppd-file", {}, {{"CUPS_SERVER", socket}});
+    QCOMPARE(result.exitCode, 0);
 }
 
 void SilentSchedulerTest::whileOpen_data()
