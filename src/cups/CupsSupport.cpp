@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <string>
 #include <utility>
 
 // The PPD interface is deprecated as a whole; label printers have nothing else yet.
@@ -79,8 +80,15 @@ struct Destinations
     Destinations(const Destinations &) = delete;
     Destinations &operator=(const Destinations &) = delete;
 
+    void fetch(http_t *http)
+    {
+        count = cupsGetDests2(http, &list);
+        status = cupsLastError();
+    }
+
     int count = 0;
     cups_dest_t *list = nullptr;
+    ipp_status_t status = IPP_STATUS_OK;
 };
 
 } // namespace
@@ -89,6 +97,7 @@ struct Destinations
 
 struct CupsSupport::Private
 {
+    bool schedulerReachable = false;
     const Dialect *dialect = nullptr; // of the open PPD file; null when that has our own keywords
 
     static const Dialect *dialectOf(const CupsSupport &cups);
@@ -126,9 +135,12 @@ int CupsSupport::getDefaultPrinter()
     if (ppd == &absentPpdFile)
         ppd = nullptr; // another printer may become current, and only an open file stays
     const auto fetched = std::make_shared<Destinations>();
-    if (Scheduler::ask([fetched](http_t *http) { fetched->count = cupsGetDests2(http, &fetched->list); })) {
+    d->schedulerReachable = Scheduler::ask([fetched](http_t *http) { fetched->fetch(http); });
+    if (d->schedulerReachable) {
         destCount = std::exchange(fetched->count, 0);
         dests = std::exchange(fetched->list, nullptr);
+        // Without any printer the scheduler says that it found none.
+        d->schedulerReachable = dests || fetched->status == IPP_STATUS_ERROR_NOT_FOUND;
     }
     if (!dests || destCount < 1)
         return currentIndex;
@@ -187,6 +199,33 @@ QString CupsSupport::getQueueName(int index) const
         return QString();
     const QString name = QString::fromUtf8(dests[index].name);
     return dests[index].instance ? name + QLatin1Char('/') + QString::fromUtf8(dests[index].instance) : name;
+}
+
+int CupsSupport::getQueueIndex(const QString &queueName) const
+{
+    for (int i = 0; i < destCount; ++i)
+        if (getQueueName(i) == queueName)
+            return i;
+    return -1;
+}
+
+QString CupsSupport::getDefaultQueueName() const
+{
+    for (int i = destCount - 1; i >= 0; --i)
+        if (dests[i].is_default)
+            return getQueueName(i);
+    // None of the destinations: one that the environment names, or none at all.
+    const auto name = std::make_shared<std::string>();
+    const bool isAnswered = Scheduler::ask([name](http_t *http) {
+        if (const char *found = cupsGetDefault2(http))
+            *name = found;
+    });
+    return isAnswered ? QString::fromStdString(*name) : QString();
+}
+
+bool CupsSupport::isSchedulerReachable() const
+{
+    return d->schedulerReachable;
 }
 
 QString CupsSupport::getCurrentQueueName() const

@@ -91,8 +91,20 @@ public:
     /** The number of destinations, 0 when there are none or the scheduler could not be reached. */
     int getDestCount() const;
 
-    /** The queue name of destination @p index, with "/instance" where it has one; empty when there is none such. */
+    /** The queue name of destination @p index, with "/instance" where it has one; empty if it does not exist. */
     QString getQueueName(int index) const;
+
+    /** The index of the destination with this queue name, QUEUE or QUEUE/INSTANCE; -1 if it does not exist. */
+    int getQueueIndex(const QString &queueName) const;
+
+    /**
+     * The name of the default queue, QUEUE or QUEUE/INSTANCE, which need not exist: users can name any in LPDEST or
+     * PRINTER. Empty if there is no default.
+     */
+    QString getDefaultQueueName() const;
+
+    /** Whether the scheduler answered when the destinations were last fetched; it may have said that there are none. */
+    bool isSchedulerReachable() const;
 
     /** The queue name of the current destination; empty when there is no printer. */
     QString getCurrentQueueName() const;

@@ -5,51 +5,81 @@
 
 #include "cups/CupsSupport.h"
 #include "cups/Scheduler.h"
+#include "properties/HostLocale.h"
 #include "properties/PrintPropertiesDialog.h"
 #include "properties/Translation.h"
+#include "properties/WindowSystem.h"
 
 #include <QApplication>
 #include <QPrintEngine>
 #include <QPrinter>
+#include <QThread>
 
 #include <optional>
 
 namespace {
 
-// Whether an application object with windows can be made. Qt ends the process of a host that tries without.
-bool hasDisplay()
+// The dialog of this queue; of the default printer if it is null.
+int runDialog(const char *queue)
 {
-    for (const char *variable : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
-        if (!qEnvironmentVariableIsEmpty(variable))
-            return true;
-    return false;
-}
-
-int runDialog()
-{
-    const Translation translation;
     // Qt would ask the scheduler for all destinations and the PPD file once more, and wait for it without a limit. Nothing
     // is printed with this printer object: of its queue it only has to know the name.
     std::optional<QPrinter> printer;
     Scheduler::callWithoutScheduler([&printer] { printer.emplace(QPrinter::ScreenResolution); });
     CupsSupport cups;
+    if (queue) {
+        const int index = cups.getQueueIndex(QString::fromUtf8(queue));
+        if (index < 0)
+            return 0;
+        cups.setCurrentPrinter(index);
+    }
     printer->printEngine()->setProperty(QPrintEngine::PPK_PrinterName, cups.getCurrentQueueName());
     PrintPropertiesDialog dialog(nullptr, &*printer, &cups);
     return dialog.exec();
+}
+
+// In an application that has windows, and in the thread that they belong to.
+int runInApplicationOfHost(const char *queue)
+{
+    const auto *application = qobject_cast<QApplication *>(QCoreApplication::instance());
+    if (!application || application->thread() != QThread::currentThread())
+        return 0;
+    const Translation translation(Translation::OwnTexts);
+    return runDialog(queue);
+}
+
+int runInApplicationOfOurs(const char *queue)
+{
+    const QByteArray name("PropertiesDialog");
+    HostLocale locale; // changed by any application object
+    std::optional<QByteArray> platforms;
+    {
+        WindowSystem::Arguments arguments(name, {});
+        const QCoreApplication withoutWindows(arguments.count(), arguments.values());
+        platforms = WindowSystem::platforms();
+    }
+    if (!platforms)
+        return 0;
+    WindowSystem::Arguments arguments(name, *platforms);
+    const QApplication application(arguments.count(), arguments.values());
+    locale.restoreFormats();
+    const Translation translation(Translation::AllTexts);
+    return runDialog(queue);
+}
+
+int run(const char *queue)
+{
+    return QCoreApplication::instance() ? runInApplicationOfHost(queue) : runInApplicationOfOurs(queue);
 }
 
 } // namespace
 
 int propertiesDialog()
 {
-    if (QCoreApplication::instance())
-        return qobject_cast<QApplication *>(QCoreApplication::instance()) ? runDialog() : 0;
-    if (!hasDisplay())
-        return 0;
+    return run(nullptr);
+}
 
-    int argc = 1;
-    char name[] = "PropertiesDialog";
-    char *argv[] = {name, nullptr};
-    const QApplication application(argc, argv);
-    return runDialog();
+int propertiesDialogFor(const char *queue)
+{
+    return queue && *queue ? run(queue) : 0;
 }

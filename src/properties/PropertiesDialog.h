@@ -14,15 +14,24 @@ extern "C" {
 /**
  * Opens the properties dialog of the default printer and waits until the user closes it.
  *
- * May be called by any program, from its main thread. Where there is no QApplication yet, one is made for the time of
- * the call, so that a host needs no Qt code at all.
+ * May be called by any program, from its main thread. If there is no QApplication yet, one is created for the duration of
+ * the call, so a host needs no Qt code at all; the host's locale (setlocale()) is afterwards what it was before.
  *
- * Its texts are in the language of the default locale unless the host has installed translations of its own.
+ * Texts are in the user's language unless the host has installed translations of its own.
  *
- * @return 1 after OK; 0 after Cancel or closing the window. 0 as well, without a dialog, where none can be shown: in a
- *         process whose application object has no windows (QCoreApplication, QGuiApplication), or without a display.
+ * @return 1 after OK; 0 after Cancel or closing the window. Also 0, without a dialog, if none can be shown: without a
+ *         display that can be reached or a Qt platform plug-in for it, in a process whose application object has no
+ *         windows (QCoreApplication, QGuiApplication), or in another thread than that of the QApplication.
  */
 PROPERTIESDIALOG_EXPORT int propertiesDialog(void);
+
+/**
+ * The same for a queue instead of the default printer.
+ *
+ * @param queue the name of a queue, "QUEUE" or "QUEUE/INSTANCE", in UTF-8.
+ * @return as propertiesDialog(); also 0, without a dialog, if @p queue is null or empty or there is no such queue.
+ */
+PROPERTIESDIALOG_EXPORT int propertiesDialogFor(const char *queue);
 
 #ifdef __cplusplus
 }

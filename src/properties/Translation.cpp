@@ -6,8 +6,11 @@
 #include "BuildConstants.h"
 
 #include <QGuiApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 namespace {
 
@@ -27,17 +30,40 @@ QStringList folders()
                                        QStandardPaths::LocateDirectory);
 }
 
+QString folderOfQt()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+}
+
 } // namespace
 
-Translation::Translation()
+Translation::Translation(Extent extent)
 {
     if (isTranslated())
         return;
     const QStringList candidates = folders();
-    for (const QString &folder : candidates) {
-        if (translator.load(QLocale(), QStringLiteral("propertiesdialog"), QStringLiteral("_"), folder)) {
-            QCoreApplication::installTranslator(&translator);
-            turnAround();
+    const auto loadFrom = [this](const QString &folder) {
+        return translator.load(QLocale(), QStringLiteral("propertiesdialog"), QStringLiteral("_"), folder);
+    };
+    if (std::none_of(candidates.begin(), candidates.end(), loadFrom))
+        return;
+    if (extent == AllTexts)
+        loadTextsOfQt();
+    QCoreApplication::installTranslator(&translator);
+    turnAround();
+}
+
+// In the language of our own texts. Where Qt's are not kept apart by module, one catalogue has them all.
+void Translation::loadTextsOfQt()
+{
+    const QLocale locale(translator.language());
+    for (const char *catalogue : {"qtbase", "qt"}) {
+        if (translatorOfQt.load(locale, QLatin1String(catalogue), QStringLiteral("_"), folderOfQt())) {
+            QCoreApplication::installTranslator(&translatorOfQt);
             return;
         }
     }
@@ -56,6 +82,7 @@ void Translation::turnAround()
 Translation::~Translation()
 {
     QCoreApplication::removeTranslator(&translator);
+    QCoreApplication::removeTranslator(&translatorOfQt);
     if (isTurnedAround)
         QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }

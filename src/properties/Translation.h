@@ -9,22 +9,30 @@
 /**
  * The library's texts in the language of the default locale, for as long as this object lives.
  *
- * Does nothing where the host has installed a catalogue of these texts itself, or where there is none for the language.
+ * Does nothing if the host has installed a catalogue of these texts itself, or if there is none for the language.
  * With texts that are read from the right, windows run from there as well, unless the host has windows of its own.
  */
 class Translation
 {
 public:
-    Translation();
+    /** Which texts to translate: in the application of a host, Qt's own are the host's business. */
+    enum Extent {
+        OwnTexts,
+        AllTexts ///< also Qt's, in context menus and message boxes, in the same language
+    };
+
+    explicit Translation(Extent extent);
     ~Translation();
 
     Translation(const Translation &) = delete;
     Translation &operator=(const Translation &) = delete;
 
 private:
+    void loadTextsOfQt();
     void turnAround();
 
     QTranslator translator;
+    QTranslator translatorOfQt;
     bool isTurnedAround = false;
 };
 

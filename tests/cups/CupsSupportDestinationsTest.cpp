@@ -183,6 +183,8 @@ private slots:
     void serverDefaultIsCurrent();
     void userDefaultIsCurrent_data();
     void userDefaultIsCurrent();
+    void defaultOfEnvironment_data();
+    void defaultOfEnvironment();
     void lastOfSeveralDefaultsWins();
     void constructionOpensNoPpdFile();
     void ppdFileIsOpenedOnce();
@@ -284,7 +286,33 @@ void CupsSupportDestinationsTest::userDefaultIsCurrent()
     QTEST(cups.getDestCount(), "count");
     QTEST(cups.getCurrentIndex(), "index");
     QTEST(cups.getCurrentQueueName(), "name");
+    QCOMPARE(cups.getDefaultQueueName(), file.contains("GONE") ? QString() : cups.getCurrentQueueName());
     QCOMPARE(cups.getDefaultPrinter(), cups.getCurrentIndex());
+}
+
+// What the environment names counts more than the file, also when there is no such queue.
+void CupsSupportDestinationsTest::defaultOfEnvironment_data()
+{
+    QTest::addColumn<QByteArray>("named");
+    QTest::addColumn<QString>("current");
+    QTest::newRow("queue") << QByteArray("LP3") << "LP3";
+    QTest::newRow("instance, which libcups does not flag") << QByteArray("LP1/wide") << "LP1";
+    QTest::newRow("queue that is gone") << QByteArray("GONE") << "LP1";
+}
+
+void CupsSupportDestinationsTest::defaultOfEnvironment()
+{
+    QFETCH(QByteArray, named);
+    QFETCH(QString, current);
+    writeOptionsFile("Dest LP1/wide Darkness=4\nDefault LP2\n");
+    for (const char *variable : {"LPDEST", "PRINTER"}) {
+        qputenv(variable, named);
+        const CupsSupport cups;
+        const QString defaultQueue = cups.getDefaultQueueName();
+        qunsetenv(variable);
+        QCOMPARE(cups.getCurrentQueueName(), current);
+        QCOMPARE(defaultQueue, QString(named));
+    }
 }
 
 void CupsSupportDestinationsTest::lastOfSeveralDefaultsWins()
@@ -608,6 +636,10 @@ void CupsSupportDestinationsTest::queueNames()
         names << cups.getCurrentQueueName();
     }
     QCOMPARE(names, QStringList({"LP1", "LP1/wide", "LP2", "LP3"}));
+    for (int i = 0; i < names.size(); ++i)
+        QCOMPARE(cups.getQueueIndex(names.at(i)), i);
+    for (const char *unknown : {"", "LP", "lp1", "LP1/", "LP1/narrow", "First Printer"})
+        QCOMPARE(cups.getQueueIndex(unknown), -1);
     // An instance is the same printer with options of its own.
     cups.setCurrentPrinter(1);
     QCOMPARE(cups.getDarkness(), 4);

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef WINDOWSYSTEM_H
+#define WINDOWSYSTEM_H
+
+#include <QByteArray>
+
+#include <optional>
+
+/**
+ * Where windows can be shown.
+ *
+ * Qt ends the process, whoever it belongs to, when a QApplication is made and no platform plug-in can be loaded or none
+ * of them reaches its display. So that is found out beforehand.
+ */
+namespace WindowSystem {
+
+/**
+ * The platforms that a QApplication can be made with: a value for Qt's option "-platform"; empty if Qt's own choice will do.
+ * Nothing if there are none.
+ *
+ * Needs a QCoreApplication, which knows the folders of plug-ins.
+ */
+std::optional<QByteArray> platforms();
+
+/** The arguments to make a QApplication with. Must outlive it. */
+class Arguments
+{
+public:
+    /** @param program the name of the program. @param platforms what platforms() found. */
+    Arguments(const QByteArray &program, const QByteArray &platforms);
+
+    Arguments(const Arguments &) = delete;
+    Arguments &operator=(const Arguments &) = delete;
+
+    int &count() { return argc; }
+    char **values() { return argv; }
+
+private:
+    QByteArray texts[3];
+    int argc;
+    char *argv[4];
+};
+
+} // namespace WindowSystem
+
+#endif
