@@ -136,7 +136,7 @@ void HostsTest::goesOnWithoutDisplay()
     QFETCH(QString, language);
     QFETCH(Environment, environment);
     const Result result =
-        Programs::run(host(language, {"C", "1"}), withLibrary(Programs::changed(Programs::noDisplay(), environment)));
+        Programs::run(host(language, {"C", "-"}), withLibrary(Programs::changed(Programs::noDisplay(), environment)));
     QVERIFY2(result.exitStatus == 0, qPrintable(result.errors));
     QVERIFY2(result.output.contains("returned 0\n"), qPrintable(result.output));
 }
@@ -155,7 +155,7 @@ void HostsTest::goesOnWithoutPlugin()
     const QTemporaryDir folder("/tmp/pd-XXXXXX");
     QVERIFY(QFile::copy(PLAIN_C_HOST, folder.filePath("host")));
     writeFile(folder.filePath("qt.conf"), "[Paths]\nPlugins=/nonexistent\n");
-    const Result result = Programs::run({WITH_XVFB, folder.filePath("host"), "C", "1"}, withLibrary(environment));
+    const Result result = Programs::run({WITH_XVFB, folder.filePath("host"), "C", "-"}, withLibrary(environment));
     QVERIFY2(result.exitStatus == 0, qPrintable(result.errors));
     QVERIFY2(result.output.contains("returned 0\n"), qPrintable(result.output));
 }
@@ -180,7 +180,7 @@ void HostsTest::opensOnLiveXServer()
     QFETCH(QString, language);
     QFETCH(Environment, environment);
     const Result result =
-        Programs::press(host(language, {"C", "1"}), {{windowTitle, "Escape"}}, withLibrary(environment));
+        Programs::press(host(language, {"C", "-"}), {{windowTitle, "Escape"}}, withLibrary(environment));
     QVERIFY2(result.exitStatus == 0, qPrintable(result.errors));
     QVERIFY2(result.output.contains("returned 0\n"), qPrintable(result.output));
 }
@@ -211,7 +211,7 @@ void HostsTest::opensOnLiveCompositor()
     environment = Programs::changed({{"WAYLAND_DISPLAY", "pd-wayland"}, {"WAYLAND_DEBUG", "client"}}, environment);
     process.setProcessEnvironment(
         Programs::processEnvironment(withLibrary(Programs::changed(Programs::noDisplay(), environment))));
-    const QStringList command = host(language, {"C", "1"});
+    const QStringList command = host(language, {"C", "-"});
     process.start(command.first(), command.mid(1));
     QByteArray log;
     const bool isShown = QTest::qWaitFor(
@@ -258,9 +258,9 @@ void HostsTest::keepsItsLocale()
     QFETCH(QString, language);
     QFETCH(QString, locale);
     QFETCH(QString, expected);
-    const Result result =
-        Programs::press(host(language, {locale, "2"}), {{windowTitle, "a Escape"}, {windowTitle, "Return"}},
-                        withLibrary({{"LC_ALL", "de_DE.UTF-8"}}));
+    const Result result = Programs::press(host(language, {locale, "-", "First"}),
+                                          {{windowTitle, "a Escape"}, {"First Printing Preferences", "Return"}},
+                                          withLibrary({{"LC_ALL", "de_DE.UTF-8"}}));
     QVERIFY2(result.exitStatus == 0, qPrintable(result.errors));
     QCOMPARE(result.output, QString("%1\nreturned 0\n%1\nreturned 1\n%1\n").arg(expected));
 }
@@ -277,9 +277,9 @@ void HostsTest::keepsFileNames()
 {
     QFETCH(QString, language);
     const QTemporaryDir folder("/tmp/pd-Büro-XXXXXX");
-    const Result result =
-        Programs::press(host(language, {"C", "2"}), {{windowTitle, "Escape"}, {windowTitle, "Return"}},
-                        withLibrary({{"LC_ALL", "de_DE.UTF-8"}, {"HOME", folder.path()}}));
+    const Result result = Programs::press(host(language, {"C", "-", "First"}),
+                                          {{windowTitle, "Escape"}, {"First Printing Preferences", "Return"}},
+                                          withLibrary({{"LC_ALL", "de_DE.UTF-8"}, {"HOME", folder.path()}}));
     QVERIFY2(result.exitStatus == 0, qPrintable(result.errors));
     QVERIFY(QFile::exists(folder.filePath(".cups/lpoptions")));
 }
@@ -301,8 +301,8 @@ void HostsTest::opensQueue()
     QFETCH(QString, queue);
     clearHome();
     scheduler.setUserOptions("First/wide", {"Darkness=3"});
-    const Result result = Programs::press(host(language, {"C", "1", queue}),
-                                          {{queue + " Printing Preferences", "Return"}}, withLibrary({}));
+    const Result result =
+        Programs::press(host(language, {"C", queue}), {{queue + " Printing Preferences", "Return"}}, withLibrary({}));
     QVERIFY2(result.exitStatus == 0, qPrintable(result.errors));
     QVERIFY2(result.output.contains("returned 1\n"), qPrintable(result.output));
     QCOMPARE(fileContent(homePath(".cups/lpoptions")).count("orientation-requested"), 1);
@@ -325,7 +325,7 @@ void HostsTest::noSuchQueue()
     clearHome();
     for (const QString &language : languagesOfHosts()) {
         const Result result =
-            Programs::run(host(language, {"C", "1", queue}), withLibrary({{"QT_QPA_PLATFORM", "offscreen"}}));
+            Programs::run(host(language, {"C", queue}), withLibrary({{"QT_QPA_PLATFORM", "offscreen"}}));
         QVERIFY2(result.exitStatus == 0, qPrintable(result.errors));
         QVERIFY2(result.output.contains("returned 0\n"), qPrintable(result.output));
     }

@@ -2,11 +2,11 @@
 /* SPDX-License-Identifier: MIT */
 
 /*
- * A host in plain C: plain-host LOCALE CALLS [QUEUE]
+ * A host in plain C: plain-host LOCALE QUEUE...
  *
  * Sets the locale as programs do: "C" not at all, "user" by setlocale(LC_ALL, ""), "encoding" by setlocale(LC_CTYPE, "").
- * Then opens the dialog CALLS times, that of the default printer or of a queue, and prints before and after each call its
- * locale and a number, and what each call returned.
+ * Then opens the dialog of each QUEUE, "-" for the default printer. Prints its locale and two numbers before and after each
+ * call, and what the call returned.
  */
 
 #include <dlfcn.h>
@@ -38,7 +38,7 @@ int main(int argc, char **argv)
 {
     int (*propertiesDialog)(void);
     int (*propertiesDialogFor)(const char *);
-    int calls = argc > 2 ? atoi(argv[2]) : 0;
+    int i;
 
     if (!strcmp(argv[1], "user"))
         setlocale(LC_ALL, "");
@@ -53,8 +53,8 @@ int main(int argc, char **argv)
     find("propertiesDialogFor", &propertiesDialogFor);
 
     print_locale();
-    while (calls-- > 0) {
-        printf("returned %d\n", argc > 3 ? propertiesDialogFor(argv[3]) : propertiesDialog());
+    for (i = 2; i < argc; ++i) {
+        printf("returned %d\n", strcmp(argv[i], "-") ? propertiesDialogFor(argv[i]) : propertiesDialog());
         print_locale();
     }
     return 0;

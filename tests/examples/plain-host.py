@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 # SPDX-License-Identifier: MIT
-"""The same host in Python: plain-host.py LOCALE CALLS [QUEUE]. The interpreter itself sets the encoding."""
+"""The same host in Python: plain-host.py LOCALE QUEUE... The interpreter itself sets the encoding."""
 
 import ctypes
 import locale
@@ -20,10 +20,7 @@ def print_locale():
 if sys.argv[1] == "user":
     locale.setlocale(locale.LC_ALL, "")
 print_locale()
-for _ in range(int(sys.argv[2])):
-    if len(sys.argv) > 3:
-        result = library.propertiesDialogFor(sys.argv[3].encode())
-    else:
-        result = library.propertiesDialog()
+for queue in sys.argv[2:]:
+    result = library.propertiesDialog() if queue == "-" else library.propertiesDialogFor(queue.encode())
     print("returned", result, flush=True)
     print_locale()
