@@ -30,7 +30,7 @@ public:
         Failed
     };
 
-    /** @param path a path below root(). New folders belong to the owner of the folder that they are made in. */
+    /** @param path a path below root(), without "..". New folders belong to the owner of the folder that they are made in. */
     PresetFolder(const QString &path, IfMissing ifMissing);
     ~PresetFolder();
 

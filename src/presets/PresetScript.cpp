@@ -111,9 +111,8 @@ bool isControlCharacter(QChar c)
 // empty where it can. Readers look for their keys anywhere: what these begin with is encoded.
 QByteArray unicodeLine(const QString &key, const QString &text)
 {
-    const QString firstLine(
-        text.cbegin(),
-        static_cast<QString::size_type>(std::find_if(text.cbegin(), text.cend(), isControlCharacter) - text.cbegin()));
+    const auto end = std::find_if(text.cbegin(), text.cend(), isControlCharacter);
+    const QString firstLine = text.left(static_cast<QString::size_type>(end - text.cbegin()));
     if (std::all_of(firstLine.cbegin(), firstLine.cend(), [](QChar c) { return c.unicode() <= lastAsciiCharacter; }))
         return {};
     QByteArray value = firstLine.toUtf8();
@@ -121,14 +120,13 @@ QByteArray unicodeLine(const QString &key, const QString &text)
     return '#' + key.toLatin1() + unicodeMark + '=' + value + '\n';
 }
 
-// Whether a shell takes the name of a queue for that and nothing more.
+// Whether a shell takes the name of a queue for that and nothing more. What Latin-1 lacks becomes "?".
 bool isPlain(const QString &queue)
 {
-    return std::all_of(
-        queue.cbegin(), queue.cend(),
-        [](QChar c) {
-            return c.isLetterOrNumber() ? c.unicode() <= lastLatin1Character : QString(harmlessMarks).contains(c);
-        });
+    const QString marks = harmlessMarks;
+    return std::all_of(queue.cbegin(), queue.cend(), [&marks](QChar c) {
+        return marks.contains(c) || (c.isLetterOrNumber() && c.unicode() <= lastLatin1Character);
+    });
 }
 
 // A value as the shell is to see it. Only blanks make for quotes; whatever else means something to a shell is written
@@ -320,10 +318,11 @@ bool PresetScript::parseText(const QByteArray &data, const QString &key, QString
     const auto found = data.lastIndexOf(start); // what else may begin so stands above
     if (found < 0)
         return true;
-    const auto begin = found + start.size();
-    const auto end = data.indexOf('\n', begin);
+    // With the sign before it: at the start of a text fromUtf8() drops a byte order mark.
+    const auto sign = found + start.size() - 1;
+    const auto end = data.indexOf('\n', sign);
     const QString whole =
-        QString::fromUtf8(QByteArray::fromPercentEncoding(data.mid(begin, end < 0 ? -1 : end - begin)));
+        QString::fromUtf8(QByteArray::fromPercentEncoding(data.mid(sign, end < 0 ? -1 : end - sign))).mid(1);
     // Somebody who knows nothing of this line has changed the other one since: that is the newer one.
     if (attributeBytes(data, key) == whole.toLatin1())
         value = whole;

@@ -10,6 +10,7 @@
 #include <PropertiesDialog/Presets.h>
 
 #include <QGroupBox>
+#include <QProcess>
 #include <QTabWidget>
 
 #include <functional>
@@ -32,7 +33,8 @@ class LoggedPrograms
 public:
     LoggedPrograms()
     {
-        for (const char *name : {"bash", "sh", "env", "lp", "lpoptions", "lpadmin", "touch", "ppdhack", "ppdhackX"}) {
+        for (const char *name :
+             {"bash", "sh", "env", "id", "lp", "lpoptions", "lpadmin", "touch", "ppdhack", "ppdhackX", "x", "y"}) {
             writeFile(folder.filePath(name), "#!/bin/sh\necho \"${0##*/} $*\" >> \"${0%/*}/log\"\n");
             QFile::setPermissions(folder.filePath(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         }
@@ -133,6 +135,80 @@ const QList<std::pair<const char *, MakeFile>> &kinds()
     return list;
 }
 
+// ----- what is not ours -----
+
+// Everything in HOME but the settings: names, kinds, permissions, link counts and contents.
+QStringList belongings(const QString &path = QDir::homePath())
+{
+    QStringList list;
+    const QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    const QFileInfoList entries = QDir(path).entryInfoList(everything, QDir::Name);
+    for (const QFileInfo &entry : entries) {
+        if (entry.filePath() == cupsFolder())
+            continue;
+        struct stat status = {};
+        check(lstat(QFile::encodeName(entry.filePath()).constData(), &status) == 0, "list");
+        list << QString("%1 %2 %3").arg(entry.filePath()).arg(status.st_mode, 0, 8).arg(status.st_ino)
+                    + (S_ISREG(status.st_mode) ? fileContent(entry.filePath()) : QByteArray());
+        if (S_ISDIR(status.st_mode))
+            list << belongings(entry.filePath());
+    }
+    return list;
+}
+
+// The places in a queue's folder to which the dialog writes: the settings last applied, a new preset, a changed preset
+// and the link.
+const QList<QByteArray> &writtenPlaces()
+{
+    static const QList<QByteArray> list{"_current.sh", "Preset.sh", "A.sh", "currentPreset"};
+    return list;
+}
+
+using MakeFolder = std::function<void(const QByteArray &folder)>;
+
+// The same link in each of the places.
+MakeFolder linksTo(const QByteArray &target)
+{
+    return [target](const QByteArray &folder) {
+        for (const QByteArray &place : writtenPlaces())
+            makeLink(target, folder + '/' + place);
+    };
+}
+
+void makeChains(const QByteArray &folder)
+{
+    makeLink("../../.bashrc", folder + "/last");
+    makeLink("last", folder + "/middle");
+    linksTo("middle")(folder);
+}
+
+void makeHardLinks(const QByteArray &folder)
+{
+    for (const QByteArray &place : writtenPlaces())
+        check(link(QFile::encodeName(homePath(".bashrc")).constData(), (folder + '/' + place).constData()) == 0,
+              "hard link");
+}
+
+void makeFolders(const QByteArray &folder)
+{
+    for (const QByteArray &place : writtenPlaces())
+        check(mkdir((folder + '/' + place).constData(), 0700) == 0, "folder");
+}
+
+void makePipes(const QByteArray &folder)
+{
+    for (const QByteArray &place : writtenPlaces())
+        makePipe(folder + '/' + place);
+}
+
+MakeFolder linkInPlace(const QByteArray &target)
+{
+    return [target](const QByteArray &folder) {
+        check(rmdir(folder.constData()) == 0, "place for a link");
+        makeLink(target, folder);
+    };
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(MakeFile)
@@ -152,6 +228,8 @@ private slots:
     void savingRunsTheDriverAlone();
     void kindOfFile_data();
     void kindOfFile();
+    void planted_data();
+    void planted();
     void printerName_data();
     void printerName();
 
@@ -161,7 +239,7 @@ private:
 
 void ForeignTest::initTestCase()
 {
-    for (const char *queue : {"LP1", "..", "$(id)"})
+    for (const char *queue : {"LP1", "..", "$(id)", "q&x;y$z"})
         scheduler.addQueue(queue);
 }
 
@@ -276,12 +354,76 @@ void ForeignTest::kindOfFile()
     QVERIFY(!QFile::exists(marker()));
 }
 
+void ForeignTest::planted_data()
+{
+    QTest::addColumn<MakeFolder>("make");
+    QTest::addColumn<bool>("isSaved");
+    const auto row = [](const char *name, const MakeFolder &make, bool isSaved) {
+        QTest::newRow(name) << make << isSaved;
+    };
+    row("links", linksTo("../../.bashrc"), true);
+    row("links by path", linksTo(QFile::encodeName(homePath(".bashrc"))), true);
+    row("links to nothing", linksTo("../../.profile"), true);
+    row("links to a folder", linksTo("../../.ssh"), true);
+    row("links to a folder's file to be", linksTo("../../.ssh/authorized_keys"), true);
+    row("links to a pipe", linksTo("../../pipe"), true);
+    row("links to themselves", linksTo("_current.sh"), true);
+    row("chains of links", makeChains, true);
+    row("hard links", makeHardLinks, true);
+    row("folders", makeFolders, false);
+    row("pipes", makePipes, false);
+    row("link for the folder", linkInPlace("../.ssh"), false);
+    row("link to nothing for the folder", linkInPlace("../new"), false);
+    row("link to a file for the folder", linkInPlace("../.bashrc"), false);
+}
+
+// Whatever somebody has put into the folder, saving changes nothing outside it.
+void ForeignTest::planted()
+{
+    QFETCH(MakeFolder, make);
+    QFETCH(bool, isSaved);
+    writeFile(homePath(".bashrc"), "# the user's\n");
+    QVERIFY(QFile::setPermissions(homePath(".bashrc"), QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(QDir().mkpath(homePath(".ssh")) && QDir().mkpath(cupsFolder() + "/LP1"));
+    writeFile(homePath(".ssh/A.sh"), "#name=Alpha\n");
+    QFile::remove(homePath("pipe"));
+    makePipe(QFile::encodeName(homePath("pipe")));
+    make(QFile::encodeName(cupsFolder() + "/LP1"));
+    const QStringList before = belongings();
+
+    {
+        const LoggedPrograms programs;
+        OpenDialog open;
+        const auto *list = open.list("preset0");
+        // The one preset that is listed, if any, a new one, and one that is removed again.
+        if (list->count() > 2) {
+            open.choose("preset0", 2);
+            open.click("presetUpdateButton");
+            open.setPlainText("descriptionEdit", "changed");
+        }
+        open.click("presetNewButton");
+        open.slide("darknessSlider", 12);
+        open.click("applyButton");
+        open.click("presetDeleteButton");
+        open.click("okButton");
+        QCOMPARE(storedOptions("LP1").value("Darkness"), QByteArray("12"));
+    }
+    QCOMPARE(belongings(), before);
+    const QFileInfo current(cupsFolder() + "/LP1/_current.sh");
+    QCOMPARE(current.isFile() && !current.isSymLink() && current.isExecutable(), isSaved);
+    if (isSaved)
+        QVERIFY(fileContent(current.filePath()).startsWith("#!/bin/bash\nlpoptions -pLP1 -oDarkness=12 "));
+    QVERIFY(QFile::remove(homePath(".bashrc")) && QFile::remove(homePath("pipe")));
+    QVERIFY(QDir(homePath(".ssh")).removeRecursively());
+}
+
 void ForeignTest::printerName_data()
 {
     QTest::addColumn<QString>("queue");
     QTest::addColumn<bool>("hasPresets");
     QTest::newRow("outside") << ".." << false;
     QTest::newRow("of a shell") << "$(id)" << true;
+    QTest::newRow("of two commands") << "q&x;y$z" << true;
 }
 
 void ForeignTest::printerName()
@@ -309,11 +451,39 @@ void ForeignTest::printerName()
     QStringList found = home.entryList(everything);
     found.sort();
     QCOMPARE(found, expected);
-    QCOMPARE(QDir(cupsFolder()).entryList(everything),
-             hasPresets ? QStringList({queue, "lpoptions"}) : QStringList("lpoptions"));
+    QStringList inFolder{"lpoptions"};
+    if (hasPresets)
+        inFolder << queue;
+    inFolder.sort();
+    QCOMPARE(QDir(cupsFolder()).entryList(everything), inFolder);
     QCOMPARE(storedOptions(queue.toLatin1()).value("Darkness"), QByteArray("12"));
     // The driver gets the name as it is.
-    QCOMPARE(programs.calls(), "ppdhack 4.00 3.00 " + queue.toLatin1() + '\n');
+    const QByteArray call = "ppdhack 4.00 3.00 " + queue.toLatin1() + '\n';
+    QCOMPARE(programs.calls(), call);
+    if (!hasPresets)
+        return;
+
+    open.click("presetUpdateButton");
+    open.click("applyButton");
+    QCOMPARE(programs.calls(), call);
+
+    // A shell gets nothing.
+    for (const char *file : {"_current", "Preset"}) {
+        QProcess shell;
+        shell.start("/bin/bash", {cupsFolder() + '/' + queue + '/' + file + ".sh"});
+        QVERIFY(shell.waitForFinished());
+        QCOMPARE(shell.exitCode(), 1);
+        QCOMPARE(shell.readAllStandardError(), QByteArray());
+    }
+    QCOMPARE(programs.calls(), QByteArray());
+    // The next dialog finds all of it.
+    OpenDialog next;
+    next.choose("preset0", 1);
+    QCOMPARE(workingCopy(next.cups).value("Darkness", "none"), QByteArray("none"));
+    next.choose("preset0", 2);
+    QCOMPARE(next.text("nameEdit"), QString("New Preset"));
+    QCOMPARE(workingCopy(next.cups).value("Darkness"), QByteArray("12"));
+    QCOMPARE(programs.calls(), call);
 }
 
 PROPERTIESDIALOG_TEST_MAIN(ForeignTest)

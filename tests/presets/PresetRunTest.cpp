@@ -54,6 +54,7 @@ private Q_SLOTS:
     void instance();
     void values_data();
     void values();
+    void emptyValues();
 
 private:
     QByteArray ppdhackLog() const { return PresetFiles::readFile(m_log); }
@@ -66,6 +67,7 @@ private:
 void PresetRunTest::initTestCase()
 {
     m_scheduler.addQueue("LP1", PrivateScheduler::samplePpd("every-option"));
+    m_scheduler.addQueue("LP2");
 }
 
 void PresetRunTest::init()
@@ -131,6 +133,22 @@ void PresetRunTest::values()
     QVERIFY(preset.save({}));
     QCOMPARE(run(preset), 0);
     QCOMPARE(optionsOf({"LP1"}), QByteArrayList{"JobStart=" + arrives});
+}
+
+// libcups' own writer, at work in lpoptions, would make "true" of them.
+void PresetRunTest::emptyValues()
+{
+    m_scheduler.setUserOptions("LP1", {"Darkness=4", "JobStart=^XA"});
+    Preset preset("LP1", "_current",
+                  {"Darkness", "9", "JobEnd", "", "JobStart", "", "LabelEnd", QString(), "LabelStart", " "}, QString(),
+                  QString(), -1);
+    QVERIFY(preset.save({"JobEnd", "^XZ", "LabelEnd", ""}));
+    QCOMPARE(run(preset), 0);
+    QCOMPARE(QProcess::execute("lpoptions", {"-p", "LP2", "-o", "copies=2"}), 0);
+    QCOMPARE(optionsOf({"LP1"}), QByteArrayList{"Darkness=9"});
+    QCOMPARE(run(preset), 0);
+    QCOMPARE(PresetFiles::readFile(PresetFiles::root() + "/lpoptions").simplified().split(' ').mid(0, 3),
+             (QByteArrayList{"Dest", "LP1", "Darkness=9"}));
 }
 
 PROPERTIESDIALOG_TEST_MAIN(PresetRunTest)

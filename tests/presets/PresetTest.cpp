@@ -781,8 +781,8 @@ void PresetTest::hostilePrinter()
 void PresetTest::texts_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text :
-         {"Größe", "Étiquettes", "ラベル 連続紙", "Этикетки 58-мм", "🏷 #1", "100 % é #index=0 -oStop=1", "é~"})
+    for (const char *text : {"Größe", "Étiquettes", "ラベル 連続紙", "Этикетки 58-мм", "🏷 #1",
+                             "100 % é #index=0 -oStop=1", "é~", "\xef\xbb\xbfx"})
         QTest::newRow(text) << QString::fromUtf8(text);
 }
 

@@ -12,6 +12,9 @@
 
 #include <sys/inotify.h>
 #include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
 
 using PresetFiles::folder;
 using PresetFiles::readFile;
@@ -57,6 +60,35 @@ ino_t inode(const QString &path)
     struct stat status = {};
     return lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_ino : 0;
 }
+
+// Saves a preset and finds it again.
+int useFolder(int &, char **)
+{
+    {
+        Presets presets("LP1");
+        presets.addPreset(new Preset("LP1", "Wide", {"Darkness", "12"}, "Name", QString(), -1));
+        if (!presets.save({}))
+            return 1;
+    }
+    Presets presets("LP1");
+    Preset *preset = presets.findPreset("Name");
+    return preset && preset == presets.currentPreset() && preset->options() == QStringList({"Darkness", "12"}) ? 0 : 2;
+}
+const TestMain::ChildFunction useFolderFunction("useFolder", useFolder);
+
+// The same in a HOME whose name is no UTF-8, which no QString holds.
+int useFolderOfBytes(int &, char **argv)
+{
+    const QByteArray home = qgetenv("HOME") + "/h\xff\xe4";
+    if (mkdir(home.constData(), 0700) != 0 || !qputenv("HOME", home))
+        return 3;
+    char run[] = "--run-child";
+    char name[] = "useFolder";
+    char *arguments[] = {argv[0], run, name, nullptr};
+    execv("/proc/self/exe", arguments);
+    return 4;
+}
+const TestMain::ChildFunction useFolderOfBytesFunction("useFolderOfBytes", useFolderOfBytes);
 
 QString nameOf(Preset *preset)
 {
@@ -135,6 +167,7 @@ private Q_SLOTS:
     void dropMissing();
     void listedPresets();
 
+    void homeOfBytes();
     void fixedNames();
 };
 
@@ -989,6 +1022,23 @@ void PresetsTest::listedPresets()
     deleted->setState(Preset::Deleted);
     QCOMPARE(presets.listedPresets(), (QList<Preset *>{builtIn, first, second}));
     QCOMPARE(presets.getPresetNames(), (QStringList{"<Current Settings>", "Same", "Same"}));
+}
+
+void PresetsTest::homeOfBytes()
+{
+    const QByteArray home = qgetenv("HOME");
+    const QStringList before = PresetFiles::entries(QFile::decodeName(home));
+    QCOMPARE(TestMain::runChild("useFolderOfBytes").exitCode, 0);
+    const QByteArray inside = home + "/h\xff\xe4";
+    struct stat status = {};
+    QCOMPARE(lstat((inside + "/.cups/LP1/Wide.sh").constData(), &status), 0);
+    char text[4096] = {};
+    QVERIFY(readlink((inside + "/.cups/LP1/currentPreset").constData(), text, sizeof text - 1) > 0);
+    QCOMPARE(QByteArray(text), inside + "/.cups/LP1/Wide.sh");
+    // Nothing has been made beside it.
+    QCOMPARE(PresetFiles::entries(QFile::decodeName(home)).size(), before.size() + 1);
+    for (const char *path : {"/.cups/LP1/Wide.sh", "/.cups/LP1/currentPreset", "/.cups/LP1", "/.cups", ""})
+        QCOMPARE(std::remove((inside + path).constData()), 0);
 }
 
 void PresetsTest::fixedNames()
