@@ -1035,10 +1035,10 @@ void PresetsTest::homeOfBytes()
     char text[4096] = {};
     QVERIFY(readlink((inside + "/.cups/LP1/currentPreset").constData(), text, sizeof text - 1) > 0);
     QCOMPARE(QByteArray(text), inside + "/.cups/LP1/Wide.sh");
-    // Nothing has been made beside it.
-    QCOMPARE(PresetFiles::entries(QFile::decodeName(home)).size(), before.size() + 1);
     for (const char *path : {"/.cups/LP1/Wide.sh", "/.cups/LP1/currentPreset", "/.cups/LP1", "/.cups", ""})
         QCOMPARE(std::remove((inside + path).constData()), 0);
+    // Nothing has been made beside it.
+    QCOMPARE(PresetFiles::entries(QFile::decodeName(home)), before);
 }
 
 void PresetsTest::fixedNames()
