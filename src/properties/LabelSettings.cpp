@@ -120,6 +120,14 @@ LabelSettings LabelSettings::read(const CupsSupport &cups)
     return settings;
 }
 
+void LabelSettings::forgetSame(const LabelSettings &other)
+{
+    forEachSetting([&](auto member, auto, auto, auto) {
+        if (this->*member == other.*member)
+            (this->*member).reset();
+    });
+}
+
 void LabelSettings::write(CupsSupport &cups) const
 {
     forEachSetting([&](auto member, auto, auto set, auto unit) {

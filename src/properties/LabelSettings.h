@@ -56,6 +56,9 @@ struct LabelSettings
     /** The settings of the current printer. */
     static LabelSettings read(const CupsSupport &cups);
 
+    /** Drops what is the same in @p other: write() then leaves these options alone. */
+    void forgetSame(const LabelSettings &other);
+
     /** Stores what is here as options of the current printer, in memory. */
     void write(CupsSupport &cups) const;
 };

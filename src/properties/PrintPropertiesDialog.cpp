@@ -19,6 +19,7 @@
 #include <QKeyEvent>
 #include <QPixmapCache>
 #include <QPrinter>
+#include <QShowEvent>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QTextDocument>
@@ -26,6 +27,7 @@
 #include <algorithm>
 #include <initializer_list>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -270,6 +272,8 @@ void PrintPropertiesDialog::updateDialog()
         settings = LabelSettings::read(*d->cups);
     updatePresets();
     d->show(settings);
+    d->loaded = d->shown();
+    d->hadPpdFile = d->cups && d->cups->getPpdFile();
     updatePreview();
 }
 
@@ -363,18 +367,36 @@ void PrintPropertiesDialog::Private::showOrientation(int code)
 
 void PrintPropertiesDialog::saveValues()
 {
+    if (d->cups && !d->cups->getPpdFile())
+        d->cups->closePpdFile(); // it may be there again
     if (d->printer)
         PrinterProperties::set(*d->printer, orientation(), d->cups);
     QStringList defaults;
+    d->isSaved = true;
     if (d->cups) {
-        d->shown().write(*d->cups);
-        d->cups->setDests();
+        d->isSaved = d->saveOptions();
         defaults = d->cups->ppdDefaults();
     }
     const QSizeF size = d->userPageSize();
     d->applyPageSize(size);
     if (d->changed)
-        d->savePresets(size, defaults);
+        d->isSaved = d->savePresets(size, defaults) && d->isSaved;
+}
+
+bool PrintPropertiesDialog::lastSaveSucceeded() const
+{
+    return d->isSaved;
+}
+
+bool PrintPropertiesDialog::Private::saveOptions()
+{
+    LabelSettings settings = shown();
+    const LabelSettings before = std::exchange(loaded, settings);
+    // Without a PPD file there is no telling the printer's defaults from the values that stand in for them.
+    if (!hadPpdFile || !cups->getPpdFile())
+        settings.forgetSame(before);
+    settings.write(*cups);
+    return cups->setDests() == 0;
 }
 
 // In inches; 0 by 0 when there is none.
@@ -395,23 +417,23 @@ void PrintPropertiesDialog::Private::applyPageSize(const QSizeF &size)
         DriverCommand::run(preset->ppdhack());
 }
 
-void PrintPropertiesDialog::Private::savePresets(const QSizeF &size, const QStringList &defaults)
+bool PrintPropertiesDialog::Private::savePresets(const QSizeF &size, const QStringList &defaults)
 {
-    presets.save(defaults);
-    if (printer && cups)
-        saveCurrentSettings(size, defaults);
+    const bool areSaved = presets.save(defaults);
+    const bool isCurrentSaved = !printer || !cups || saveCurrentSettings(size, defaults);
     q->setChanged(false);
+    return areSaved && isCurrentSaved;
 }
 
 // The settings last applied, to be applied again by running the script.
-void PrintPropertiesDialog::Private::saveCurrentSettings(const QSizeF &size, const QStringList &defaults)
+bool PrintPropertiesDialog::Private::saveCurrentSettings(const QSizeF &size, const QStringList &defaults)
 {
     Preset current(printer->printerName(), presets.currentFileName(), QStringList(), QString(), QString(), -1);
     current.clearOptions();
     current.setOptions(cups->cupsOptions());
     current.setUserPageSize(size);
     current.setState(Preset::Modified);
-    current.save(defaults);
+    return current.save(defaults);
 }
 
 void PrintPropertiesDialog::setChanged(bool value)
@@ -570,6 +592,8 @@ void PrintPropertiesDialog::Private::showGapFields(int mediaType)
     const LabelSettings stored = LabelSettings::read(*cups);
     ui.gapSize->setText(NumberField::inchesText(stored.*fields->size));
     ui.gapOffset->setText(NumberField::inchesText(stored.*fields->offset));
+    loaded.*fields->size = NumberField::number(ui.gapSize);
+    loaded.*fields->offset = NumberField::number(ui.gapOffset);
 }
 
 void PrintPropertiesDialog::Private::showMediaRows(int mediaType)
@@ -639,8 +663,10 @@ bool PrintPropertiesDialog::eventFilter(QObject *object, QEvent *event)
     return QDialog::eventFilter(object, event);
 }
 
-void PrintPropertiesDialog::showEvent(QShowEvent *)
+void PrintPropertiesDialog::showEvent(QShowEvent *event)
 {
+    if (event->spontaneous())
+        return; // a minimised window that comes back keeps what was typed
     updateDialog();
     setChanged(false);
 }

@@ -49,9 +49,16 @@ public:
 
     /**
      * Saves what the fields show: into the QPrinter, the user's options file and, when there are changes, the presets.
-     * A field that holds no number is skipped: its option keeps its value. Failures to write are not reported.
+     * A field that holds no number is skipped: its option keeps its value. While the printer has no PPD file, only
+     * fields that the user changed are saved: the others may show fallback values. See lastSaveSucceeded().
      */
     void saveValues();
+
+    /**
+     * Whether the last saving, by Apply, OK or saveValues(), wrote the user's options file and the presets completely.
+     * True when nothing has been saved yet. When it is false, an exec() that returned 1 did not save everything.
+     */
+    bool lastSaveSucceeded() const;
 
     /** Sets whether there are unsaved changes, and with it whether Apply is enabled. */
     void setChanged(bool value);

@@ -52,10 +52,11 @@ struct PrintPropertiesDialog::Private
     void showCommand();
     void selectCommand(bool isSelected, std::size_t slot);
 
+    bool saveOptions();
     QSizeF userPageSize() const;
     void applyPageSize(const QSizeF &size);
-    void savePresets(const QSizeF &size, const QStringList &defaults);
-    void saveCurrentSettings(const QSizeF &size, const QStringList &defaults);
+    bool savePresets(const QSizeF &size, const QStringList &defaults);
+    bool saveCurrentSettings(const QSizeF &size, const QStringList &defaults);
     Preset *selectedPreset() const;
 
     PrintPropertiesDialog *const q;
@@ -68,6 +69,9 @@ struct PrintPropertiesDialog::Private
     Preview *preview = nullptr; // goes with the frame that it is in
     bool updatingPresets = false;
     bool changed = true;
+    bool isSaved = true; // whether the last saving succeeded
+    LabelSettings loaded; // what the fields held when they were last loaded or saved
+    bool hadPpdFile = false; // when the settings were loaded; without it fallbacks stand in the fields
     std::array<QString, LabelSettings::commands.size()> commands;
     std::size_t commandSlot = commands.size() - 1; // of the command that the edit shows
     std::optional<int> fittedMediaType; // the one whose rows the dialog's size was last fitted to

@@ -624,23 +624,20 @@ void FormTest::groupBoxes()
 void FormTest::buttons_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isAutoDefault");
     QTest::addColumn<bool>("isDefault");
-    const QStringList inTabs = {"manageButton", "presetNewButton", "presetUpdateButton", "presetDeleteButton"};
     for (const WidgetRow &row : widgetRows) {
         if (qstrcmp(row.className, "QPushButton") == 0)
-            QTest::newRow(row.name) << QString(row.name) << !inTabs.contains(row.name)
-                                    << (qstrcmp(row.name, "okButton") == 0);
+            QTest::newRow(row.name) << QString(row.name) << (qstrcmp(row.name, "okButton") == 0);
     }
 }
 
-// Enter is for OK, or for the button below on which the focus is; it does nothing to the presets.
+// Enter is for the button on which the focus is, and for OK everywhere else.
 void FormTest::buttons()
 {
     QFETCH(QString, name);
     const auto *button = child<QPushButton>(name.toLatin1());
 
-    QTEST(button->autoDefault(), "isAutoDefault");
+    QVERIFY(button->autoDefault());
     QTEST(button->isDefault(), "isDefault");
     QVERIFY(!button->isCheckable());
 }
