@@ -246,6 +246,11 @@ ppd_file_t *CupsSupport::getPpdFile() const
     return ppd == &absentPpdFile ? nullptr : ppd;
 }
 
+bool CupsSupport::isPpdFileOutOfReach() const
+{
+    return currentDest() && !getPpdFile() && ppd != &absentPpdFile;
+}
+
 void CupsSupport::closePpdFile()
 {
     if (ppd && ppd != &absentPpdFile)

@@ -121,6 +121,12 @@ public:
     ppd_file_t *getPpdFile() const;
 
     /**
+     * Whether the current printer may have a PPD file that cannot be had now: the scheduler did not send it. Values that
+     * are missing then may be in that file. False when the file is open, and when the scheduler said that there is none.
+     */
+    bool isPpdFileOutOfReach() const;
+
+    /**
      * Closes the PPD file. The next use opens it again and so marks it with the present options. To be called as well
      * when a printer that had no PPD file may have got one.
      */

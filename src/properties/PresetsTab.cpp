@@ -7,11 +7,13 @@
 #include "presets/Preset.h"
 #include "properties/PrintPropertiesDialogPrivate.h"
 
+#include <QAction>
 #include <QPrinter>
 #include <QScopedValueRollback>
 
 #include <algorithm>
 #include <initializer_list>
+#include <utility>
 
 namespace {
 
@@ -36,12 +38,6 @@ bool shows(const QComboBox *list, const QStringList &names)
     return true;
 }
 
-// A name that a list does not have counts as its first.
-int positionOf(const QString &name, const QComboBox *list)
-{
-    return std::max(0, list->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive));
-}
-
 } // namespace
 
 bool PrintPropertiesDialog::updatePresets()
@@ -60,8 +56,19 @@ bool PrintPropertiesDialog::updatePresets()
     return refill;
 }
 
+// By identity, for two presets may have one name. One of another collection is found by its name. One that the list does
+// not have, for lack of room or else, counts as its first.
+int PrintPropertiesDialog::Private::positionOf(Preset *preset, const QComboBox *list) const
+{
+    const auto own = static_cast<int>(presets.listedPresets().indexOf(preset));
+    if (own >= 0)
+        return own < list->count() ? own : 0;
+    return std::max(0, list->findText(preset->name(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+}
+
 bool PrintPropertiesDialog::updateCurrentPreset(Preset *preset)
 {
+    d->showPresetNote(preset);
     if (!preset) {
         for (QWidget *widget : std::initializer_list<QWidget *>{d->ui.nameEdit, d->ui.descriptionEdit,
                                                                 d->ui.presetUpdateButton, d->ui.presetDeleteButton})
@@ -69,11 +76,11 @@ bool PrintPropertiesDialog::updateCurrentPreset(Preset *preset)
         return false;
     }
     const QString name = preset->name();
-    const int position0 = positionOf(name, d->ui.preset0);
-    const int position1 = positionOf(name, d->ui.preset1);
+    const int position0 = d->positionOf(preset, d->ui.preset0);
+    const int position1 = d->positionOf(preset, d->ui.preset1);
     const bool moves = d->ui.preset0->currentIndex() != position0 || d->ui.preset1->currentIndex() != position1;
+    const QScopedValueRollback<bool> guard(d->updatingPresets, true);
     if (moves) {
-        const QScopedValueRollback<bool> guard(d->updatingPresets, true);
         d->ui.preset0->setCurrentIndex(position0);
         d->ui.preset1->setCurrentIndex(position1);
         const bool editable = position1 >= builtInPresets;
@@ -100,7 +107,8 @@ void PrintPropertiesDialog::setCurrentPreset(Preset *preset)
     if (preset == d->presets.currentPreset())
         return;
     d->presets.setCurrentPreset(preset);
-    const QString line = DriverCommand::lineIn(preset->pathName());
+    // A script in the place of one that is not written yet is somebody else's.
+    const QString line = preset->isNew() ? QString() : DriverCommand::lineIn(preset->pathName());
     if (!line.isEmpty()) {
         // The command changes the PPD file at the scheduler; the next use opens it anew.
         d->cups->closePpdFile();
@@ -117,21 +125,63 @@ void PrintPropertiesDialog::setCupsOptions(Preset *preset)
     d->cups->setOptions(preset->options());
 }
 
+// The one at the place that the tab's list shows.
 Preset *PrintPropertiesDialog::Private::selectedPreset() const
 {
-    return presets.findPreset(ui.preset1->currentText());
+    Preset *preset = presets.listedPresets().value(ui.preset1->currentIndex());
+    return preset && preset->name() == ui.preset1->currentText() ? preset : nullptr;
+}
+
+void PrintPropertiesDialog::Private::choosePreset(int index)
+{
+    Preset *preset = presets.listedPresets().value(index);
+    if (preset && !updatingPresets)
+        q->setCurrentPreset(preset);
 }
 
 void PrintPropertiesDialog::on_preset0_currentIndexChanged(int iIndex)
 {
-    if (!d->updatingPresets)
-        setCurrentPreset(d->ui.preset0->itemText(iIndex));
+    d->choosePreset(iIndex);
 }
 
 void PrintPropertiesDialog::on_preset1_currentIndexChanged(int iIndex)
 {
-    if (!d->updatingPresets)
-        setCurrentPreset(d->ui.preset1->itemText(iIndex));
+    d->choosePreset(iIndex);
+}
+
+// Says what of the printer's values the preset would not give back, as its script cannot hold them.
+void PrintPropertiesDialog::Private::showPresetNote(Preset *preset)
+{
+    QStringList names;
+    if (preset && cups) {
+        const QStringList keywords = preset->valuesNotHeld(cups->cupsOptions(), cups->ppdDefaults());
+        for (const QString &keyword : keywords)
+            names << settingName(keyword);
+    }
+    const QString note = names.isEmpty() ? QString()
+                                         : PrintPropertiesDialog::tr(
+                                               "This preset cannot hold the printer's present settings: %1. Choosing "
+                                               "it would change them.")
+                                               .arg(names.join(QLatin1String(", ")));
+    presetNote->setVisible(!note.isEmpty());
+    presetNote->setToolTip(note);
+    ui.preset1->setToolTip(note);
+    describe(ui.preset1, note);
+}
+
+// The commands are the settings that may be any text.
+QString PrintPropertiesDialog::Private::settingName(const QString &keyword) const
+{
+    const std::pair<QLatin1String, const QRadioButton *> commandNames[] = {
+        {QLatin1String("JobStart"), ui.jobStartRadioButton},
+        {QLatin1String("LabelStart"), ui.labelStartRadioButton},
+        {QLatin1String("LabelEnd"), ui.labelEndRadioButton},
+        {QLatin1String("JobEnd"), ui.jobEndRadioButton},
+    };
+    for (const auto &[command, radio] : commandNames)
+        if (keyword == command)
+            return radio->text();
+    return keyword;
 }
 
 void PrintPropertiesDialog::on_manageButton_clicked()
@@ -143,13 +193,14 @@ void PrintPropertiesDialog::on_presetNewButton_clicked()
 {
     QString fileName = QStringLiteral("Preset");
     QString name = tr("New Preset");
-    for (int n = 2; d->presets.findPreset(fileName) || d->presets.findPreset(name); ++n) {
+    for (int n = 2;
+         d->presets.isFileNameTaken(fileName) || d->presets.findPreset(fileName) || d->presets.findPreset(name); ++n) {
         fileName = QStringLiteral("Preset%1").arg(n);
         name = tr("New Preset %1").arg(n);
     }
     Preset *preset = d->presets.addPreset(
         new Preset(d->printer->printerName(), fileName, d->cups->cupsOptions(), name, QString(), -1));
-    preset->setState(Preset::Modified); // to be written even where the printer has no option yet that presets carry
+    preset->setNew(); // to be written even where the printer has no option yet that presets carry
     updatePresets();
     setCurrentPreset(preset);
 }
@@ -163,6 +214,7 @@ void PrintPropertiesDialog::on_presetUpdateButton_clicked()
     const bool set = preset->setOptions(d->cups->cupsOptions());
     if (cleared || set)
         setChanged(true);
+    d->showPresetNote(preset);
 }
 
 void PrintPropertiesDialog::on_presetDeleteButton_clicked()
@@ -171,6 +223,7 @@ void PrintPropertiesDialog::on_presetDeleteButton_clicked()
     if (!preset)
         return;
     d->presets.deletePreset(preset);
+    d->presets.dropMissing();
     updatePresets();
     setChanged(true);
 }
@@ -179,7 +232,7 @@ void PrintPropertiesDialog::on_nameEdit_editingFinished()
 {
     const QString name = d->ui.nameEdit->text();
     Preset *preset = d->selectedPreset();
-    if (!preset || name == d->ui.preset1->currentText())
+    if (!preset || name == preset->name())
         return;
     preset->setName(name);
     updatePresets();
@@ -190,7 +243,7 @@ void PrintPropertiesDialog::on_descriptionEdit_textChanged()
 {
     const QString text = d->ui.descriptionEdit->toPlainText();
     Preset *preset = d->selectedPreset();
-    if (!preset || text == preset->description())
+    if (!preset || d->updatingPresets || text == preset->description())
         return;
     preset->setDescription(text);
     setChanged(true);

@@ -13,6 +13,7 @@
 #include "properties/PrinterProperties.h"
 #include "properties/PrintPropertiesDialogPrivate.h"
 
+#include <QAction>
 #include <QBitmap>
 #include <QFile>
 #include <QFileInfo>
@@ -21,6 +22,7 @@
 #include <QPrinter>
 #include <QShowEvent>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTabBar>
 #include <QTextDocument>
 
@@ -53,13 +55,6 @@ std::optional<GapFields> gapFieldsOf(int mediaType)
     default:
         return std::nullopt;
     }
-}
-
-// Setting a description, even to what it is, makes Qt look for plug-ins on the disk.
-void describe(QWidget *widget, const QString &text)
-{
-    if (widget->accessibleDescription() != text)
-        widget->setAccessibleDescription(text);
 }
 
 // Whether the host application is set up so that the user page size always applies.
@@ -127,6 +122,9 @@ PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer,
     d->preview = new Preview(d->ui.frame);
     d->preview->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     d->preview->setGeometry(0, 0, d->ui.frame->width(), d->ui.frame->height());
+    d->presetNote =
+        d->ui.nameEdit->addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), QLineEdit::TrailingPosition);
+    d->presetNote->setVisible(false);
     setResult(0);
     setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint
                    | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
@@ -259,6 +257,13 @@ void PrintPropertiesDialog::Private::describeFields()
     describe(ui.commandEdit, radios[commandSlot]->text());
 }
 
+// Setting a description, even to what it is, makes Qt look for plug-ins on the disk.
+void PrintPropertiesDialog::Private::describe(QWidget *widget, const QString &text)
+{
+    if (widget->accessibleDescription() != text)
+        widget->setAccessibleDescription(text);
+}
+
 // ----- loading -----
 
 void PrintPropertiesDialog::updateDialog()
@@ -273,7 +278,7 @@ void PrintPropertiesDialog::updateDialog()
     updatePresets();
     d->show(settings);
     d->loaded = d->shown();
-    d->hadPpdFile = d->cups && d->cups->getPpdFile();
+    d->hasFallbacks = d->cups && d->cups->isPpdFileOutOfReach();
     updatePreview();
 }
 
@@ -367,8 +372,6 @@ void PrintPropertiesDialog::Private::showOrientation(int code)
 
 void PrintPropertiesDialog::saveValues()
 {
-    if (d->cups && !d->cups->getPpdFile())
-        d->cups->closePpdFile(); // it may be there again
     if (d->printer)
         PrinterProperties::set(*d->printer, orientation(), d->cups);
     QStringList defaults;
@@ -392,8 +395,8 @@ bool PrintPropertiesDialog::Private::saveOptions()
 {
     LabelSettings settings = shown();
     const LabelSettings before = std::exchange(loaded, settings);
-    // Without a PPD file there is no telling the printer's defaults from the values that stand in for them.
-    if (!hadPpdFile || !cups->getPpdFile())
+    // Out of reach of the PPD file there is no telling the printer's defaults from the values that stand in for them.
+    if (hasFallbacks || cups->isPpdFileOutOfReach())
         settings.forgetSame(before);
     settings.write(*cups);
     return cups->setDests() == 0;
@@ -419,6 +422,7 @@ void PrintPropertiesDialog::Private::applyPageSize(const QSizeF &size)
 
 bool PrintPropertiesDialog::Private::savePresets(const QSizeF &size, const QStringList &defaults)
 {
+    presets.dropMissing();
     const bool areSaved = presets.save(defaults);
     const bool isCurrentSaved = !printer || !cups || saveCurrentSettings(size, defaults);
     q->setChanged(false);

@@ -49,8 +49,8 @@ public:
 
     /**
      * Saves what the fields show: into the QPrinter, the user's options file and, when there are changes, the presets.
-     * A field that holds no number is skipped: its option keeps its value. While the printer has no PPD file, only
-     * fields that the user changed are saved: the others may show fallback values. See lastSaveSucceeded().
+     * A field that holds no number is skipped: its option keeps its value. While the printer's PPD
+     * file is out of reach, only fields that the user changed are saved: the others may show fallback values. See lastSaveSucceeded().
      */
     void saveValues();
 

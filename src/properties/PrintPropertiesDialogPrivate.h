@@ -19,6 +19,9 @@
 
 class Preset;
 class Preview;
+class QAction;
+class QComboBox;
+class QWidget;
 struct ModelFamily;
 
 /** What the dialog consists of, kept from hosts so that their binaries outlive the next member. */
@@ -34,6 +37,7 @@ struct PrintPropertiesDialog::Private
     void makeRoom();
     void widenFields();
     void describeFields();
+    static void describe(QWidget *widget, const QString &text);
     void retranslate();
     void showOwnTexts();
     void showStopLabel();
@@ -57,7 +61,12 @@ struct PrintPropertiesDialog::Private
     void applyPageSize(const QSizeF &size);
     bool savePresets(const QSizeF &size, const QStringList &defaults);
     bool saveCurrentSettings(const QSizeF &size, const QStringList &defaults);
+
+    int positionOf(Preset *preset, const QComboBox *list) const;
     Preset *selectedPreset() const;
+    void choosePreset(int index);
+    void showPresetNote(Preset *preset);
+    QString settingName(const QString &keyword) const;
 
     PrintPropertiesDialog *const q;
     QPrinter *printer;
@@ -67,11 +76,12 @@ struct PrintPropertiesDialog::Private
     Ui_PrintPropertiesDialog ui;
     Presets presets;
     Preview *preview = nullptr; // goes with the frame that it is in
+    QAction *presetNote = nullptr; // goes with the name field that it is in
     bool updatingPresets = false;
     bool changed = true;
     bool isSaved = true; // whether the last saving succeeded
     LabelSettings loaded; // what the fields held when they were last loaded or saved
-    bool hadPpdFile = false; // when the settings were loaded; without it fallbacks stand in the fields
+    bool hasFallbacks = false; // whether the PPD file was out of reach when the fields were loaded
     std::array<QString, LabelSettings::commands.size()> commands;
     std::size_t commandSlot = commands.size() - 1; // of the command that the edit shows
     std::optional<int> fittedMediaType; // the one whose rows the dialog's size was last fitted to

@@ -625,10 +625,9 @@ void FormTest::buttons_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isDefault");
-    for (const WidgetRow &row : widgetRows) {
+    for (const WidgetRow &row : widgetRows)
         if (qstrcmp(row.className, "QPushButton") == 0)
             QTest::newRow(row.name) << QString(row.name) << (qstrcmp(row.name, "okButton") == 0);
-    }
 }
 
 // Enter is for the button on which the focus is, and for OK everywhere else.

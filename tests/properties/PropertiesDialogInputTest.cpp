@@ -229,13 +229,15 @@ void PropertiesDialogInputTest::optionsFileCannotBeWritten()
 
 void PropertiesDialogInputTest::presetCannotBeWritten()
 {
-    for (const char *file : {"Preset", "_current"}) {
+    for (const QString file : {"a", "_current"}) {
+        const QString script = cupsFolder() + "/Q/" + file + ".sh";
+        writeFile(cupsFolder() + "/Q/a.sh", "#!/bin/bash\nlpoptions -pQ\n");
         OpenDialog open;
-        open.click("presetNewButton");
-        const QString inTheWay = cupsFolder() + "/Q/" + file + ".sh/in the way";
-        QVERIFY(QDir().mkpath(inTheWay));
+        open.setPlainText("descriptionEdit", "typed");
+        QFile::remove(script);
+        QVERIFY(QDir().mkpath(script + "/in the way"));
         open.click("applyButton");
-        QVERIFY2(!open.dialog.lastSaveSucceeded(), file);
+        QVERIFY2(!open.dialog.lastSaveSucceeded(), qPrintable(file));
         QVERIFY(QDir(cupsFolder() + "/Q").removeRecursively());
     }
 }

@@ -7,6 +7,7 @@
 
 #include <PropertiesDialog/Preset.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QGroupBox>
 #include <QMessageBox>
@@ -223,6 +224,21 @@ private slots:
     void describe();
     void describeTheSame();
     void nothingSelected();
+
+    // Two dialogs, and presets that look alike.
+    void twoOfOneName();
+    void renameOneOfTwo();
+    void deleteOneOfTwo();
+    void descriptionBeyondTheList();
+    void newDeleteNew();
+    void scriptRemovedByAnother();
+    void newInTwoDialogs();
+    void scriptInThePlaceOfANewOne();
+
+    // What a script cannot hold.
+    void valueNotHeld_data();
+    void valueNotHeld();
+    void valueNotHeldAfterSaving();
 
     // Which options presets carry.
     void usualList();
@@ -1154,6 +1170,182 @@ void PropertiesDialogPresetsTest::nothingSelected()
         QCOMPARE(items(open, "preset1"), builtIn({"a"}));
         QCOMPARE(open.plainText("descriptionEdit"), QString("before"));
     }
+}
+
+// ----- two dialogs, and presets that look alike -----
+
+void PropertiesDialogPresetsTest::twoOfOneName()
+{
+    writeScript("a", " -oDarkness=4", "#name=Same\n#description=first\n");
+    writeScript("b", " -oDarkness=5", "#name=Same\n#description=second\n");
+    for (const char *list : {"preset0", "preset1"}) {
+        OpenDialog open;
+        QCOMPARE(open.plainText("descriptionEdit"), QString("first"));
+        open.choose(list, 3);
+        QCOMPARE(open.shown("darknessSlider"), QString("5"));
+        QCOMPARE(open.shown("preset0"), QString("3"));
+        QCOMPARE(open.shown("preset1"), QString("3"));
+        QCOMPARE(open.plainText("descriptionEdit"), QString("second"));
+        open.choose(list, 2);
+        QCOMPARE(open.shown("darknessSlider"), QString("4"));
+        QCOMPARE(open.plainText("descriptionEdit"), QString("first"));
+    }
+}
+
+void PropertiesDialogPresetsTest::renameOneOfTwo()
+{
+    writeScript("a", "", "#name=Same\n");
+    writeScript("b", "", "#name=Same\n");
+    OpenDialog open;
+    open.choose("preset1", 3);
+    rename(open, "Other");
+    open.setPlainText("descriptionEdit", "text");
+    QCOMPARE(items(open, "preset1"), builtIn({"Same", "Other"}));
+    open.click("applyButton");
+    QCOMPARE(fileContent(scriptPath("Q", "a")), QByteArray("#!/bin/bash\n#name=Same\nlpoptions -pQ\n"));
+    QVERIFY(fileContent(scriptPath("Q", "b")).startsWith("#!/bin/bash\n#name=Other\n#description=text\n"));
+}
+
+void PropertiesDialogPresetsTest::deleteOneOfTwo()
+{
+    writeScript("a", "", "#name=Same\n");
+    writeScript("b", "", "#name=Same\n");
+    OpenDialog open;
+    open.choose("preset1", 3);
+    open.click("presetDeleteButton");
+    open.click("applyButton");
+    QVERIFY(QFile::exists(scriptPath("Q", "a")));
+    QVERIFY(!QFile::exists(scriptPath("Q", "b")));
+}
+
+// The tab's list has no room for the last ones and shows the first instead, which is not to take their descriptions: it
+// could not be saved, nor anything behind it.
+void PropertiesDialogPresetsTest::descriptionBeyondTheList()
+{
+    for (int i = 0; i < 110; ++i)
+        writeScript(QStringLiteral("p%1").arg(i, 3, 10, QLatin1Char('0')), "", "#description=mine\n");
+    OpenDialog open;
+    const QString description = "This preset contains this driver's current settings.";
+    chooseByName(open, "preset0", "p105");
+    QCOMPARE(open.plainText("descriptionEdit"), QString("mine"));
+    chooseByName(open, "preset0", "<Current Settings>");
+    QCOMPARE(open.plainText("descriptionEdit"), description);
+    open.click("applyButton");
+    QVERIFY(open.dialog.lastSaveSucceeded());
+}
+
+void PropertiesDialogPresetsTest::newDeleteNew()
+{
+    OpenDialog open;
+    open.click("presetNewButton");
+    open.click("presetDeleteButton");
+    QCOMPARE(items(open, "preset1"), builtIn({}));
+    open.click("presetNewButton");
+    rename(open, "Kept");
+    open.click("applyButton");
+    QVERIFY(open.dialog.lastSaveSucceeded());
+    OpenDialog again;
+    QCOMPARE(items(again, "preset1"), builtIn({"Kept"}));
+}
+
+void PropertiesDialogPresetsTest::scriptRemovedByAnother()
+{
+    writeScript("a", "");
+    writeScript("b", "");
+    OpenDialog open;
+    open.click("presetDeleteButton");
+    QVERIFY(QFile::remove(scriptPath("Q", "a")));
+    chooseByName(open, "preset1", "b");
+    rename(open, "Kept");
+    open.click("applyButton");
+    QVERIFY(open.dialog.lastSaveSucceeded());
+    QVERIFY(fileContent(scriptPath("Q", "b")).contains("#name=Kept\n"));
+}
+
+void PropertiesDialogPresetsTest::newInTwoDialogs()
+{
+    OpenDialog first;
+    OpenDialog second;
+    for (OpenDialog *open : {&first, &second})
+        open->click("presetNewButton");
+    rename(first, "Mine");
+    rename(second, "Yours");
+    for (OpenDialog *open : {&first, &second})
+        open->click("applyButton");
+    OpenDialog again;
+    QCOMPARE(items(again, "preset1"), builtIn({"Mine", "Yours"}));
+    again.click("presetNewButton");
+    again.click("applyButton");
+    QVERIFY(QFile::exists(scriptPath("Q", "Preset3")));
+
+    // Before it was written by the one, the other has seen it on the disk.
+    OpenDialog third;
+    again.click("presetNewButton");
+    again.click("applyButton");
+    third.click("presetNewButton");
+    third.click("applyButton");
+    QVERIFY(QFile::exists(scriptPath("Q", "Preset5")));
+}
+
+// Its command has nothing to do with the new preset.
+void PropertiesDialogPresetsTest::scriptInThePlaceOfANewOne()
+{
+    const DriverCommand command("exit 0\n");
+    OpenDialog open;
+    open.click("presetNewButton");
+    writeScript("Preset", "", {}, "ppdhack 1.00 2.00 Q\n");
+    open.choose("preset1", 0);
+    open.choose("preset1", 2);
+    QCOMPARE(command.runs(), QByteArray());
+}
+
+// ----- what a script cannot hold -----
+
+void PropertiesDialogPresetsTest::valueNotHeld_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<bool>("isHeld");
+    QTest::newRow("one word") << "^FX" << true;
+    QTest::newRow("two words") << "^FX label" << false;
+    QTest::newRow("two lines") << "^FX\n^FS" << true;
+    QTest::newRow("beyond ASCII") << QString::fromUtf8("Gr\u00f6\u00dfe") << false;
+    QTest::newRow("none") << "" << true;
+}
+
+void PropertiesDialogPresetsTest::valueNotHeld()
+{
+    QFETCH(QString, command);
+    QFETCH(bool, isHeld);
+    {
+        OpenDialog open;
+        open.setPlainText("commandEdit", command);
+        open.click("applyButton");
+    }
+    OpenDialog open;
+    const auto *name = open.edit("nameEdit");
+    QVERIFY(name->actions().value(0));
+    QVERIFY(!name->actions().value(0)->isVisible()); // of a built-in preset
+    open.click("presetNewButton");
+    QCOMPARE(name->actions().value(0)->isVisible(), !isHeld);
+    QCOMPARE(name->actions().value(0)->toolTip().contains("Start of Job"), !isHeld);
+    QCOMPARE(open.widget("preset1")->toolTip().contains("Start of Job"), !isHeld);
+    open.choose("preset1", 0);
+    QVERIFY(!name->actions().value(0)->isVisible());
+    QCOMPARE(open.widget("preset1")->toolTip(), QString());
+}
+
+// It is written, and then read by a later opening: what the printer has is still something else.
+void PropertiesDialogPresetsTest::valueNotHeldAfterSaving()
+{
+    {
+        OpenDialog open;
+        open.setPlainText("commandEdit", "^FX label");
+        open.click("applyButton");
+        open.click("presetNewButton");
+        open.click("applyButton");
+    }
+    OpenDialog open;
+    QVERIFY(open.edit("nameEdit")->actions().value(0)->isVisible());
 }
 
 // ----- which options presets carry -----
