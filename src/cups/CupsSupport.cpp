@@ -82,6 +82,7 @@ struct Destinations
 
     void fetch(http_t *http)
     {
+        cupsFreeDests(count, list);
         count = cupsGetDests2(http, &list);
         status = cupsLastError();
     }

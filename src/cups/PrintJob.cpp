@@ -52,6 +52,7 @@ public:
 
     void submit(http_t *http)
     {
+        error = QByteArray();
         create(http);
         for (std::size_t i = 0; i < files.size(); ++i) {
             if (number == 0 || !Scheduler::isWaitedFor())

@@ -3,6 +3,8 @@
 
 #include "cups/Scheduler.h"
 
+#include "cups/Passwords.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 
@@ -20,6 +22,7 @@
 
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <resolv.h>
 #include <sys/socket.h>
 
 namespace {
@@ -43,6 +46,9 @@ constexpr int shutDowns = 6;
 constexpr Milliseconds quickAnswer = 250ms;
 // Two requests with so long a pause between them belong to different actions of the user.
 constexpr Milliseconds pauseBetweenActions = 1s;
+
+// How often the user may enter a password for one request.
+constexpr int passwordTries = 3;
 
 // Documents are given a second for this many bytes.
 constexpr qint64 slowestNetwork = 100'000;
@@ -85,6 +91,7 @@ public:
     {
     }
 
+    const QByteArray &serverName() const { return server; }
     bool isLocalSocket() const { return server.startsWith('/'); }
 
     // Tells libcups on this thread; only what it does not know already, since setting a server drops the rest of its entry.
@@ -107,9 +114,54 @@ private:
     const http_encryption_t encryption;
 };
 
+// What the user entered, as libcups' callback wants it.
+class KnownPassword
+{
+public:
+    explicit KnownPassword(const QByteArray &server)
+    {
+        if (const std::optional<Passwords::Credentials> known = Passwords::known(server)) {
+            user = known->user.toUtf8();
+            password = known->password.toUtf8();
+        }
+    }
+
+    bool isKnown() const { return !user.isNull(); }
+
+    // Whether an answer was wanted that was not there, or was refused.
+    bool isMissed() const { return missed; }
+
+    // Makes libcups on this thread ask this object. By itself it would ask on the terminal, where a process in the background is stopped.
+    void giveToLibcups() { cupsSetPasswordCB2(answer, this); }
+
+private:
+    // libcups asks a second time for a connection when the first answer was refused.
+    static const char *answer(const char *, http_t *http, const char *, const char *, void *data)
+    {
+        auto *known = static_cast<KnownPassword *>(data);
+        known->missed = !known->isKnown() || http == known->given;
+        if (known->missed)
+            return nullptr;
+        known->given = http;
+        cupsSetUser(known->user.constData());
+        return known->password.constData();
+    }
+
+    QByteArray user;
+    QByteArray password;
+    http_t *given = nullptr;
+    bool missed = false;
+};
+
 // A request, shared by the thread that does it and the one that waits.
 struct Request
 {
+    explicit Request(const QByteArray &server)
+        : password(server)
+    {
+    }
+
+    KnownPassword password;
     std::mutex mutex;
     std::condition_variable changed;
     http_t *http = nullptr; // while its connection may be shut down
@@ -144,18 +196,12 @@ http_t *connect(int *cancel)
     return http;
 }
 
-// Never on a terminal: the process would be stopped there when it runs in the background.
-const char *refuseToAsk(const char *, http_t *, const char *, const char *, void *)
-{
-    return nullptr;
-}
-
 // What the thread of a request does.
 void run(const std::shared_ptr<Request> &request, const Work &work, const Identity &identity, http_t *connected)
 {
     ownRequest = request.get();
     identity.adopt();
-    cupsSetPasswordCB2(refuseToAsk, nullptr);
+    request->password.giveToLibcups();
     http_t *http = connected ? connected : connect(&request->cancelsConnecting);
     if (http) {
         {
@@ -192,6 +238,25 @@ std::optional<std::thread> startThread(const std::function<void()> &function)
     }
     pthread_sigmask(SIG_SETMASK, &before, nullptr);
     return thread;
+}
+
+// Calls the function on a thread where libcups is prepared for it, and waits. On this thread, unprepared, if the system has no
+// more threads.
+void callOnThread(const std::function<void()> &prepare, const std::function<void()> &function)
+{
+    std::optional<std::thread> thread = startThread([&] {
+        prepare();
+        function();
+    });
+    thread ? thread->join() : function();
+}
+
+// Lets look-ups of names on this thread, which is about to end, be answered at once. For each PPD file cupsGetPPD() looks up the name of
+// this machine, of which a scheduler on a local socket has no use; it takes long where no name server answers.
+void forgetNameServers()
+{
+    if (res_init() == 0)
+        _res.nscount = 0;
 }
 
 // Waits until the request has ended, or nothing came for too long, or its time is up.
@@ -232,23 +297,31 @@ void rememberTimeOut()
     leaveAloneUntil = Clock::now() + limits.withoutProgress;
 }
 
-bool askWithin(const Work &work, Milliseconds altogether)
+enum class Outcome {
+    NotAnswered,
+    Answered,
+    PasswordMissing,
+    PasswordRefused
+};
+
+// Has the work done once.
+Outcome converse(const Work &work, Milliseconds altogether)
 {
     const Identity identity;
-    const auto request = std::make_shared<Request>();
+    const auto request = std::make_shared<Request>(identity.serverName());
     http_t *http = nullptr;
     if (identity.isLocalSocket()) {
         // Without a name to look up this takes no time, and where nobody listens no thread is needed.
         http = connect(nullptr);
         if (!http) {
             errorText = cupsLastErrorString();
-            return false;
+            return Outcome::NotAnswered;
         }
     }
     std::optional<std::thread> thread = startThread([=] { run(request, work, identity, http); });
     if (!thread) {
         httpClose(http);
-        return false;
+        return Outcome::NotAnswered;
     }
     std::unique_lock lock(request->mutex);
     const bool isInTime = endsInTime(*request, lock, altogether);
@@ -257,29 +330,46 @@ bool askWithin(const Work &work, Milliseconds altogether)
     hasEnded ? thread->join() : thread->detach();
     if (!isInTime) {
         rememberTimeOut();
-        return false;
+        return Outcome::NotAnswered;
     }
     // After a success libcups' text is about whatever the system last complained of.
     const bool isSuccess = request->status < IPP_STATUS_REDIRECTION_OTHER_SITE;
     errorText = isSuccess ? QByteArray(ippErrorString(IPP_STATUS_OK)) : request->message;
-    return request->isConnected;
+    if (request->password.isMissed())
+        return request->password.isKnown() ? Outcome::PasswordRefused : Outcome::PasswordMissing;
+    return request->isConnected ? Outcome::Answered : Outcome::NotAnswered;
+}
+
+// Has the work done, as often as the user enters a password for it. One that the user declines is an answer, too.
+bool converseWithUser(const std::function<Outcome()> &converseOnce)
+{
+    for (int tries = 0;; ++tries) {
+        const Outcome outcome = converseOnce();
+        if (outcome != Outcome::PasswordMissing && outcome != Outcome::PasswordRefused)
+            return outcome == Outcome::Answered;
+        if (tries == passwordTries)
+            Passwords::decline();
+        if (!Passwords::ask(cupsServer(), outcome == Outcome::PasswordRefused))
+            return true;
+    }
 }
 
 } // namespace
 
 bool Scheduler::ask(const Work &work)
 {
-    if (isLeftAlone())
-        return false;
-    const Clock::time_point start = Clock::now();
-    const bool isAnswered = askWithin(work, action.left());
-    action.add(Clock::now() - start);
-    return isAnswered;
+    return !isLeftAlone() && converseWithUser([&work] {
+        const Clock::time_point start = Clock::now();
+        const Outcome outcome = converse(work, action.left());
+        action.add(Clock::now() - start);
+        return outcome;
+    });
 }
 
 bool Scheduler::askToPrint(const Work &work, qint64 size)
 {
-    return !isLeftAlone() && askWithin(work, limits.altogether + std::chrono::seconds(size / slowestNetwork));
+    const Milliseconds altogether = limits.altogether + std::chrono::seconds(size / slowestNetwork);
+    return !isLeftAlone() && converseWithUser([&] { return converse(work, altogether); });
 }
 
 bool Scheduler::isWaitedFor()
@@ -310,14 +400,20 @@ void Scheduler::setLastError(const QString &text)
 
 void Scheduler::callWithoutScheduler(const std::function<void()> &function)
 {
-    std::optional<std::thread> thread = startThread([&function] {
-        cupsSetServer("/nonexistent");
-        function();
-    });
-    if (thread)
-        thread->join();
-    else
-        function(); // in a system so short of everything it will hardly be answered
+    callOnThread([] { cupsSetServer("/nonexistent"); }, function);
+}
+
+void Scheduler::callWithScheduler(const std::function<void()> &function)
+{
+    const Identity identity;
+    KnownPassword password(identity.serverName());
+    const auto prepare = [&identity, &password] {
+        identity.adopt();
+        if (identity.isLocalSocket())
+            forgetNameServers();
+        password.giveToLibcups();
+    };
+    callOnThread(prepare, function);
 }
 
 void Scheduler::setLimits(const Limits &newLimits)

@@ -35,12 +35,14 @@ struct Limits
 };
 
 /**
- * What to do with the connection. It runs on another thread, which may go on for a while after the request was given up: it
+ * What to do with the connection, from its beginning: it is done again when the user has entered a password. It runs on another thread, which may go on for a while after the request was given up: it
  * has to own all that it touches, and may use libcups alone.
  */
 using Work = std::function<void(http_t *)>;
 
-/** Has @p work done. Returns whether it ended in time; false also without a scheduler, and a moment after a time-out. */
+/**
+ * Has @p work done, asking the user for a password when the scheduler wants one. Returns whether it ended in time; false also without a scheduler, and a moment after a time-out.
+ */
 bool ask(const Work &work);
 
 /** The same for a job whose documents have @p size bytes; sending them may take longer than other requests. */
@@ -66,6 +68,13 @@ void setLastError(const QString &text);
  * neither the server nor the password callback of the host's thread is touched; Qt replaces the latter.
  */
 void callWithoutScheduler(const std::function<void()> &function);
+
+/**
+ * Calls @p function, which makes Qt use libcups, on a thread of its own, where a scheduler that wants a password gets what the user
+ * entered for us. Qt itself would ask for each of its requests. Qt's requests have no time limit: to be called
+ * only when the scheduler has just answered.
+ */
+void callWithScheduler(const std::function<void()> &function);
 
 /** For tests, which cannot wait that long. */
 void setLimits(const Limits &limits);

@@ -365,7 +365,7 @@ void PrintDialog::changePrinter(int index)
     // text. The description that the user chose by would therefore do only where it is the queue name as well; where it
     // happens to be the name of another queue, the host's pages would even go there, and an empty one would turn the
     // QPrinter into a PDF writer. The queue name is right in all of these cases.
-    printer->setPrinterName(cups->getCurrentQueueName());
+    Scheduler::callWithScheduler([this] { printer->setPrinterName(cups->getCurrentQueueName()); });
     initialIndex = index;
     currentMoved = false;
     accept();

@@ -41,6 +41,7 @@ public:
         WrongLength, // announces more than comes
         PpdFileStops, // all else is passed on
         PpdFileBreaksOff,
+        WantsPassword, // "secret", of "user"
     };
 
     /** @param upstream the socket of the scheduler, for the faults that need one. */
@@ -134,6 +135,9 @@ private:
                 request.append(buffer, int(count));
                 if (fault == OnlyOptions && !request.startsWith("OPTIONS"))
                     stall();
+                if (fault == WantsPassword
+                    && !request.contains("Authorization: Basic " + QByteArray("user:secret").toBase64()))
+                    return say(client, text(Password));
                 say(scheduler, QByteArray(buffer, int(count)));
                 continue;
             }
@@ -162,6 +166,8 @@ private:
         case WrongLength:
             if (const auto at = part.indexOf("Content-Length: "); at >= 0)
                 part.insert(at + int(qstrlen("Content-Length: ")), '9');
+            return;
+        case WantsPassword:
             return;
         case PpdFileStops:
         case PpdFileBreaksOff:

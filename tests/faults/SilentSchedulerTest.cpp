@@ -54,7 +54,7 @@ void click(QWidget *dialog, const char *button)
     dialog->findChild<QAbstractButton *>(button)->click();
 }
 
-// What Qt asks for when a scheduler wants a password.
+// To enter a password.
 void refuse(QWidget *dialog)
 {
     qobject_cast<QDialog *>(dialog)->reject();
@@ -103,8 +103,8 @@ int printDialog(int &argc, char **argv)
     Scheduler::callWithoutScheduler([&printer] { printer = std::make_unique<QPrinter>(); });
     QElapsedTimer timer;
     timer.start();
-    CupsSupport cups;
     onEachDialog(refuse);
+    CupsSupport cups;
     PrintDialog dialog(nullptr, printer.get(), &cups);
     dialog.show();
     dialog.findChild<QAbstractButton *>("chkDefaultPrinter")->click();
@@ -117,6 +117,7 @@ const TestMain::ChildFunction printDialogFunction("print-dialog", printDialog);
 // On a queue that was fetched while all was well: SOCKET, which then answers no more as it should
 int printJob(int &argc, char **argv)
 {
+    setsid(); // nobody is to be asked for a password on the terminal of the tests
     Scheduler::setLimits(shortLimits);
     const QCoreApplication app(argc, argv);
     CupsSupport cups;
@@ -133,6 +134,7 @@ const TestMain::ChildFunction printJobFunction("print-job", printJob);
 
 int allMembers(int &argc, char **argv)
 {
+    setsid(); // nobody is to be asked for a password on the terminal of the tests
     Scheduler::setLimits(shortLimits);
     const QCoreApplication app(argc, argv);
     QElapsedTimer timer;

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "widgets/PasswordDialog.h"
+
+#include "cups/Passwords.h"
+#include "ui_PasswordDialog.h"
+
+#include <QApplication>
+
+namespace {
+
+bool askForPassword(Passwords::Credentials *credentials, bool isRetry)
+{
+    PasswordDialog dialog(QApplication::activeWindow(), credentials->user, isRetry);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    credentials->user = dialog.user();
+    credentials->password = dialog.password();
+    return true;
+}
+
+// The scheduler may be asked before there is any other dialog of ours.
+void registerPrompt()
+{
+    Passwords::setPrompt(askForPassword);
+}
+Q_CONSTRUCTOR_FUNCTION(registerPrompt)
+
+} // namespace
+
+PasswordDialog::PasswordDialog(QWidget *parent, const QString &user, bool isRetry)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint)
+    , ui(std::make_unique<Ui_PasswordDialog>())
+{
+    ui->setupUi(this);
+    ui->refusedLabel->setVisible(isRetry);
+    ui->userEdit->setText(user);
+    ui->passwordEdit->setFocus();
+}
+
+PasswordDialog::~PasswordDialog() = default;
+
+QString PasswordDialog::user() const
+{
+    return ui->userEdit->text();
+}
+
+QString PasswordDialog::password() const
+{
+    return ui->passwordEdit->text();
+}
