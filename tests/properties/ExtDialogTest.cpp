@@ -1,22 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include <PropertiesDialog/CupsSupport.h>
 #include <PropertiesDialog/ExtDialog.h>
 
+#include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
 
-#include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDir>
-#include <QFile>
-#include <QLabel>
 #include <QMetaMethod>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
-#include <QTranslator>
 
 #include <memory>
 
@@ -28,21 +22,8 @@ constexpr int initialResult = -5;
 
 QByteArray savedFile()
 {
-    QFile file(QDir::homePath() + "/.cups/lpoptions");
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return fileContent(homePath(".cups/lpoptions"));
 }
-
-// Shows what every text was looked up by.
-class EchoTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        return QStringLiteral("%1/%2").arg(QString::fromUtf8(context), QString::fromUtf8(source));
-    }
-};
 
 } // namespace
 
@@ -117,9 +98,8 @@ void ExtDialogTest::init()
 void ExtDialogTest::makeDialog(const QString &queue, int offset)
 {
     dialog.reset();
-    for (int i = 0; i < cups->getDestCount() && cups->getCurrentQueueName() != queue; ++i)
-        cups->setCurrentPrinter(i);
-    QCOMPARE(cups->getCurrentQueueName(), queue);
+    if (cups->getCurrentQueueName() != queue)
+        selectQueue(*cups, queue);
     QCOMPARE(cups->setExtendedOffset(offset), 0);
     QCOMPARE(cups->getExtendedOffset(), offset);
     dialog = std::make_unique<ExtDialog>(nullptr, cups.get());
@@ -198,18 +178,17 @@ void ExtDialogTest::itemsLineUp()
 void ExtDialogTest::textsAreTranslated()
 {
     makeDialog("dpi203", 2);
-    EchoTranslator translator;
-    QCoreApplication::installTranslator(&translator);
+    auto translator = std::make_unique<MarkingTranslator>();
     QCoreApplication::processEvents(); // the change of language is posted
-    QCOMPARE(dialog->windowTitle(), QString("ExtDialog/Select Extended Print Offset"));
-    QCOMPARE(dialog->findChild<QLabel *>("offsetLabel")->text(), QString("ExtDialog/Offset:"));
-    QCOMPARE(list()->itemText(0), QString("ExtDialog/-0.75mm"));
-    QCOMPARE(list()->itemText(6), QString("ExtDialog/ 0.75mm"));
+    QCOMPARE(dialog->windowTitle(), QString("ExtDialog: Select Extended Print Offset"));
+    QCOMPARE(dialog->findChild<QLabel *>("offsetLabel")->text(), QString("ExtDialog: Offset:"));
+    QCOMPARE(list()->itemText(0), QString("ExtDialog: -0.75mm"));
+    QCOMPARE(list()->itemText(6), QString("ExtDialog:  0.75mm"));
     QCOMPARE(list()->currentIndex(), 4);
 
     const ExtDialog late(nullptr, cups.get());
-    QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(late.findChild<QComboBox *>("offset")->itemText(0), QString("ExtDialog/-0.75mm"));
+    translator.reset();
+    QCOMPARE(late.findChild<QComboBox *>("offset")->itemText(0), QString("ExtDialog: -0.75mm"));
     QCoreApplication::processEvents();
     QCOMPARE(dialog->windowTitle(), QString("Select Extended Print Offset"));
     QCOMPARE(list()->itemText(3), QString(" 0.00mm"));

@@ -22,6 +22,7 @@
 #include <QMap>
 #include <QPlainTextEdit>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
@@ -62,10 +63,12 @@ inline QString shownBy(const QWidget *widget)
 
 inline void selectQueue(CupsSupport &cups, const QString &queue)
 {
+    // Selecting a printer fetches its PPD file, so only the right one is selected.
     for (int i = 0; i < cups.getDestCount(); ++i) {
-        cups.setCurrentPrinter(i);
-        if (cups.getCurrentQueueName() == queue)
+        if (cups.getQueueName(i) == queue) {
+            cups.setCurrentPrinter(i);
             return;
+        }
     }
     qFatal("no queue %s: %s", qPrintable(queue), CupsSupport::getCupsError());
 }
@@ -78,20 +81,24 @@ inline void selectQueue(CupsSupport &cups, const QString &queue)
  */
 struct OpenDialog
 {
-    QPrinter printer{QPrinter::ScreenResolution};
+    QPrinter printer;
     CupsSupport cups;
     PrintPropertiesDialog dialog;
 
     OpenDialog()
-        : dialog(nullptr, &printer, &cups)
+        : printer(QPrinter::ScreenResolution)
+        , dialog(nullptr, &printer, &cups)
     {
         dialog.show();
     }
 
     /** @param options an option list for the working copy of the queue's settings, set before the dialog is made. */
     explicit OpenDialog(const QString &queue, const QStringList &options = {})
-        : dialog(nullptr, printerOf(queue), settingsOf(queue, options))
+        : printer(QPrinterInfo::printerInfo(queue), QPrinter::ScreenResolution)
+        , dialog(nullptr, &printer, settingsOf(queue, options))
     {
+        if (printer.printerName() != queue)
+            qFatal("no printer %s: %s", qPrintable(queue), CupsSupport::getCupsError());
     }
 
     template<class Widget = QWidget>
@@ -116,14 +123,6 @@ struct OpenDialog
     void slide(const QString &name, int value) { widget<QSlider>(name)->setValue(value); }
 
 private:
-    QPrinter *printerOf(const QString &queue)
-    {
-        printer.setPrinterName(queue);
-        if (printer.printerName() != queue)
-            qFatal("no printer %s: %s", qPrintable(queue), CupsSupport::getCupsError());
-        return &printer;
-    }
-
     CupsSupport *settingsOf(const QString &queue, const QStringList &options)
     {
         selectQueue(cups, queue);
