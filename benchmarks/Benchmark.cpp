@@ -56,7 +56,7 @@ private:
     QSet<QObject *> seen;
 };
 
-// Qt's offscreen platform says with each window what it cannot do.
+// Qt's offscreen platform warns for each window about what it cannot do.
 void ignoreMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type == QtFatalMsg || !message.startsWith("This plugin does not support"))
@@ -161,7 +161,7 @@ int Benchmark::Table::widthOf(int column) const
     return width;
 }
 
-// Numbers are aligned with each other at their ends, words at their beginnings.
+// Numbers are right-aligned, words left-aligned.
 bool Benchmark::Table::isNumeric(int column) const
 {
     const QString cell = rows.size() > 1 ? rows[1].at(column) : QString();
@@ -225,7 +225,7 @@ double Benchmark::timeToQtDialogs()
             if (!properties->isEnabled()) {
                 qFatal("Qt offers no properties of this printer");
             }
-            properties->click(); // until that dialog was reported in turn
+            properties->click(); // until that dialog has been reported
         }
         dialog->reject();
     });
@@ -269,7 +269,7 @@ QString Benchmark::queueName(int index)
 
 void Benchmark::setQueues(PrivateScheduler &scheduler, int count)
 {
-    // A thousand requests would take longer than what is measured.
+    // A thousand requests would take longer than the measurement.
     scheduler.stop();
     const QDir etc(scheduler.dir() + "/etc");
     QDir(etc.filePath("ppd")).removeRecursively();
@@ -306,7 +306,7 @@ void Benchmark::saveUserOptions(PrivateScheduler &scheduler)
 
 int Benchmark::run(int argc, char **argv, void (*program)(const Extent &extent))
 {
-    // The same for everybody, and without the X server's part.
+    // The same on every machine, and without an X server.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const int exitCode = TestMain::prepare(argc, argv);

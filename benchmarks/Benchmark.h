@@ -19,21 +19,21 @@
 
 class QWidget;
 
-/** What the benchmark programs share: how to measure, how to show it, and what to measure with. */
+/** Shared by the benchmarks: measuring, printing results, and sample data. */
 namespace Benchmark {
 
-/** Does @p work and returns how long that took, in milliseconds. */
+/** Runs @p work and returns its duration in milliseconds. */
 double milliseconds(const std::function<void()> &work);
 
-/** Times of one thing, in milliseconds, in the order in which they were taken. */
+/** Durations of one operation, in milliseconds, in the order in which they were measured. */
 class Samples
 {
 public:
-    void reserve(int count) { times.reserve(std::size_t(count)); } ///< Adding will not allocate then.
+    void reserve(int count) { times.reserve(std::size_t(count)); } ///< Adding then does not allocate.
     void add(double time) { times.push_back(time); }
     double median() const { return medianOf(times); }
 
-    /** How the median of the last quarter compares with that of the first: above 1 when it becomes slower with use. */
+    /** The median of the last quarter divided by that of the first: above 1 if the operation becomes slower with use. */
     double growth() const;
 
 private:
@@ -42,7 +42,7 @@ private:
     std::vector<double> times;
 };
 
-/** How much is measured. With --short, as little as shows that the program works. */
+/** How much is measured. With --short, only enough to show that the program works. */
 struct Extent
 {
     bool isShort;
@@ -51,7 +51,7 @@ struct Extent
 
     Extent(int argc, char **argv);
 
-    /** Repeats @p round, which is told whether its times count. */
+    /** Repeats @p round and tells it whether its times count. */
     void repeat(const std::function<void(bool counts)> &round) const;
 
     /** The sizes to measure, or the few small ones of the short form. */
@@ -80,12 +80,12 @@ private:
 
 QString text(double value, int decimals = 2);
 
-/** A ratio beside the most that it should be, marked when it is above that. */
+/** A ratio with its goal, marked if it is above. */
 QString withGoal(double ratio, double goal);
 
 /**
  * Calls @p open, which runs a modal dialog, and @p painted with each dialog that has been shown and painted completely
- * for the first time. @p painted has to close it.
+ * for the first time. @p painted must close it.
  */
 void runDialogs(const std::function<void()> &open, const std::function<void(QDialog *dialog)> &painted);
 
@@ -102,17 +102,17 @@ private:
     int *count;
 };
 
-/** The milliseconds from the call of @p open, which runs one modal dialog, until that was painted for the first time. */
+/** The milliseconds from the call of @p open, which runs one modal dialog, to the dialog's first paint. */
 double timeToFirstPaint(const std::function<void()> &open);
 
-/** The same for a new QPrinter, Qt's print dialog for it and, when that is painted, its dialog of printer properties. */
+/** The same for a new QPrinter, Qt's print dialog and, when that is painted, its printer properties dialog. */
 double timeToQtDialogs();
 
 /** The same for the empty form of the properties dialog, without anything of the library. */
 double timeToBareForm();
 
 /**
- * The median of a number that processes of their own print. The first opening in a process is slower than the next ones: it
+ * The median of a number that separate processes print. The first opening in a process is slower than later ones because it
  * also loads fonts, style and libraries.
  *
  * @param function the name of a registered child function that returns printMeasured().
@@ -125,16 +125,16 @@ int printMeasured(int argc, char **argv, double (*measure)());
 /** The name of queue number @p index, from 0. */
 QString queueName(int index);
 
-/** Gives the scheduler @p count queues with the sample PPD file, in place of those it had. The first is the default. */
+/** Replaces the scheduler's queues by @p count queues with the sample PPD file. The first is the default. */
 void setQueues(PrivateScheduler &scheduler, int count);
 
-/** The path of a sample PPD file with so many further options of 10 choices each. */
+/** The path of a sample PPD file with @p options more options of 10 choices each. */
 QString ppdWithOptions(PrivateScheduler &scheduler, int options);
 
-/** Saves some label settings of the first queue in the options file of the user, as a user has them. */
+/** Saves typical label settings of the first queue in the user's options file. */
 void saveUserOptions(PrivateScheduler &scheduler);
 
-/** What a main() does: gives the process its HOME, makes the application object and calls @p program. */
+/** To be called by main(): gives the process its HOME, creates the application object and calls @p program. */
 int run(int argc, char **argv, void (*program)(const Extent &extent));
 
 } // namespace Benchmark

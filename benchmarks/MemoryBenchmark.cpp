@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// How much memory an opening takes at its peak, beyond what the form and the destinations take, and what stays behind.
+// The peak memory of an opening beyond that of the form and the destinations, and how much remains allocated.
 
 #include "Benchmark.h"
 
@@ -38,7 +38,7 @@ double peakOfOpening()
     return peak();
 }
 
-// What nobody can do without: a QPrinter and the destinations in memory while the empty form is shown.
+// The minimum for any dialog: a QPrinter and the destinations in memory while the empty form is shown.
 double peakOfBareForm()
 {
     const QPrinter printer(QPrinter::ScreenResolution);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// How long it takes until the properties dialog is painted, what that time is spent on, and what it asks the scheduler.
+// How long the properties dialog takes to be painted, what the time is spent on, and which requests it sends.
 
 #include "Benchmark.h"
 
@@ -20,7 +20,7 @@
 #include <array>
 #include <numeric>
 
-// Like the library, which has nothing else for PPD files.
+// As in the library, there is no other interface for PPD files.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 using namespace Benchmark;
@@ -49,7 +49,7 @@ enum Part {
     PartCount
 };
 
-// The dialog, which tells how long it takes to load its fields.
+// The dialog, which measures the loading of its fields.
 class TimedDialog : public PrintPropertiesDialog
 {
 public:
@@ -142,14 +142,14 @@ struct Measurement
         return std::accumulate(
             calls.begin(), calls.end(), 0.0, [](double sum, const Samples &call) { return sum + call.median(); });
     }
-    // What is neither QPrinter's, nor libcups', nor the form's.
+    // The part that is neither QPrinter's, libcups' nor the form's.
     double own() const { return ours.median() - parts[MakePrinter].median() - cups() - bareForm.median(); }
 };
 
 Measurement measure(const Extent &extent)
 {
     Measurement m;
-    // One after the other in each round, so that a slower moment of the machine is one for all.
+    // All of them in each round, so that a slow moment of the machine affects all.
     extent.repeat([&m](bool counts) {
         const double ours = timeToOpen();
         const double qt = timeToQt();

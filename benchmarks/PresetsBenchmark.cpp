@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// What many presets cost when the dialog opens, and how long it takes from the choice of one until it is shown.
+// The cost of many presets when the dialog opens, and how long it takes to show a preset after choosing it.
 
 #include "Benchmark.h"
 
@@ -41,7 +41,7 @@ QByteArray scriptOf(bool landscape)
     return script;
 }
 
-// Makes the folder hold @p count presets, as the library writes them.
+// Fills the folder with @p count presets, as the library writes them.
 void writePresets(int count)
 {
     QDir(folder()).removeRecursively();
@@ -56,7 +56,7 @@ void writePresets(int count)
     }
 }
 
-// Reads the same files as any Qt program does.
+// Reads the same files in the usual way of a Qt program.
 void readInPlainLoop()
 {
     const QDir dir(folder());
@@ -68,7 +68,7 @@ void readInPlainLoop()
     }
 }
 
-// Reads them with as little as that takes.
+// Reads them with the minimum of system calls.
 void readWithSystemCalls()
 {
     DIR *const dir = opendir(QFile::encodeName(folder()).constData());

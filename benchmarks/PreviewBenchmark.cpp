@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// How long the preview of the properties dialog takes to repaint, and whether that grows with use.
+// How long the preview of the properties dialog takes to repaint, and whether that increases with use.
 
 #include "Benchmark.h"
 
@@ -28,7 +28,7 @@ QWidget *previewOf(const QDialog *dialog)
     qFatal("the dialog has no preview");
 }
 
-// Each kind of label is painted as often. A repaint includes what lies under the preview; that is Qt's work.
+// Each kind of label is painted equally often. A repaint includes the widgets under the preview, which Qt paints.
 void measure(QDialog *dialog, int repaints)
 {
     struct Look

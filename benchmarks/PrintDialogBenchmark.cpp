@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// How long it takes until the print dialog is painted, beside Qt's.
+// How long the print dialog takes to be painted, compared with Qt's.
 
 #include "Benchmark.h"
 
@@ -15,7 +15,7 @@ using namespace Benchmark;
 
 namespace {
 
-// The host has made its QPrinter before, whichever dialog it opens.
+// The host has already created its QPrinter, whichever dialog it opens.
 
 double timeToOpen()
 {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// How long it takes from the press of Apply until everything is saved, beside libcups' own saving of the same options.
+// How long Apply takes to save everything, compared with libcups' saving of the same options.
 
 #include "Benchmark.h"
 
@@ -27,7 +27,7 @@ Widget *find(QDialog *dialog, const char *name)
     return widget;
 }
 
-// Replaces a file of the same folder as carefully as the library has to: what each file costs besides its content.
+// Replaces a file in the same folder as safely as the library does: the fixed cost of each file.
 void replaceFile()
 {
     QSaveFile file(QDir::homePath() + "/.cups/benchmark");

@@ -31,7 +31,7 @@ void FakeScheduler::setPpd(const QByteArray &ppd)
     queuePpd = ppd;
 }
 
-// In place of libcups' functions of these names. The connection is refused at once, which the library takes for an
+// Replace libcups' functions of these names. The connection is refused at once, which the library takes as an
 // invitation to let libcups try.
 extern "C" {
 
@@ -84,7 +84,7 @@ ipp_t *cupsDoRequest(http_t *, ipp_t *request, const char *)
     return nullptr;
 }
 
-// libcups frees no array of options that holds none any more.
+// libcups does not free an array of options after its last option was removed.
 const char *__lsan_default_suppressions()
 {
     return "leak:cupsAddOption";

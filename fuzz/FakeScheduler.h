@@ -9,18 +9,18 @@
 #include <QPair>
 
 /**
- * Stands in for libcups' way to the scheduler, in this process only: a real scheduler takes a thousand times as long as
- * what is to be tried. Everything else, the reader of PPD files among it, is libcups' own.
+ * Replaces libcups' requests to the scheduler in this process: a real scheduler takes a thousand times as long as
+ * the code under test. Everything else, including the reader of PPD files, is libcups'.
  */
 namespace FakeScheduler {
 
 /** Options of each destination, by keyword and value. */
 using Options = QList<QPair<QByteArray, QByteArray>>;
 
-/** The queues that there are, the first being the default printer; to be called before the library asks. */
+/** Sets the queues, of which the first is the default printer. Call it before the library asks. */
 void setQueues(const QList<QByteArray> &names, const Options &options = {});
 
-/** The PPD file of all queues; a null one: they have none. */
+/** Sets the PPD file of all queues; null for none. */
 void setPpd(const QByteArray &ppd);
 
 } // namespace FakeScheduler

@@ -17,7 +17,7 @@
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv);
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
-/** Ends the process with a message unless @p condition holds; the fuzzer then keeps the input. */
+/** Ends the process with a message unless @p condition is true; the fuzzer then keeps the input. */
 #define FUZZ_CHECK(condition)                                                                                          \
     do {                                                                                                               \
         if (!(condition)) {                                                                                            \
@@ -31,13 +31,13 @@ inline QByteArray bytes(const std::uint8_t *data, std::size_t size)
     return QByteArray(reinterpret_cast<const char *>(data), static_cast<int>(size));
 }
 
-/** The texts of an input: it has a NUL between two of them. */
+/** The texts of an input, which are separated by NULs. */
 inline QList<QByteArray> texts(const QByteArray &input)
 {
     return input.split('\0');
 }
 
-/** What the library keeps in the user's home goes there while an input is tried; scripts/fuzz makes it. */
+/** The home directory while inputs are tried; scripts/fuzz creates it. */
 inline QString homePath(const QString &name)
 {
     return QDir::homePath() + QLatin1Char('/') + name;

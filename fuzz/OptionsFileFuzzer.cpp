@@ -18,7 +18,7 @@ namespace {
 
 const char queue[] = "P";
 
-// As libcups reads it for a queue, which is no public function of its own.
+// What libcups reads for a queue; it has no public function for this.
 int readOptions(cups_option_t **options)
 {
     cups_file_t *file = cupsFileOpen(QFile::encodeName(OptionsFile::path()).constData(), "r");
@@ -70,7 +70,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     char name[] = "P";
     cups_dest_t dest = {};
     dest.name = name;
-    bool isSimple = true; // nothing that the file's syntax has no room for
+    bool isSimple = true; // nothing that the file's syntax cannot express
     int length = 0;
     for (int i = 1; i + 1 < parts.size(); i += 2) {
         const QByteArray keyword = keywordFrom(parts.at(i));
@@ -92,7 +92,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
             FUZZ_CHECK(value && !std::strcmp(value, dest.options[i].value));
         }
         cupsFreeOptions(count, read);
-        // A second saving finds its own work.
+        // Saving a second time reads what the first wrote.
         const QByteArray saved = fileContent(OptionsFile::path());
         FUZZ_CHECK(OptionsFile::save(&dest, 1));
         FUZZ_CHECK(fileContent(OptionsFile::path()) == saved);

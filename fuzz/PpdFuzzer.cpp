@@ -18,7 +18,7 @@
 
 namespace {
 
-// For the time until there is an input: Qt takes no printer without a PPD file.
+// Used until there is an input, because Qt accepts no printer without a PPD file.
 const char plainPpd[] = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*LanguageVersion: English\n"
                         "*LanguageEncoding: ISOLatin1\n*ModelName: \"m\"\n*NickName: \"m\"\n*Manufacturer: \"m\"\n"
                         "*Product: \"(m)\"\n*PSVersion: \"(3) 0\"\n*PCFileName: \"M.PPD\"\n"
@@ -26,7 +26,7 @@ const char plainPpd[] = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*Language
                         "*DefaultPaperDimension: a\n*PaperDimension a: \"144 288\"\n"
                         "*DefaultImageableArea: a\n*ImageableArea a: \"0 0 144 288\"\n";
 
-// One for each kind of printer that differs in what it makes of the numbers; making a dialog takes longer than all else.
+// One per family of printers that treats numbers differently. They are kept because creating a dialog is the slowest part.
 struct Dialog
 {
     QPrinter printer{QPrinter::ScreenResolution};
@@ -97,7 +97,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     d.dialog->saveValues();
     d.dialog->updateDialog();
 
-    // The next input finds nothing of this one.
+    // Remove everything before the next input.
     QStringList keywords;
     const QStringList stored = d.cups.cupsOptions();
     for (int i = 0; i < stored.size(); i += 2)

@@ -46,7 +46,7 @@ void tryPrinter(const QString &printer, const QByteArray &script)
     const QSizeF size = preset.getUserPageSize();
     FUZZ_CHECK(size == QSizeF(-1, -1) || (size.width() > 0 && size.height() > 0));
 
-    // Back into a script, unless it is one that is not to be written.
+    // Back into a script, unless it must not be written.
     if (preset.index() >= 0)
         return;
     preset.setState(Preset::Modified);

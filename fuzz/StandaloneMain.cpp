@@ -9,8 +9,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-// Tries each file below the folders and files that are its arguments once, without a fuzzer: what was ever found is not
-// to come back, whatever compiler there is.
+// Tries each file in the folders and files given as arguments once, without a fuzzer, so that earlier findings do not
+// return, with any compiler.
 int main(int argc, char **argv)
 {
     // The library reads HOME when it is loaded.

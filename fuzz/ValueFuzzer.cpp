@@ -13,7 +13,7 @@
 
 namespace {
 
-// What a text is when it has been stored and read: Latin-1, with line feeds as line breaks, the last of which is never
+// The expected text after storing and reading: Latin-1, with line feeds as line breaks, the last of which is never
 // missing; a stored line break that was typed is one.
 QString expectedText(const QString &text)
 {
@@ -37,7 +37,7 @@ void tryText(CupsSupport &cups, const QString &text)
     QString read;
     FUZZ_CHECK(cups.getString("LabelStart", &read));
     FUZZ_CHECK(read == expectedText(text));
-    // What was read once stays as it is.
+    // Storing and reading it again does not change it.
     cups.setLabelStart(read);
     QString again;
     FUZZ_CHECK(cups.getString("LabelStart", &again));

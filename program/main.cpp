@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// label-printer-properties: the properties dialog for people without a host application.
+// label-printer-properties: the properties dialog for users without a host application.
 
 #include <PropertiesDialog/CupsSupport.h>
 #include <PropertiesDialog/PrintPropertiesDialog.h>
@@ -68,7 +68,7 @@ int indexOf(const CupsSupport &cups, const QString &queue)
     return -1;
 }
 
-// Does what needs no window and returns the exit status; or nothing, and the queue whose settings are wanted, empty for the
+// Handles what needs no window and returns the exit status; or nothing, and the queue to edit, empty for the
 // default one.
 std::optional<int> answerWithoutWindow(int &argc, char **argv, QString *queue)
 {

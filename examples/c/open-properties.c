@@ -1,7 +1,7 @@
 /* SPDX-FileCopyrightText: 2026 The PropertiesDialog authors */
 /* SPDX-License-Identifier: MIT */
 
-/* Opens the properties dialog of the default printer from a plain C program that knows nothing of Qt. */
+/* Opens the properties dialog of the default printer from a plain C program without Qt. */
 
 #include <dlfcn.h>
 #include <stdio.h>
@@ -20,7 +20,7 @@ int main(void)
         return 2;
     }
 
-    /* C has no conversion from an object's address to a function's, but both are the same bits here. */
+    /* C has no conversion from object pointers to function pointers, but POSIX guarantees the same representation. */
     memcpy(&propertiesDialog, &symbol, sizeof propertiesDialog);
 
     /* The library stays loaded: Qt cannot be unloaded from a running process. */

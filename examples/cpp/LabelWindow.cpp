@@ -46,7 +46,7 @@ void LabelWindow::print()
     if (dialog.exec2(properties) != QDialog::Accepted)
         return;
 
-    // PrintDialog::numCopies() is about the short form of the dialog. The full form has a box of its own.
+    // PrintDialog::numCopies() belongs to the short form of the dialog. The full form has its own box.
     const int copies = dialog.findChild<QSpinBox *>(QStringLiteral("numCopies_2"))->value();
     if (dialog.printToFile())
         saveAsFile();
@@ -84,14 +84,14 @@ void LabelWindow::saveAsFile()
 
 void LabelWindow::sendToPrinter(int copies)
 {
-    // CUPS has a copy of its own once printFile() has returned.
+    // When printFile() returns, CUPS has its own copy.
     QTemporaryFile file;
     if (!file.open() || !writePdf(file.fileName())) {
         QMessageBox::warning(this, tr("Warning"), tr("The label cannot be drawn."));
         return;
     }
 
-    // The printer's saved settings go with the job by themselves.
+    // The printer's saved settings are sent with the job automatically.
     const QStringList options{QStringLiteral("copies"), QString::number(copies)};
     const int job = cups.printFile(file.fileName(), QString(), tr("Label"), options);
     if (job == 0) {

@@ -32,7 +32,7 @@ private:
     void saveAsFile();
     void sendToPrinter(int copies);
 
-    // All dialogs share these two: they carry the user's choice of printer from one to the other.
+    // All dialogs share these two, which hold the user's choice of printer.
     QPrinter printer;
     CupsSupport cups;
 

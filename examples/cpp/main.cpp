@@ -11,7 +11,7 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
 
-    // The library's dialogs in the user's language. Without a catalogue for it they are in English.
+    // Shows the library's dialogs in the user's language; without a catalogue for it, in English.
     QTranslator texts;
     if (texts.load(QLocale(), QStringLiteral("propertiesdialog"), QStringLiteral("_"),
                    QString::fromUtf8(TRANSLATIONS_DIR))) {

@@ -27,7 +27,7 @@
 
 namespace {
 
-// What is entered, and what the next opening must show.
+// What is entered and must be shown by the next opening.
 constexpr int mediaType = 1; // labels with gaps
 constexpr int darkness = 12;
 const QString gapSize = QStringLiteral("0.25");
@@ -50,7 +50,7 @@ void expect(bool condition, const QString &what)
         fail(what);
 }
 
-// Where the mouse has to go to tick a group box.
+// The point to click to tick a group box.
 QPoint checkBoxOf(const QGroupBox *box)
 {
     QStyleOptionGroupBox option;
@@ -78,7 +78,7 @@ Driver::Driver()
         return dialog && dialog->isVisible();
     });
     expect(shown, QStringLiteral("the dialog does not appear"));
-    // Without a window manager nobody gives a new window the keyboard.
+    // Without a window manager, nothing gives a new window the keyboard focus.
     dialog->activateWindow();
     expect(QTest::qWaitForWindowActive(dialog), QStringLiteral("the dialog does not get the keyboard"));
 }
@@ -95,7 +95,7 @@ void Driver::edit()
     expect(slider->value() == darkness, QStringLiteral("the darkness cannot be set"));
 
     showTab(2);
-    // The media type comes first: choosing it loads the gap size anew.
+    // The media type comes first because choosing it reloads the gap size.
     choose(find<QComboBox>("mediaType"), mediaType);
     retype("gapSize", gapSize);
 
@@ -115,7 +115,7 @@ void Driver::edit()
     click(find<QPlainTextEdit>("descriptionEdit"));
     type(presetDescription);
 
-    // The page size belongs to the preset that is current.
+    // The page size belongs to the current preset.
     showTab(0);
     auto *group = find<QGroupBox>("stockGroupBox");
     if (!group->isChecked())
@@ -184,7 +184,7 @@ void Driver::takeScreenshots(const QString &folder)
     int number = 0;
     for (const char *name : names) {
         showTab(number);
-        // The mouse leaves no highlighted tab behind, and the window is drawn before it is looked at.
+        // Do not leave a highlighted tab behind, and let the window be drawn first.
         QTest::mouseMove(window(), QPoint(dialog->width() - 2, dialog->height() - 2));
         QTest::qWait(200);
         const QRect area = dialog->frameGeometry();
@@ -244,7 +244,7 @@ void Driver::choose(QComboBox *box, int index)
     click(box);
     QAbstractItemView *list = box->view();
     expect(QTest::qWaitForWindowExposed(list->window()), QStringLiteral("a list does not open"));
-    // A popup takes a click that comes together with its opening for the end of the opening one.
+    // A popup treats a click at the moment of its opening as the end of the click that opened it.
     QTest::qWait(QApplication::doubleClickInterval() + 100);
     click(list->viewport(), list->visualRect(list->model()->index(index, 0)).center());
     expect(box->currentIndex() == index, QStringLiteral("%1 cannot be chosen").arg(box->itemText(index)));

@@ -12,24 +12,24 @@ class QWidget;
 class QWindow;
 
 /**
- * Uses the properties dialog in place of a person: by mouse clicks and key strokes sent to its window, finding the
- * widgets by their names. Ends the process with status 3 when the dialog is not as expected.
+ * Operates the properties dialog like a user, by mouse clicks and key strokes sent to its window, finding the
+ * widgets by their names. Ends the process with status 3 if the dialog is not as expected.
  *
  * To be called while the dialog is running.
  */
 class Driver
 {
 public:
-    /** Waits until the dialog is shown and has the keyboard. */
+    /** Waits until the dialog is shown and has the keyboard focus. */
     Driver();
 
-    /** Changes settings on every tab, makes a preset of them and presses OK. */
+    /** Changes settings on every tab, creates a preset from them and presses OK. */
     void edit();
 
-    /** Compares what the dialog shows with what edit() entered, and prints both. @return whether all agrees. */
+    /** Compares what the dialog shows with what edit() entered, and prints both. @return whether they agree. */
     bool check();
 
-    /** Saves a picture of the screen's part that the dialog takes, for each tab, as FOLDER/NUMBER-TAB.png. */
+    /** Saves a screenshot of the dialog for each tab as FOLDER/NUMBER-TAB.png. */
     void takeScreenshots(const QString &folder);
 
     /** Presses Cancel. */

@@ -21,10 +21,10 @@
 // The destinations that are flagged as default beside the real one, see lastOfSeveralDefaultsWins().
 static QByteArrayList extraDefaults;
 
-// Whether the user has but one destination, the first.
+// Whether the user has only one destination, the first.
 static bool isOneDestination = false;
 
-// libcups flags no second destination with a scheduler alone; destinations found in the network can be. So the flags
+// With only a scheduler, libcups flags one destination; destinations found in the network can be flagged too. So the flags
 // are added on the way.
 int cupsGetDests2(http_t *http, cups_dest_t **dests)
 {
@@ -54,7 +54,7 @@ static QByteArray rect(const QRect &r)
            + QByteArray::number(r.height());
 }
 
-// What every member gives where there is no printer; the tests compare it with noPrinterReport.
+// What every member returns without a printer; the tests compare it with noPrinterReport.
 static void reportWithoutPrinter(CupsSupport &cups)
 {
     const auto number = [](auto value) { return QByteArray::number(value); };
@@ -119,7 +119,7 @@ static int withoutPrinter(int &argc, char **argv)
 }
 static const TestMain::ChildFunction withoutPrinterFunction("withoutPrinter", withoutPrinter);
 
-// Whatever the scheduler answered before, its failure has a text once it is gone.
+// Whatever the scheduler answered before, once it has stopped its failure has a text.
 static int errorWithoutScheduler(int &, char **)
 {
     CupsSupport cups;
@@ -129,7 +129,7 @@ static int errorWithoutScheduler(int &, char **)
 }
 static const TestMain::ChildFunction errorWithoutSchedulerFunction("errorWithoutScheduler", errorWithoutScheduler);
 
-// A scheduler that accepts connections and answers nothing.
+// A scheduler that accepts connections but does not answer.
 class SilentScheduler
 {
 public:
@@ -173,6 +173,7 @@ static int askSilentScheduler(int &, char **)
 }
 static const TestMain::ChildFunction askSilentSchedulerFunction("askSilentScheduler", askSilentScheduler);
 
+// If this fails, a dialog edits or prints to another printer than the one it shows.
 class CupsSupportDestinationsTest : public CupsTest
 {
     Q_OBJECT
@@ -388,7 +389,7 @@ void CupsSupportDestinationsTest::noPpdFileOfRawQueue()
 
 void CupsSupportDestinationsTest::missingPpdFileIsAskedForOnce()
 {
-    // What makes it ask again.
+    // Makes it ask again.
     for (void (*const again)(CupsSupport &) : {
              +[](CupsSupport &cups) { cups.closePpdFile(); },
              +[](CupsSupport &cups) { cups.setCurrentPrinter(3); },

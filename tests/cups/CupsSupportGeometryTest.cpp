@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <cstring>
 
+// If this fails, page sizes and resolutions are wrong, and labels print shifted or scaled.
 class CupsSupportGeometryTest : public CupsTest
 {
     Q_OBJECT

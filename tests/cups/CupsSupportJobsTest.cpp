@@ -12,6 +12,7 @@
 #include <memory>
 #include <vector>
 
+// If this fails, a job prints with other settings than the dialog shows, or does not print.
 class CupsSupportJobsTest : public CupsTest
 {
     Q_OBJECT
@@ -204,7 +205,7 @@ void CupsSupportJobsTest::options()
 {
     QCOMPARE(supportFor(LP1)->options(), QStringList());
 
-    // In the order of the PPD file, without what is equal to the default or not in the PPD file at all.
+    // In the order of the PPD file, without values that equal the default and options that it does not list.
     writeOptionsFile("Dest LP1 PrintSpeed=5 Darkness=4 PageSize=w144h72 CutMedia=0 MyOption=1\n");
     QCOMPARE(supportFor(LP1)->options(), QStringList({"PageSize", "w144h72", "Darkness", "4", "PrintSpeed", "5"}));
     // Values that the PPD file does not list cannot be marked.

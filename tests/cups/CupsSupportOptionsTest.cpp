@@ -119,6 +119,7 @@ Sample sample(const Accessor &accessor)
 
 } // namespace
 
+// If this fails, a setting is stored or read with another value than the user entered.
 class CupsSupportOptionsTest : public CupsTest
 {
     Q_OBJECT
@@ -383,7 +384,7 @@ void CupsSupportOptionsTest::getDefaultValue()
     QVERIFY(cups->getDefaultValue("darkness") == nullptr);
     QVERIFY(cups->getDefaultValue("NoSuchOption") == nullptr);
     QVERIFY(cups->getDefaultValue("") == nullptr);
-    // Neither what is saved nor what is marked matters.
+    // Saved and marked values do not matter.
     cups->setOptions({"Darkness", "4"});
     cups->closePpdFile();
     QVERIFY(ppdIsMarked(cups->getPpdFile(), "Darkness", "4"));

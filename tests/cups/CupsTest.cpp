@@ -59,7 +59,7 @@ int CupsTest::destCount()
 
 void CupsTest::initTestCase()
 {
-    // Else the run in another locale would show nothing.
+    // Otherwise the run in another locale would prove nothing.
     QCOMPARE(QByteArray(localeconv()->decimal_point), QByteArray(qgetenv("LC_ALL").startsWith("de_DE") ? "," : "."));
 
     scheduler = std::make_unique<PrivateScheduler>();

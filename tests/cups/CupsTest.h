@@ -22,7 +22,7 @@
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 /**
- * What the tests of CupsSupport have in common: a scheduler with three printers and no default, and an options file
+ * Base of the tests of CupsSupport: a scheduler with three printers and no default, and an options file
  * that does not exist when a test function begins.
  *
  *   LP1    every-option, described as "First Printer"

@@ -54,6 +54,7 @@ static const TestMain::ChildFunction saveWithLimitFunction("saveWithLimit", save
 
 using Options = QMap<QByteArray, QByteArray>;
 
+// If this fails, saved settings of this or other printers are lost or read back differently.
 class OptionsFileTest : public CupsTest
 {
     Q_OBJECT
@@ -556,7 +557,7 @@ void OptionsFileTest::ownerIsKept()
 {
     writeOptionsFile("Dest LP1 Darkness=3\n");
     const QByteArray path = QFile::encodeName(optionsPath());
-    if (geteuid() == 0) { // nobody else can give files away
+    if (geteuid() == 0) { // only root can change the owner of files
         QCOMPARE(chown(path, 12345, 54321), 0);
         QCOMPARE(chmod(path, 0640), 0);
     }

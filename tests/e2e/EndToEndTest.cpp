@@ -17,16 +17,16 @@
 
 namespace {
 
-const int patienceMs = 60000; // far more than anything here takes, also on a machine that is busy
+const int patienceMs = 60000; // far longer than anything here takes, even on a busy machine
 
-// An X server without a screen, for the time of this object.
+// A virtual X server that runs while this object exists.
 class XServer
 {
 public:
     XServer()
     {
         server.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        // It ends with us, also when a test program ends in the middle.
+        // It ends with this process, even if the test crashes.
         server.start("setpriv", {"--pdeathsig", "TERM", "Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24",
                                  "-nolisten", "tcp", "-noreset"});
         while (!server.canReadLine() && server.waitForReadyRead(patienceMs)) {
@@ -57,7 +57,7 @@ private:
     QByteArray number;
 };
 
-// One opening of the dialog by a process of its own.
+// The dialog, opened by another process.
 class Session
 {
 public:
@@ -67,8 +67,8 @@ public:
         host.setProcessEnvironment(environment);
         host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         host.start(E2E_HOST, QStringList());
-        // Without a window manager nobody gives a new window the keyboard, and the server refuses it before the window is
-        // to be seen.
+        // Without a window manager, nothing gives a new window the keyboard focus, and the server refuses it until the window is
+        // visible.
         waitFor("the dialog", [this] {
             if (state.isEmpty()) {
                 return false;
@@ -135,14 +135,14 @@ public:
         waitFor("the tab", [&] { return state.value("tab").toInt() == tab; });
     }
 
-    // Clicks into the middle of a widget that can be seen.
+    // Clicks the middle of a visible widget.
     void click(const char *name)
     {
         waitUntilUsable(name);
         clickAt(rect(widget(name).value("rect")).center());
     }
 
-    // Clicks a radio button where it has its mark: the rest of its width need not belong to it.
+    // Clicks the mark of a radio button; the rest of its width may not react.
     void mark(const char *name)
     {
         waitUntilUsable(name);
@@ -252,6 +252,7 @@ enum Tab {
 
 } // namespace
 
+// If this fails, a user at a real display cannot operate the dialog, or does not get what they saved.
 class EndToEndTest : public QObject
 {
     Q_OBJECT
@@ -347,7 +348,7 @@ void EndToEndTest::changedAppliedAndReopened()
     session.click("okButton");
     QCOMPARE(session.result(), 1);
 
-    // Other programs see it, too.
+    // Other programs see it too.
     const QByteArray options = ' ' + PrivateScheduler::run("lpoptions", {"-p", "Label"}).trimmed() + ' ';
     for (const char *option : {" GapSize=6.350 ", " Darkness=4 ", " orientation-requested=5 "})
         QVERIFY2(options.contains(option), options.constData());

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 //
 // A host that opens the properties dialog, and whose exit status is the dialog's result. Each line on its standard input
-// is answered by a line with the state of the dialog, as JSON: where its widgets are and what they show. It only looks:
-// whoever wants to use the dialog has to do it by mouse and keyboard.
+// is answered by a line with the state of the dialog, as JSON: where its widgets are and what they show. It only reports:
+// the dialog must be operated by mouse and keyboard.
 
 #include <PropertiesDialog/PropertiesDialog.h>
 
@@ -88,7 +88,7 @@ void answer()
 {
     char buffer[256];
     const ssize_t count = read(STDIN_FILENO, buffer, sizeof buffer);
-    if (count <= 0) // nobody is there any more
+    if (count <= 0) // the other end has closed
         std::_Exit(3);
     for (ssize_t i = 0; i < count; ++i) {
         if (buffer[i] == '\n') {

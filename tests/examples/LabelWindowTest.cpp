@@ -25,7 +25,7 @@
 
 #include <functional>
 
-// Plays the user: step by step, each with the next dialog that opens.
+// Plays the user, step by step; each step handles the next dialog that opens.
 class User
 {
 public:
@@ -43,7 +43,7 @@ public:
         return *this;
     }
 
-    // The same for a dialog that may not be ready yet: @p action is repeated until it has ended the dialog.
+    // The same for a dialog that may not be ready yet: @p action is repeated until it has closed the dialog.
     template<class Dialog>
     User &thenUntilClosed(std::function<void(Dialog *)> action)
     {
@@ -73,6 +73,7 @@ private:
     QTimer timer;
 };
 
+// If this fails, the C++ example that developers copy does not print or leads them to the wrong calls.
 class LabelWindowTest : public QObject
 {
     Q_OBJECT

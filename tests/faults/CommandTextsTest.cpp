@@ -94,7 +94,7 @@ QString heldBy(const QPlainTextEdit *edit)
     return text.replace(QChar::ParagraphSeparator, '\n').replace(QChar::LineSeparator, '\n');
 }
 
-// What is to come back: Latin-1 without NUL, with a line break at the end, and with what looks like a stored line break being one.
+// What must come back: Latin-1 without NUL, with a line break at the end; what looks like a stored line break becomes one.
 QString expectedOf(const QString &text)
 {
     if (text.isEmpty())
@@ -121,7 +121,7 @@ bool exchange(const char *name, QIODevice::OpenMode mode, QStringList &texts)
 
 QtMessageHandler handlerBefore = nullptr;
 
-// No machine has fonts for everything that is typed here.
+// No machine has fonts for all of these characters.
 void ignoreMissingFonts()
 {
     handlerBefore =
@@ -131,7 +131,7 @@ void ignoreMissingFonts()
         });
 }
 
-// A text that no line of the file could hold: then the file stays what it was.
+// A text that is too long for a line of the file: the file does not change.
 bool applyTooLong(const QString &queue, QRandomGenerator &random)
 {
     const QByteArray before = optionsFile();
@@ -199,7 +199,7 @@ const TestMain::ChildFunction readFunction("read", read);
 
 } // namespace
 
-// User commands come back from the options file as they were typed.
+// If this fails, user commands change between typing, saving and printing.
 class CommandTextsTest : public QObject
 {
     Q_OBJECT

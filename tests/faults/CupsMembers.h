@@ -27,7 +27,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/** A call of a member, and what it returned as a text. */
+/** A call of a member, and what it returned, as text. */
 using MemberCall = std::function<QString(CupsSupport &)>;
 
 struct Member
@@ -235,7 +235,7 @@ struct Outcome
 
 using Outcomes = QMap<QString, Outcome>;
 
-/** What each member returns, called in a copy of this process of its own for each; several run at the same time. */
+/** What each member returns. Each is called in its own copy of this process; several run at the same time. */
 inline Outcomes callEach(CupsSupport &cups, const std::function<void(CupsSupport &)> &prepare = {})
 {
     const int atOnce = 30; // the scheduler has a limit for its clients

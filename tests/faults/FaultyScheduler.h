@@ -21,7 +21,7 @@
 #include <unistd.h>
 
 /**
- * What clients find on a socket instead of a scheduler, for the time of this object; a process of its own. Some faults are
+ * What clients find on a socket instead of a scheduler, while this object exists. It runs as a separate process. Some faults are
  * those of something between the client and a real scheduler.
  */
 class FaultyScheduler
@@ -29,7 +29,7 @@ class FaultyScheduler
 public:
     enum Fault {
         NeverAnswers,
-        NeverAccepts, // and has no room for those who wait
+        NeverAccepts, // and has a full queue of waiting clients
         Closes,
         Garbage,
         HttpGarbage,
@@ -39,7 +39,7 @@ public:
         HalfAnswer, // and then nothing
         ByteByByte, // after the first few hundred
         WrongLength, // announces more than comes
-        PpdFileStops, // all else is passed on
+        PpdFileStops, // everything else is passed on
         PpdFileBreaksOff,
         WantsPassword, // "secret", of "user"
     };

@@ -27,7 +27,7 @@ QString scriptPath(const QString &file = "Foreign")
     return cupsFolder() + "/LP1/" + file + ".sh";
 }
 
-// Nothing but programs that write down how they were called is on PATH while this lives.
+// While this object exists, PATH contains only programs that record how they were called.
 class LoggedPrograms
 {
 public:
@@ -45,7 +45,7 @@ public:
     LoggedPrograms(const LoggedPrograms &) = delete;
     LoggedPrograms &operator=(const LoggedPrograms &) = delete;
 
-    // The calls since the last time, a line each.
+    // The calls since the last time, one per line.
     QByteArray calls() const
     {
         const QString log = folder.filePath("log");
@@ -59,7 +59,7 @@ private:
     QByteArray pathBefore = qgetenv("PATH");
 };
 
-// What a script that is run leaves.
+// Traces of a script that was run.
 QString marker()
 {
     return QDir::homePath() + "/marker";
@@ -213,7 +213,7 @@ MakeFolder linkInPlace(const QByteArray &target)
 
 Q_DECLARE_METATYPE(MakeFile)
 
-// Presets and queues that come from somebody else run nothing, block nothing and stay in their folder.
+// If this fails, opening or choosing a preset from somebody else can run programs or block the dialog.
 class ForeignTest : public QObject
 {
     Q_OBJECT

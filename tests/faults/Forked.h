@@ -9,7 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/** What a function returned in a copy of this process. What it does to the process, its limits say, ends with the copy. */
+/** Returns the result of a function that runs in a copy of this process, so that changed limits and the like end with it. */
 inline int inCopy(const std::function<int()> &function)
 {
     const pid_t copy = fork();

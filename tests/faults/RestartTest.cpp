@@ -13,7 +13,7 @@
 
 using namespace CupsMembers;
 
-// The scheduler ends, or ends and comes back, between two calls of a CupsSupport.
+// If this fails, restarting the scheduler while a dialog is open crashes the host or gives wrong settings.
 class RestartTest : public QObject
 {
     Q_OBJECT
@@ -103,7 +103,7 @@ void RestartTest::constructorAndDestructor()
     QVERIFY(between->getPpdFile());
 }
 
-// It comes back without the printer that is edited. Its settings are saved all the same, for when it is back.
+// It comes back without the edited printer, whose settings are nevertheless saved for its return.
 void RestartTest::queueIsGone()
 {
     CupsSupport cups;

@@ -247,7 +247,7 @@ const int kills = 300;
 
 Q_DECLARE_METATYPE(Fault)
 
-// Whatever stops the saving of settings, the earlier file or the complete new one is there afterwards.
+// If this fails, a full disk, a crash or a second program destroys saved settings.
 class SavingFaultsTest : public QObject
 {
     Q_OBJECT

@@ -276,7 +276,7 @@ const QList<std::pair<FaultyScheduler::Fault, const char *>> &faults()
 
 } // namespace
 
-// A scheduler that does not answer costs a few seconds and no settings.
+// If this fails, a scheduler that does not answer freezes the dialog or loses settings.
 class SilentSchedulerTest : public QObject
 {
     Q_OBJECT

@@ -46,7 +46,7 @@ QString descriptionOf(QObject *object)
     return QAccessible::queryAccessibleInterface(object)->text(QAccessible::Description);
 }
 
-// The role that a control has to have; none for what is no control.
+// The role that a control must have; none for other widgets.
 QAccessible::Role expectedRole(const QWidget *widget)
 {
     if (qobject_cast<const QCheckBox *>(widget))
@@ -120,6 +120,7 @@ QPalette darkPalette()
 
 } // namespace
 
+// If this fails, users of screen readers or the keyboard cannot operate a control, or users cannot read a text.
 class AccessibilityTest : public QObject
 {
     Q_OBJECT
@@ -465,7 +466,7 @@ void AccessibilityTest::textsStandOut()
             if (!hasText || (label && label->text().isEmpty()) || !widget->isVisible() || !widget->isEnabled()
                 || isPart(widget))
                 continue;
-            // The icon of a button is no text.
+            // The icon of a button is not text.
             if (auto *button = qobject_cast<QAbstractButton *>(widget))
                 button->setIcon(QIcon());
             // As it looks in the window, whose background many have.

@@ -21,7 +21,7 @@ struct AllDialogs
         create();
     }
 
-    /** Replaces the dialogs by new ones, in the language of this moment. */
+    /** Replaces the dialogs by new ones, in the current language. */
     void create()
     {
         properties = std::make_unique<PrintPropertiesDialog>(nullptr, &printer, &cups);

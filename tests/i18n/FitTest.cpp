@@ -78,7 +78,7 @@ QString nameOf(const QWidget *widget)
     return widget->objectName().isEmpty() ? widget->metaObject()->className() : widget->objectName();
 }
 
-// The parts of buttons boxes, spin boxes and so on are their own business.
+// Parts of button boxes, spin boxes and the like are not checked.
 bool isPart(const QWidget *widget)
 {
     const QWidget *parent = widget->parentWidget();
@@ -136,7 +136,7 @@ private:
     const QWidget *window;
 };
 
-// What a child process found.
+// The result of a child process.
 int examinedWidgets = 0;
 bool areFormSizesExpected = false;
 
@@ -231,6 +231,7 @@ const TestMain::ChildFunction findFaultsChild("findFaults", findFaults);
 
 } // namespace
 
+// If this fails, texts are cut off in some language, font or style.
 class FitTest : public QObject
 {
     Q_OBJECT

@@ -152,6 +152,7 @@ const TestMain::ChildFunction examineDialogChild("examineDialog", examineDialog)
 
 } // namespace
 
+// If this fails, the dialog is blurred or clipped on high-resolution screens.
 class ScalingTest : public QObject
 {
     Q_OBJECT

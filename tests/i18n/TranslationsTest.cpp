@@ -133,6 +133,7 @@ const TestMain::ChildFunction callWithoutApplicationChild("withoutApplication", 
 
 } // namespace
 
+// If this fails, texts appear untranslated, in the wrong language, or with broken placeholders.
 class TranslationsTest : public QObject
 {
     Q_OBJECT
@@ -215,7 +216,7 @@ void TranslationsTest::marksOfTextsSurvive()
     }
 }
 
-// By this text the library tells whether the host has installed a catalogue.
+// The library uses this text to detect whether the host has installed a catalogue.
 void TranslationsTest::pageSetupIsTranslated()
 {
     QFETCH(QString, language);

@@ -36,6 +36,7 @@ constexpr char extendedNames[] =
 
 } // namespace
 
+// If this fails, presets of printers with ORCA in their names omit or misplace settings.
 class PresetOrcaTest : public QObject
 {
     Q_OBJECT

@@ -42,7 +42,7 @@ QByteArrayList optionsOf(const QStringList &destination)
 
 } // namespace
 
-// Scripts that are run as the programs they are, with the real lpoptions and a real scheduler.
+// If this fails, running a preset in a shell applies other settings than choosing it in the dialog.
 class PresetRunTest : public QObject
 {
     Q_OBJECT
@@ -98,7 +98,7 @@ void PresetRunTest::queue()
     preset.setUserPageSize(QSizeF(4.5, 6));
     QVERIFY(preset.save({"GapSize", "3.000", "MirrorPrint", "False", "PrintSpeed", "3"}));
     QCOMPARE(run(preset), 0);
-    // GapSize has its default again; Feed, of which the preset says nothing, is as it was.
+    // GapSize has its default again; Feed, which the preset does not set, is unchanged.
     QCOMPARE(optionsOf({"LP1"}), (QByteArrayList{"Darkness=12", "Direct=True", "Feed=24", "OffsetH=-8",
                                                  "orientation-requested=4", "Stop=-12.700"}));
     QCOMPARE(ppdhackLog(), QByteArray("4.50 6.00 LP1\n"));
@@ -120,7 +120,7 @@ void PresetRunTest::values_data()
     QTest::addColumn<QString>("value");
     QTest::addColumn<QByteArray>("arrives");
     QTest::newRow("command") << "^XA" << QByteArray("^XA");
-    // The shell and lpoptions take off half of the backslashes each, of which the script has twice as many.
+    // The shell and lpoptions each remove half of the backslashes; the script has twice as many.
     QTest::newRow("stored line break") << "^XA\\\\r" << QByteArray("^XA\\r");
     QTest::newRow("backslashes") << "a\\\\\\\\b" << QByteArray("a\\\\b");
 }

@@ -39,7 +39,7 @@ PresetScript::Content content(const QStringList &options = {})
 
 constexpr char head[] = "#!/bin/bash\n";
 
-// No file that this process writes can become longer than this, for the time of this object.
+// While this object exists, files that this process writes cannot become longer than this.
 class FileSizeLimit
 {
 public:
@@ -64,6 +64,7 @@ mode_t modeOf(const QString &path)
 
 } // namespace
 
+// If this fails, preset scripts are written or read incorrectly, including users' existing ones.
 class PresetScriptTest : public QObject
 {
     Q_OBJECT
@@ -140,7 +141,7 @@ void PresetScriptTest::init()
     QVERIFY(PresetFiles::reset());
 }
 
-// The run under another locale would prove nothing if the locale were not in force.
+// The run in another locale would prove nothing if the locale were not active.
 void PresetScriptTest::numbersOfTheLocale()
 {
     const bool german = qgetenv("LC_ALL").startsWith("de_DE");
@@ -344,7 +345,7 @@ void PresetScriptTest::optionItem_data()
     row("fALSE", {"Direct", "fALSE"}, {}, " -oDirect=False");
     row("flag is the default", {"Direct", "False"}, {"Direct", "False"}, " -rDirect");
     row("not quite true", {"Direct", "trues"}, {}, " -oDirect=trues");
-    // lpoptions would make "true" of an empty value.
+    // lpoptions would turn an empty value into "true".
     row("empty", {"JobStart", ""}, {}, " -rJobStart");
     row("null", {"JobStart", QString()}, {}, " -rJobStart");
     row("blanks", {"JobStart", " \t "}, {}, " -rJobStart");
@@ -475,7 +476,7 @@ void PresetScriptTest::beyondAscii()
     QString read;
     QVERIFY(PresetScript::parseText(script, "description", read));
     QCOMPARE(read, text.section(QRegularExpression("[\n\t]"), 0, 0));
-    // Who knows the fixed line alone finds there what was always there.
+    // Readers that only know the fixed line find what was always there.
     QVERIFY(PresetScript::parseAttribute(script, "description", read));
     QCOMPARE(read, QString::fromLatin1(fixed).section(QRegularExpression("[^ -~]"), 0, 0));
 }
@@ -712,7 +713,7 @@ void PresetScriptTest::linkedFolder()
     QVERIFY(QDir(elsewhere).removeRecursively());
 }
 
-// Where all of $HOME/.cups is to lie is the user's to say.
+// The user may put $HOME/.cups elsewhere.
 void PresetScriptTest::linkedRoot()
 {
     QVERIFY(QDir(PresetFiles::root()).removeRecursively() && QDir().mkpath(home() + "/dotfiles/cups"));
@@ -772,7 +773,7 @@ void PresetScriptTest::ownersOfUsers()
         return lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_uid : 0;
     };
     const uid_t self = geteuid();
-    const uid_t owner = self == 0 ? user : self; // nobody else can give files away
+    const uid_t owner = self == 0 ? user : self; // only root can change the owner of files
     const QString existing = PresetFiles::script("LP1", "Existing");
     QVERIFY(PresetFiles::writeFile(existing, "earlier") && QDir(PresetFiles::root()).exists());
     for (const QString &path : {home(), existing})
@@ -793,7 +794,7 @@ void PresetScriptTest::ownersOfUsers()
     QCOMPARE(chown(QFile::encodeName(home()).constData(), self, static_cast<gid_t>(-1)), 0);
 }
 
-// A process of this number that was killed while it wrote left a file behind.
+// A file left by a process with the same id that was killed while writing.
 void PresetScriptTest::writeBesideLeftovers()
 {
     const QString leftover =

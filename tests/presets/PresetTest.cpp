@@ -28,7 +28,7 @@ bool writeScript(const QByteArray &text = scriptText)
     return writeFile(script("LP1", "Wide"), text);
 }
 
-// A preset of the user's, read at the first request.
+// A preset of the user, read on first use.
 class UserPreset : public Preset
 {
 public:
@@ -43,6 +43,7 @@ public:
 Q_DECLARE_METATYPE(Preset::_State)
 Q_DECLARE_METATYPE(std::function<void(Preset &)>)
 
+// If this fails, a preset loses settings, its name or its description when it is saved or loaded.
 class PresetTest : public QObject
 {
     Q_OBJECT
@@ -112,7 +113,7 @@ void PresetTest::init()
     QVERIFY(PresetFiles::reset());
 }
 
-// The run under another locale would prove nothing if the locale were not in force.
+// The run in another locale would prove nothing if the locale were not active.
 void PresetTest::numbersOfTheLocale()
 {
     const bool german = qgetenv("LC_ALL").startsWith("de_DE");
@@ -340,7 +341,7 @@ void PresetTest::setters_data()
         p.setName("");
     };
     row("still no name", stillNoName, Preset::Clean);
-    // Whatever the state was; a preset that was to be deleted is not any more.
+    // Whatever the state was; a preset marked as deleted is no longer marked.
     const auto deletedName = [](Preset &p) {
         p.setState(Preset::Deleted);
         p.setName("Other");
@@ -463,7 +464,7 @@ void PresetTest::clearOptionsDoesNotRead()
     QCOMPARE(readFile(preset.pathName()), QByteArray("#!/bin/bash\nlpoptions -pLP1\n"));
 }
 
-// The script has been read, though nobody has asked for its options.
+// The script has been read, although its options have not been requested.
 void PresetTest::clearOptionsOfRead()
 {
     QVERIFY(writeScript());
@@ -614,7 +615,7 @@ void PresetTest::saveWritesScript()
     QCOMPARE(PresetFiles::entries(PresetFiles::folder("LP1")), QStringList{"Wide.sh"});
 }
 
-// Also what nobody has asked for.
+// Including values that have not been requested.
 void PresetTest::saveKeepsWhatWasRead()
 {
     QVERIFY(writeScript());

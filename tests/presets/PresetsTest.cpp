@@ -97,6 +97,7 @@ QString nameOf(Preset *preset)
 
 } // namespace
 
+// If this fails, presets are missing from the list, in the wrong order, or not saved or deleted.
 class PresetsTest : public QObject
 {
     Q_OBJECT
@@ -245,7 +246,7 @@ void PresetsTest::listsUnreadable_data()
     QTest::newRow("link to device") << "device" << true;
 }
 
-// What cannot be read is listed under its file name if it is listed at all, and neither blocks nor ends anything.
+// Unreadable files are listed under their file names or not at all, and do not block or fail anything.
 void PresetsTest::listsUnreadable()
 {
     QFETCH(QString, file);
@@ -284,7 +285,7 @@ void PresetsTest::listsNothingForHostilePrinter_data()
     QTest::newRow("line feed") << "LP1\n";
 }
 
-// Nor is the working directory listed in place of a folder that there is not.
+// Nor is the working directory listed instead of a folder that does not exist.
 void PresetsTest::listsNothingForHostilePrinter()
 {
     QFETCH(QString, printer);
@@ -678,7 +679,7 @@ void PresetsTest::saveOfModifiedBuiltIn()
         QCOMPARE(boxes.texts(), QStringList{"a cannot be modified."});
     }
     QCOMPARE(presets.findPreset("b")->state(), Preset::Modified);
-    // It has been read again, so that it is in nobody's way the next time.
+    // It has been read again, so that it does not block the next saving.
     QVERIFY(presets.save({}));
     QCOMPARE(presets.findPreset("b")->state(), Preset::Clean);
 }
@@ -745,7 +746,7 @@ void PresetsTest::saveLinksCurrent()
         QVERIFY(writeFile(link(), "text"));
     else if (!before.isEmpty())
         QCOMPARE(symlink(QFile::encodeName(before).constData(), QFile::encodeName(link()).constData()), 0);
-    // What an earlier process of this number left behind when it ended in between.
+    // A file left by a killed process that had the same id.
     QVERIFY(QFile::link("/nowhere", link() + '.' + QString::number(QCoreApplication::applicationPid())));
     Presets presets("LP1");
     presets.setCurrentPreset(presets.findPreset("b"));
@@ -814,7 +815,7 @@ void PresetsTest::saveWithoutCurrent()
     QCOMPARE(linkText(), QFile::encodeName(script("LP1", "a")));
 }
 
-// The link is a help for the next run, no part of what is saved.
+// The link helps the next run; it is not part of what is saved.
 void PresetsTest::saveWithoutFolder()
 {
     Presets presets("LP1");

@@ -11,7 +11,7 @@
 
 namespace {
 
-// Shows what every text was looked up by.
+// Shows context and source of every text.
 class EchoTranslator : public QTranslator
 {
 public:
@@ -35,7 +35,7 @@ struct Cell
     const char *text; // null: it has none
 };
 
-// In the order in which they are made, which is that of the focus as well.
+// In the order of creation, which is also that of the focus.
 constexpr Cell cells[] = {
     {"frame_0", "QFrame", "gridLayout_8", 0, 0, 1, 2, nullptr},
     {"lblPrintTitle", "QLabel", "gridLayout_7", 0, 0, 1, 1, "Print"},
@@ -67,6 +67,7 @@ constexpr Cell cells[] = {
 
 } // namespace
 
+// If this fails, the print dialog looks different: controls are moved, missing or in the wrong tab order.
 class PrintDialogFormTest : public QObject
 {
     Q_OBJECT
@@ -315,7 +316,7 @@ void PrintDialogFormTest::buttonsCloseTheDialog_data()
     QTest::newRow("yes") << "yesButton" << true << 1;
     QTest::newRow("no") << "noButton" << true << 0;
     QTest::newRow("cancel") << "noButton_2" << true << 0;
-    // These are the business of the class that owns the form.
+    // The class that owns the form sets these.
     QTest::newRow("ok") << "yesButton_2" << false << -5;
     QTest::newRow("properties") << "propertiesButton" << false << -5;
     QTest::newRow("properties of the full form") << "propertiesButton_2" << false << -5;

@@ -168,7 +168,7 @@ protected:
     }
 };
 
-// Shows what every text was looked up by.
+// Shows context and source of every text.
 class EchoTranslator : public QTranslator
 {
 public:
@@ -217,7 +217,7 @@ int dialogWithoutPrinters(int &argc, char **argv)
     return 0;
 }
 
-// The same with a scheduler that has no queues.
+// The same with a scheduler without queues.
 int dialogWithoutQueues(int &argc, char **argv)
 {
     const PrivateScheduler scheduler;
@@ -229,6 +229,7 @@ const TestMain::ChildFunction withoutQueues("dialogWithoutQueues", dialogWithout
 
 } // namespace
 
+// If this fails, the print dialog shows wrong printers or states, or changes the wrong settings.
 class PrintDialogTest : public QObject
 {
     Q_OBJECT
@@ -345,7 +346,7 @@ void PrintDialogTest::initTestCase()
     scheduler.setServerDefault("aisle");
     scheduler.setUserOptions("twin1/small", {"PageSize=w144h72"});
 
-    // Queues on which a job is being printed until we say so, or until the scheduler is stopped.
+    // Queues that print a job until told otherwise or until the scheduler stops.
     QFile backend(scheduler.dir() + "/bin/backend/slow");
     QVERIFY(backend.open(QIODevice::WriteOnly));
     backend.write("#!/bin/bash\n"
@@ -427,7 +428,7 @@ void PrintDialogTest::fullFormIsSetUp()
     QWidget parent;
     const PrintDialog form(&parent, printer.get(), cups.get());
     QCOMPARE(form.parentWidget(), &parent);
-    // Qt puts a system menu beside a close button.
+    // Qt adds a system menu to a close button.
     QCOMPARE(form.windowFlags(), Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint
                                      | Qt::WindowSystemMenuHint);
     QCOMPARE(child<QStackedWidget>(form, "stackedWidget")->currentWidget()->objectName(),
@@ -813,7 +814,7 @@ void PrintDialogTest::useDefaultReturnsToTheEarlierChoice()
     QCOMPARE(text(*dialog, "lblLocation"), QString("Küche, Süd"));
 }
 
-// The labels and what depends on them are shown anew even if the list stays where it is.
+// The labels and what depends on them are updated even if the list's index does not change.
 void PrintDialogTest::useDefaultShowsTheDefaultPrinterAgain()
 {
     dialog->setPrintToFileEnabled(false);
@@ -843,7 +844,7 @@ void PrintDialogTest::okAfterUseDefaultWasUntickedKeepsThePrinter()
     QCOMPARE(cups->getCurrentQueueName(), QString("kitchen"));
 }
 
-// The destinations are fetched anew, and with other queues among them the indexes mean others.
+// The destinations are fetched again, and with other queues among them the indexes change.
 void PrintDialogTest::useDefaultCopesWithNewQueues()
 {
     makeDialog("kitchen");
@@ -873,7 +874,7 @@ void PrintDialogTest::useDefaultCopesWithoutAnyQueues()
     scheduler.start();
 
     QVERIFY(!wasEnabled);
-    QVERIFY(printToFile->isEnabled()); // as in any form that is filled anew, and no printer disables it
+    QVERIFY(printToFile->isEnabled()); // as in any form that is filled again; having no printer does not disable it
     QCOMPARE(count, 0);
     QVERIFY(questions.isEmpty());
     QCOMPARE(dialog->result(), 1);
@@ -929,7 +930,7 @@ void PrintDialogTest::changeIsRefused()
     QCOMPARE(printer->printerName(), name);
 }
 
-// A dialog may be run again: what was changed to is the current printer then.
+// A dialog may be run again; the printer chosen before is then the current one.
 void PrintDialogTest::changeIsAskedOnce()
 {
     choose("kitchen");
@@ -958,7 +959,7 @@ void PrintDialogTest::chosenQueueGetsWhatIsPrinted_data()
     QTest::newRow("described by the name of a third one") << "kitchen"
                                                           << "mimic"
                                                           << "mimic";
-    // To the scheduler names in upper and lower case are the same.
+    // The scheduler does not distinguish upper and lower case in names.
     QTest::newRow("described by the name of a third one in capitals") << "kitchen"
                                                                       << "yard"
                                                                       << "yard";

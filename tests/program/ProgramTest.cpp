@@ -21,7 +21,7 @@ struct Result
 
 } // namespace
 
-// The program label-printer-properties, from outside.
+// If this fails, label-printer-properties opens the wrong printer or returns a wrong exit status.
 class ProgramTest : public QObject
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ Result ProgramTest::run(const QStringList &arguments)
     return result;
 }
 
-// Runs the program in an X server of its own, waits for the window with this title and presses a key in it.
+// Runs the program in its own X server, waits for the window with this title and presses a key in it.
 Result ProgramTest::press(const QStringList &arguments, const QString &key, const QString &title)
 {
     QProcess process;

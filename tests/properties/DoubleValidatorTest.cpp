@@ -23,6 +23,7 @@ public:
 
 } // namespace
 
+// If this fails, numeric fields reject valid input or accept invalid input.
 class DoubleValidatorTest : public QObject
 {
     Q_OBJECT

@@ -27,6 +27,7 @@ QByteArray savedFile()
 
 } // namespace
 
+// If this fails, the offset dialog shows or stores another offset than the one chosen.
 class ExtDialogTest : public QObject
 {
     Q_OBJECT

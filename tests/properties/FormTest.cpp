@@ -319,6 +319,7 @@ public Q_SLOTS:
 
 } // namespace
 
+// If this fails, the properties dialog looks different: controls are moved, missing or mislabelled.
 class FormTest : public QObject
 {
     Q_OBJECT

@@ -95,6 +95,7 @@ QRect redRect(const QImage &image)
 
 } // namespace
 
+// If this fails, the preview shows the wrong orientation or effects.
 class PreviewTest : public QObject
 {
     Q_OBJECT

@@ -77,7 +77,7 @@ void call(PrintPropertiesDialog *dialog, const char *slot, int value)
         qFatal("no slot %s", slot);
 }
 
-// How to change a widget by program.
+// Ways to change a widget from code.
 void changeWidget(QWidget *widget)
 {
     if (auto *edit = qobject_cast<QLineEdit *>(widget))
@@ -98,6 +98,7 @@ void changeWidget(QWidget *widget)
 
 } // namespace
 
+// If this fails, changing a field does not enable Apply or does not update what depends on the field.
 class PropertiesDialogFieldsTest : public QObject
 {
     Q_OBJECT
@@ -173,7 +174,7 @@ private:
 
 void PropertiesDialogFieldsTest::initTestCase()
 {
-    // The second run of this program must not pass for lack of the locale.
+    // The second run of this program must not pass because the locale is missing.
     if (qgetenv("LC_ALL").startsWith("de_DE"))
         QCOMPARE(QByteArray(localeconv()->decimal_point), QByteArray(","));
     for (const char *queue : queues)
@@ -237,7 +238,7 @@ void PropertiesDialogFieldsTest::slotsAreDeclared_data()
         QTest::newRow(slot) << position++ << QByteArray(slot);
 }
 
-// A slot that is missing here would silently never be called. Their order is that of the tabs.
+// A missing slot would silently never be called. The order is that of the tabs.
 void PropertiesDialogFieldsTest::slotsAreDeclared()
 {
     QFETCH(int, position);
@@ -499,7 +500,7 @@ void PropertiesDialogFieldsTest::setOrientation()
     QVERIFY(t.button("portraitRadioButton")->isChecked());
     QCOMPARE(preview->orientation, 3);
 
-    // The preview follows also when nothing changes.
+    // The preview is updated even if nothing changes.
     preview->orientation = 0;
     t.dialog.setOrientation(QPageLayout::Portrait);
     QCOMPARE(preview->orientation, 3);
@@ -694,7 +695,7 @@ void PropertiesDialogFieldsTest::retypedCommandMarksNothing()
     OpenDialog t("LP", {"JobStart", "a\\\\r"});
     t.dialog.show();
     auto *edit = t.widget<QPlainTextEdit>("commandEdit");
-    edit->setPlainText("a\n"); // the same text, set anew
+    edit->setPlainText("a\n"); // the same text, set again
     QVERIFY(!t.isChanged());
     edit->setPlainText("a");
     QVERIFY(t.isChanged());
@@ -932,7 +933,7 @@ void PropertiesDialogFieldsTest::languageChangeReachesTheForm()
         QCOMPARE(t.widget<QGroupBox>("stockGroupBox")->title(), context + "User-defined Page Size");
         QCOMPARE(t.widget<QTabWidget>("tabs")->tabText(2), context + "Stock");
         QCOMPARE(t.button("landscape180RadioButton")->text(), context + "Landscape 180\u00b0");
-        // In place of the form's.
+        // Replaces the form's text.
         QCOMPARE(t.dialog.windowTitle(), "QObject: LP-TIK Printing Preferences");
         QCOMPARE(t.shown("stopLabel"), context + "Vertical Offset");
         QCOMPARE(t.shown("gapSizeLabel"), context + "Black Mark Size");
@@ -941,7 +942,7 @@ void PropertiesDialogFieldsTest::languageChangeReachesTheForm()
         QCOMPARE(t.shown("aboutDateLabel"), context + PROPERTIESDIALOG_RELEASE_DATE);
         QCOMPARE(t.shown("speedValue"), "3");
         QCOMPARE(t.shown("darknessValue"), "10");
-        // These are not translated anew.
+        // These are not translated again.
         QCOMPARE(t.list("mediaType")->itemText(2), "Labels With Marks");
         QCOMPARE(t.list("cut")->itemText(0), "No Cut");
         QCOMPARE(t.list("preset0")->itemText(0), "<Current Settings>");

@@ -77,7 +77,7 @@ void endNextDialog()
     });
 }
 
-// Calls the entry function once for each argument, which is the button to press.
+// Calls the entry function once per argument, the button to press.
 int callForEachAction(int argc, char **argv)
 {
     for (int i = 1; i < argc; ++i) {
@@ -179,6 +179,7 @@ const char hostSettings[] = ".gconf/apps/Dashvane/%gconf.xml";
 
 } // namespace
 
+// If this fails, the dialog opens with other values or ranges than the printer has.
 class PropertiesDialogLoadTest : public QObject
 {
     Q_OBJECT
@@ -260,7 +261,7 @@ private:
 
 void PropertiesDialogLoadTest::initTestCase()
 {
-    // The second run of this program must not pass for lack of the locale.
+    // The second run of this program must not pass because the locale is missing.
     if (qgetenv("LC_ALL").startsWith("de_DE"))
         QCOMPARE(QByteArray(localeconv()->decimal_point), QByteArray(","));
 
@@ -594,7 +595,7 @@ void PropertiesDialogLoadTest::loadsWhenShown()
     t.dialog.show();
     QCOMPARE(t.shown("darknessSlider"), "4");
 
-    // Each time: what was not saved is dropped.
+    // Each time, unsaved changes are dropped.
     t.widget<QSlider>("darknessSlider")->setValue(9);
     t.edit("feed")->setText("0.77");
     QVERIFY(t.isChanged());
@@ -637,7 +638,7 @@ void PropertiesDialogLoadTest::loadsWithoutCups()
     QFETCH(QPageLayout::Orientation, printerOrientation);
     QFETCH(QString, checkedOrientation);
 
-    // All options differ from what stands in for them.
+    // All options differ from their fallbacks.
     OpenDialog t(queue, {"MirrorPrint", "True",       "NegativePrint",
                          "True",        "PrintSpeed", "3",
                          "Darkness",    "13",         "LabelCategory",
@@ -894,7 +895,7 @@ void PropertiesDialogLoadTest::commands()
     t.button("jobEndRadioButton")->setChecked(true);
     QCOMPARE(t.shown("commandEdit"), "job end\n");
 
-    // Loading anew shows the command that is chosen, not the first one.
+    // Loading again shows the chosen command, not the first one.
     t.cups.setJobEnd("other");
     t.dialog.updateDialog();
     QCOMPARE(t.shown("commandEdit"), "other\n");
@@ -1068,7 +1069,7 @@ void PropertiesDialogLoadTest::badValues_data()
     add("LP-TIK", "Shift=-254", "stop", "-10.00", "-254.000");
     add("LP", "Feed=-203", "feed", "-1.00", "-203");
 
-    // A media type that the list does not have, and what is a number for C but no length: not shown, and kept.
+    // An unlisted media type, and numbers that C accepts but that are not lengths: not shown, and kept.
     add("LP", "LabelCategory=7", "mediaType", "-1", "7");
     add("LP", "LabelCategory=-1", "mediaType", "-1", "-1");
     add("LP", "GapSize=nan", "gapSize", "", "nan");

@@ -107,7 +107,7 @@ QStringList keywordsOf(const QByteArray &script)
     return keywords;
 }
 
-// In a process of its own, for what a printer of the family does lasts as long as the library: makes and saves a preset
+// In a separate process, because a printer of this family changes the library until it is unloaded: creates and saves a preset
 // there and chooses the default settings; then writes the script and what is left of the options.
 int workWithExtendedList(int &argc, char **argv)
 {
@@ -130,7 +130,7 @@ int workWithExtendedList(int &argc, char **argv)
 }
 const TestMain::ChildFunction workFunction("work-with-extended-list", workWithExtendedList);
 
-// Answers the message box that is about to come up, and keeps its texts.
+// Answers the next message box and keeps its texts.
 class BoxAnswer : public QObject
 {
 public:
@@ -152,6 +152,7 @@ protected:
 
 } // namespace
 
+// If this fails, creating, choosing, renaming or deleting a preset does something else than shown.
 class PropertiesDialogPresetsTest : public QObject
 {
     Q_OBJECT
@@ -376,7 +377,7 @@ void PropertiesDialogPresetsTest::moreThanAHundred()
     OpenDialog open;
     QCOMPARE(items(open, "preset0"), builtIn(names));
     QCOMPARE(items(open, "preset1"), builtIn(names.mid(0, 98)));
-    // The lists never agree with the names, so they are filled anew each time.
+    // The lists never match the names, so they are filled again each time.
     QVERIFY(open.dialog.updatePresets());
     QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("p000"));
 
@@ -460,7 +461,7 @@ void PropertiesDialogPresetsTest::updateCurrentPreset()
     // It is shown, not applied.
     QVERIFY(!open.isEnabled("applyButton"));
     QVERIFY(!open.dialog.updateCurrentPreset(&zebra));
-    // One list off is enough.
+    // One different list is enough.
     open.widget<QComboBox>("preset0")->blockSignals(true);
     open.choose("preset0", 0);
     open.widget<QComboBox>("preset0")->blockSignals(false);
@@ -481,7 +482,7 @@ void PropertiesDialogPresetsTest::updateCurrentPresetOfNone()
     QVERIFY(!open.dialog.updateCurrentPreset(nullptr));
     for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"})
         QVERIFY2(!open.isEnabled(name), name);
-    // All else stays.
+    // Everything else stays.
     QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("a"));
     QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("a"));
     QCOMPARE(open.text("nameEdit"), QString("a"));
@@ -564,7 +565,7 @@ void PropertiesDialogPresetsTest::choose()
     QCOMPARE(open.plainText("commandEdit"), QString("A\nB\n"));
     QCOMPARE(open.widget<QSlider>("speedSlider")->value(), 3);
     QCOMPARE(open.text("feed"), QString("0.00"));
-    // The scheduler's clients know nothing of it yet.
+    // Other clients of the scheduler do not see it yet.
     QVERIFY(!storedOptions("Q").contains("Darkness"));
     open.click("applyButton");
     QCOMPARE(storedOptions("Q").value("Darkness"), QByteArray("4"));
@@ -623,7 +624,7 @@ void PropertiesDialogPresetsTest::chooseDefaultSettings()
     QVERIFY(!open.isEnabled("applyButton"));
 }
 
-// They are those of the moment when the dialog was made, whatever was applied since.
+// They are those of the time when the dialog was created, whatever was applied since.
 void PropertiesDialogPresetsTest::chooseCurrentSettings()
 {
     scheduler.setUserOptions("Q", {"Darkness=4"});
@@ -681,7 +682,7 @@ void PropertiesDialogPresetsTest::chosenIsRememberedWhenSaved()
     QCOMPARE(open.widget<QComboBox>("preset0")->currentText(), QString("b"));
 }
 
-// The options that are in memory are applied all the same.
+// The options in memory are applied nevertheless.
 void PropertiesDialogPresetsTest::missingScript()
 {
     writeScript("a", "");
@@ -876,7 +877,7 @@ void PropertiesDialogPresetsTest::newPreset()
     QCOMPARE(open.widget<QComboBox>("preset1")->currentText(), QString("New Preset 2"));
 }
 
-// The settings of a queue that nobody has changed are settings, too.
+// The settings of an unchanged queue are settings too.
 void PropertiesDialogPresetsTest::newPresetOfAFreshQueue()
 {
     {
@@ -985,7 +986,7 @@ void PropertiesDialogPresetsTest::updateButtonWithoutADifference()
     QVERIFY(!workingCopy(open.cups).contains("Darkness"));
     open.click("presetUpdateButton"); // there is nothing to clear and nothing to set
     QVERIFY(!open.isEnabled("applyButton"));
-    // Equal values count as a change, for the earlier ones are cleared first.
+    // Equal values count as a change, because the earlier ones are cleared first.
     writeScript("a", " -oDarkness=4");
     scheduler.setUserOptions("Q", {"Darkness=4"});
     OpenDialog other;

@@ -96,7 +96,7 @@ int printCommands(int &argc, char **argv)
 }
 const TestMain::ChildFunction printCommandsFunction("print-commands", printCommands);
 
-// Saves where no printer is to be had.
+// Saves without a printer.
 int saveWithoutScheduler(int &argc, char **argv)
 {
     const QApplication app(argc, argv);
@@ -134,6 +134,7 @@ const QByteArray noValue; // null: the option is not stored
 
 } // namespace
 
+// If this fails, Apply or OK stores other values than the dialog shows.
 class PropertiesDialogSaveTest : public QObject
 {
     Q_OBJECT
@@ -225,7 +226,7 @@ void PropertiesDialogSaveTest::init()
     scheduler.setServerDefault("Q");
 }
 
-// The run under another locale would prove nothing if the locale were not in force.
+// The run in another locale would prove nothing if the locale were not active.
 void PropertiesDialogSaveTest::numbersOfTheLocale()
 {
     const bool german = qgetenv("LC_ALL").startsWith("de_DE");
@@ -267,7 +268,7 @@ void PropertiesDialogSaveTest::printerMargins()
     open.dialog.saveValues();
     QCOMPARE(open.printer.pageLayout().margins(QPageLayout::Point), QMarginsF(0, 0, 0, 0));
 
-    // Whether the host counts from the edge of the sheet is the host's.
+    // The host decides whether it counts from the edge of the sheet.
     for (bool fullPage : {true, false}) {
         open.printer.setFullPage(fullPage);
         open.dialog.saveValues();
@@ -295,7 +296,7 @@ void PropertiesDialogSaveTest::engineProperties()
     dialog.show();
     dialog.findChild<QAbstractButton *>(radio)->click();
     const QStringList options = cups.options();
-    // Or the test would show nothing: each of these becomes the size in full, and no other.
+    // Otherwise the test would prove nothing: each of these becomes the full size, and no others do.
     QCOMPARE(options.count("Custom"), 2);
     QVERIFY(options.contains("Customary"));
     printer.engine->record.clear();
@@ -591,7 +592,7 @@ void PropertiesDialogSaveTest::resolutionIsReadAnew()
     QCOMPARE(storedOptions("Changing").value("Feed"), QByteArray("305"));
 }
 
-// Backfeed and overlap are never seen and all the same are not lost, also when they are not the PPD file's.
+// Backfeed and overlap are never shown but not lost, even if they differ from the PPD file.
 void PropertiesDialogSaveTest::hiddenFieldsAreCarried()
 {
     scheduler.setUserOptions("Q", {"Back=5", "Overlap=6", "Start=1.000", "Direct=True"});
@@ -647,7 +648,7 @@ void PropertiesDialogSaveTest::unlistedMediaType()
     scheduler.setUserOptions("Q", {"LabelCategory=7"});
     OpenDialog open;
     open.dialog.saveValues();
-    // The list shows no media type, and what is stored is not lost.
+    // The list shows no media type, and the stored value is not lost.
     QCOMPARE(storedOptions("Q").value("LabelCategory"), QByteArray("7"));
 }
 
@@ -874,7 +875,7 @@ void PropertiesDialogSaveTest::currentSettingsScript()
                         " -oPrintSpeed=2 -oStop=29.972 -oStart=1.000\n"
                         "ppdhack 4.00 2.00 Q\n"));
     QVERIFY(QFile::permissions(path).testFlag(QFile::ExeUser));
-    // It is no preset to choose.
+    // It cannot be chosen as a preset.
     const auto *list = open.widget<QComboBox>("preset0");
     QCOMPARE(list->count(), 2);
     OpenDialog again;
@@ -905,7 +906,7 @@ void PropertiesDialogSaveTest::nothingChanged()
     open.dialog.saveValues();
     QVERIFY(!open.isEnabled("applyButton"));
     QCOMPARE(filesOf("Q"), QStringList());
-    // The printer and the options are written all the same.
+    // The printer and the options are written nevertheless.
     QCOMPARE(open.printer.pageLayout().orientation(), QPageLayout::Landscape);
     QCOMPARE(storedOptions("Q").value("orientation-requested"), QByteArray("4"));
 }
@@ -941,7 +942,7 @@ void PropertiesDialogSaveTest::changedPresetsAreSaved()
     QCOMPARE(QFile::symLinkTarget(cupsFolder() + "/Q/currentPreset"), scriptPath("Q", "Preset"));
 }
 
-// A preset that is made and deleted before it was ever saved makes the collection fail.
+// A preset that is created and deleted before it was saved makes the collection fail.
 void PropertiesDialogSaveTest::failureOfThePresetsStillSavesTheSettings()
 {
     OpenDialog open;

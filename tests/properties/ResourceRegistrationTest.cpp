@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QTest>
 
-// The pair of functions that are run when the library is loaded and unloaded.
+// If this fails, unloading or registering the icon's resource affects other resources of the host.
 class ResourceRegistrationTest : public QObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ private Q_SLOTS:
 void ResourceRegistrationTest::pair()
 {
     const QString iconPath = QStringLiteral(":/b/printer.png");
-    QVERIFY(QFile::exists(iconPath)); // nobody had to ask for it
+    QVERIFY(QFile::exists(iconPath)); // it registers itself
 
     Q_CLEANUP_RESOURCE(b);
     QVERIFY(!QFile::exists(iconPath));

@@ -17,7 +17,7 @@ const QString iconPath = QStringLiteral(":/b/printer.png");
 
 } // namespace
 
-// What the library brings when it is loaded, which this program therefore does by itself.
+// If this fails, the dialogs have no icon.
 class ResourceTest : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ void ResourceTest::oneFile()
 {
     QCOMPARE(QDir(QStringLiteral(":/b")).entryList(), QStringList{QStringLiteral("printer.png")});
 
-    // The print dialog's icon is the host's to register.
+    // The host registers the print dialog's icon.
     QVERIFY(!QFile::exists(QStringLiteral(":/b/print.png")));
 }
 

@@ -18,10 +18,10 @@
 #include <cstdio>
 #include <memory>
 
-// Random clicks and keys: no crash, no warning, no sanitizer finding, and what is saved is always readable.
+// If this fails, some sequence of clicks and keys crashes the dialog or saves unreadable settings.
 //
 // MONKEY_SEED is the first seed, MONKEY_ACTIONS the number of actions with each, MONKEY_RUNS the number of seeds. The
-// arguments "--seed N", "--actions N" and "--runs N" say the same. Each run prints its seed.
+// arguments "--seed N", "--actions N" and "--runs N" have the same effect. Each run prints its seed.
 class Monkey : public QObject
 {
     Q_OBJECT
@@ -46,14 +46,14 @@ int number(const char *variable, int usual)
     return qEnvironmentVariableIsSet(variable) ? qEnvironmentVariableIntValue(variable) : usual;
 }
 
-// Somebody who does not know what they do.
+// A user who does anything at random.
 class Player
 {
 public:
     explicit Player(quint32 seed)
         : random(seed)
     {
-        // Messages to the user hold up what shows them: somebody has to answer.
+        // Message boxes block until they are answered.
         QObject::connect(&answerer, &QTimer::timeout, [this] { answer(); });
         answerer.start(0);
     }
@@ -93,7 +93,7 @@ void Player::answer()
         oneIn(2) ? message->accept() : message->reject();
 }
 
-// One that can be seen and used, popups such as lists and context menus first.
+// One that is visible and enabled; in popups such as lists and context menus first.
 QWidget *Player::anyWidget()
 {
     QWidget *root = QApplication::activePopupWidget();
@@ -128,7 +128,7 @@ void Player::drag()
 {
     QWidget *widget = anyWidget();
     QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, anyPoint(widget));
-    // What was pressed may have closed a popup, and itself with it.
+    // The press may have closed a popup and deleted its widget.
     QWidget *next = anyWidget();
     QTest::mouseMove(next, anyPoint(next));
     QTest::mouseRelease(next, Qt::LeftButton, Qt::NoModifier, anyPoint(next));
@@ -194,7 +194,7 @@ void Player::type()
                                     QString(200, 'x')};
     QWidget *focus = QApplication::focusWidget();
     QWidget *target = focus && !oneIn(8) ? focus : anyWidget();
-    // By single keys as from a keyboard; QTest has no keys for what is not in ASCII.
+    // Key by key, as from a keyboard; QTest has no keys outside ASCII.
     for (const QChar c : anyOf(texts)) {
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
         QApplication::sendEvent(target, &press);
@@ -203,7 +203,7 @@ void Player::type()
     }
 }
 
-// Clicks at random points find these too seldom.
+// Clicks at random points rarely find these.
 void Player::changePreset()
 {
     static const char *const buttons[] = {"presetNewButton", "presetUpdateButton", "presetDeleteButton",
@@ -291,11 +291,11 @@ void Monkey::runs()
     Player player(seed);
     for (int i = 0; i < actions; ++i)
         player.act();
-    // A program that starts now can read what was saved: the queue is there, and every value is one that libcups reads.
+    // A new program can read what was saved: the queue exists, and libcups reads every value.
     QVERIFY(!storedOptions("ZED-monkey").isEmpty());
 }
 
-// As environment variables, for the test program starts itself anew and QTest has arguments of its own.
+// Passed as environment variables, because the test program restarts itself and QTest parses the arguments.
 int main(int argc, char **argv)
 {
     for (int i = 1; i + 1 < argc;) {

@@ -18,22 +18,22 @@
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 #if defined(__SANITIZE_ADDRESS__)
-// libcups 2.4 drops parts of what it keeps beside a PPD file when the file is closed: the texts about printing on both
-// sides, and the options that stand for finishings and print quality. It keeps them for Qt's reader and for ours. Option
-// arrays that we forget are found by the other tests.
+// libcups 2.4 leaks parts of its cache of a PPD file when the file is closed: the texts about printing on both
+// sides, and the options for finishings and print quality. It does so for Qt's reader and for ours. Option
+// arrays that the library leaks are found by the other tests.
 extern "C" __attribute__((visibility("default"))) const char *__lsan_default_suppressions()
 {
     return "leak:_ppdCacheCreateWithPPD\nleak:cupsAddOption";
 }
 #endif
 
-// The dialog opens, applies and closes on PPD files of every kind, most of them for printers that print no labels.
+// If this fails, the dialog crashes or stores wrong values with the PPD file of some driver.
 //
 // By default these are the samples of the tests and the sample drivers of CUPS. PPD_ZOO_FOLDER names a folder with
 // others, and PPD_ZOO_SHARD, "INDEX/COUNT", a part of them; the script ppd-zoo runs this program so.
 //
-// All the files take turns in one queue. The scheduler reads a queue's file for each client that asks for it, so it is
-// enough to put the next one in its place; lpadmin would take many times as long as what is tested.
+// All files take turns in one queue. The scheduler reads the queue's file for each request, so it is
+// enough to replace it; lpadmin would take many times longer than the test.
 class PpdZoo : public QObject
 {
     Q_OBJECT
@@ -115,12 +115,12 @@ void PpdZoo::cleanup()
     QDir(cupsFolder()).removeRecursively();
 }
 
-// Puts the file in the place of the queue's, as a whole.
+// Atomically replaces the queue's file.
 void PpdZoo::show(const QByteArray &ppd)
 {
     const QString next = queuePpd + ".N";
     writeFile(next, ppd);
-    // The scheduler gives out nothing that not everybody may read.
+    // The scheduler only sends files that everybody may read.
     QCOMPARE(chmod(QFile::encodeName(next).constData(), 0644), 0);
     QCOMPARE(std::rename(QFile::encodeName(next).constData(), QFile::encodeName(queuePpd).constData()), 0);
 }

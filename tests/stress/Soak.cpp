@@ -16,7 +16,7 @@
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // Debian's g++ comes without the header
 #endif
 
-// Nothing piles up in a host that opens the dialog again and again.
+// If this fails, hosts that open the dialog often leak memory, descriptors or temporary files.
 //
 // SOAK_COUNT is how often the dialog is opened, applied and closed.
 class Soak : public QObject
@@ -38,7 +38,7 @@ const int warmUp = 50; // openings after which every cache is filled
 const int usualCount = 150; // openings
 const qint64 slack = 4096; // bytes; about four for each opening of a full run
 
-// What is allocated at the moment, in bytes.
+// The allocated memory, in bytes.
 qint64 memoryInUse()
 {
 #if defined(__SANITIZE_ADDRESS__)
@@ -49,7 +49,7 @@ qint64 memoryInUse()
 #endif
 }
 
-// What the process holds in memory, in bytes.
+// The resident memory of the process, in bytes.
 qint64 residentMemory()
 {
     const QByteArray pages = fileContent("/proc/self/statm").split(' ').value(1);
@@ -62,7 +62,7 @@ QStringList openDescriptors()
     const QDir folder("/proc/self/fd");
     for (const QString &entry : folder.entryList(QDir::Files | QDir::System))
         list << QFileInfo(folder.filePath(entry)).symLinkTarget();
-    list.removeAll(QFileInfo("/proc/self/fd").canonicalFilePath()); // the one of listing them
+    list.removeAll(QFileInfo("/proc/self/fd").canonicalFilePath()); // of this listing
     list.sort();
     return list;
 }
@@ -117,7 +117,7 @@ void Soak::nothingIsLeft()
             descriptors = openDescriptors();
             folder = filesBelow(cupsFolder());
             residentBefore = residentMemory();
-            before = memoryInUse(); // last, with the lists in it
+            before = memoryInUse(); // last, so that it includes the lists
         }
         if ((round + 1) % 50 == 0) {
             qInfo("%d openings: %lld bytes allocated, %lld kB resident, %d descriptors", round + 1,
@@ -132,7 +132,7 @@ void Soak::nothingIsLeft()
     QCOMPARE(openDescriptors(), descriptors);
     QCOMPARE(filesBelow(temporary), QStringList());
     QCOMPARE(filesBelow(cupsFolder()), folder);
-    // Each round leaves the same behind; what the numbers in the texts above need is not the dialog's.
+    // Every round must leave the same memory allocated; the slack is for the texts of this function.
     QVERIFY2(growth < slack, qPrintable(QString("%1 bytes").arg(growth)));
 }
 

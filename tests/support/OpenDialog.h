@@ -41,7 +41,7 @@ Widget *childOf(const QDialog &dialog, const QString &name)
     return child;
 }
 
-/** What a widget shows, whatever it is: a text, a number, the index of a list, or "True" and "False". */
+/** What a widget of any kind shows: a text, a number, the index of a list, or "True" or "False". */
 inline QString shownBy(const QWidget *widget)
 {
     if (auto *edit = qobject_cast<const QLineEdit *>(widget))
@@ -133,7 +133,7 @@ private:
 
 using Options = QMap<QByteArray, QByteArray>;
 
-/** The options of a destination as a program that starts now gets them from libcups. */
+/** The options of a destination as libcups reads them in a new program. */
 inline Options storedOptions(const QByteArray &queue)
 {
     Options options;
@@ -161,7 +161,7 @@ inline QString homePath(const QString &name)
     return qEnvironmentVariable("HOME") + "/" + name;
 }
 
-/** Makes an empty HOME of the process's. */
+/** Empties the HOME of this process. */
 inline void clearHome()
 {
     QDir(homePath(".cups")).removeRecursively();
@@ -188,7 +188,7 @@ inline void writeFile(const QString &path, const QByteArray &content)
 }
 
 /**
- * The driver's command for the time of this object: programs that this process starts find @p script as "ppdhack", which
+ * The driver's command while this object exists: programs that this process starts find @p script as "ppdhack", which
  * runs with STAND_IN set to the command that changes the queue's page size.
  */
 class DriverCommand
@@ -208,7 +208,7 @@ public:
     DriverCommand(const DriverCommand &) = delete;
     DriverCommand &operator=(const DriverCommand &) = delete;
 
-    /** The arguments of each run, a line each. */
+    /** The arguments of each run, one line per run. */
     QByteArray runs() const { return fileContent(folder.filePath("log")); }
 
 private:
@@ -216,7 +216,7 @@ private:
     QByteArray pathBefore;
 };
 
-/** While it lives, every text is "CONTEXT: text". */
+/** While this object exists, every text is translated to "CONTEXT: text". */
 class MarkingTranslator : public QTranslator
 {
 public:

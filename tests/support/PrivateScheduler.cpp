@@ -17,7 +17,7 @@
 
 namespace {
 
-const int patienceMs = 30000; // far more than anything here takes, also on a machine that is busy
+const int patienceMs = 30000; // far longer than anything here takes, even on a busy machine
 
 QByteArray readFile(const QString &path)
 {
@@ -27,7 +27,7 @@ QByteArray readFile(const QString &path)
     return file.readAll();
 }
 
-// Asks until it gets a true answer.
+// Repeats @p predicate until it is true.
 template<typename Predicate>
 void waitFor(const char *what, Predicate predicate)
 {
@@ -40,7 +40,7 @@ void waitFor(const char *what, Predicate predicate)
     }
 }
 
-// Any request; what it is answered does not matter.
+// Sends some request; the answer does not matter.
 void sendGet(const QByteArray &resource)
 {
     http_t *http =
@@ -69,9 +69,9 @@ PrivateScheduler::PrivateScheduler()
     : temporaryDir(QStringLiteral("/tmp/pd-XXXXXX"))
 {
     qputenv("CUPS_SERVER", QFile::encodeName(socket()));
-    // Debian keeps the administrator's commands, such as lpadmin, out of a user's path.
+    // Debian does not put administrators' commands such as lpadmin on a user's path.
     qputenv("PATH", qgetenv("PATH") + ":/usr/sbin:/sbin");
-    // libcups may have looked at the variable before.
+    // libcups may have read the variable already.
     cupsSetServer(QFile::encodeName(socket()).constData());
     start();
 }
@@ -147,7 +147,7 @@ QByteArray PrivateScheduler::run(const QString &program, const QStringList &argu
 
 QStringList PrivateScheduler::requests()
 {
-    // A request is logged when its answer has been sent, which its client may notice before. The scheduler does one
+    // A request is logged after its answer has been sent, so its client may continue earlier. The scheduler does one
     // thing at a time: once a later request is logged, the earlier ones are.
     const QByteArray marker = "/marker-" + QByteArray::number(++markers);
     sendGet(marker);

@@ -16,7 +16,7 @@ struct CapturedJob
 {
     QString queue;
     int job = 0;
-    QByteArray data; // of all its files, one after the other
+    QByteArray data; // of all its files, concatenated
     QByteArray title;
     QByteArray user;
     QByteArray copies;
@@ -28,12 +28,12 @@ struct CapturedJob
 };
 
 /**
- * A CUPS scheduler for the time of this object, with queues whose jobs are kept instead of printed.
+ * A CUPS scheduler that runs while this object exists, with queues whose jobs are kept instead of printed.
  *
- * Clients in this process, and processes that are started from it, are led to it through CUPS_SERVER. Make it before
+ * Clients in this process and in processes that it starts find it through CUPS_SERVER. Create it before
  * the first use of libcups. It also stops when this process crashes.
  *
- * What goes wrong here ends the test program with a message: no test could go on.
+ * Failures end the test program with a message, as no test could continue.
  */
 class PrivateScheduler
 {
@@ -64,11 +64,11 @@ public:
     /** Saves options of a queue or QUEUE/INSTANCE in the options file of the user, as by lpoptions -o KEYWORD=VALUE. */
     void setUserOptions(const QString &name, const QStringList &options);
 
-    /** Runs any CUPS command, such as cupsdisable, which has to succeed, and returns its output. */
+    /** Runs a CUPS command such as cupsdisable, which must succeed, and returns its output. */
     static QByteArray run(const QString &program, const QStringList &arguments);
 
     /**
-     * What clients asked for since startRequests(), in order: the name of each IPP operation ("Get-Jobs",
+     * What clients have requested since startRequests(), in order: the name of each IPP operation ("Get-Jobs",
      * "CUPS-Get-Printers"), or "GET /path".
      */
     QStringList requests();
@@ -83,10 +83,10 @@ public:
     /** The path of a sample PPD file: label-203, label-300, every-option or few-options. */
     static QString samplePpd(const QString &name);
 
-    /** The path of a copy of @p ppd with texts replaced; each of them has to occur in it. */
+    /** The path of a copy of @p ppd with texts replaced; each must occur in it. */
     QString editedPpd(const QString &ppd, const QList<QPair<QByteArray, QByteArray>> &replacements);
 
-    /** A folder to have on PATH for the ppdhack command; see there. */
+    /** A folder for PATH that contains the stand-in for ppdhack. */
     static QString commandDir();
 
     QString dir() const { return temporaryDir.path(); }

@@ -21,12 +21,12 @@
 
 namespace {
 
-// Set in the process that has its own HOME. Set it by hand, beside a HOME, to run a test under a debugger.
+// Set in the process that has its own HOME. Set it by hand, together with a HOME, to run a test in a debugger.
 const char homeIsFresh[] = "TEST_HOME_IS_FRESH";
 
 const char childArgument[] = "--run-child";
 
-// What Qt's offscreen platform says of itself.
+// Warnings of Qt's offscreen platform about itself.
 const std::array allowedWarnings{
     "This plugin does not support propagateSizeHints()",
     "This plugin does not support raise()",
@@ -45,7 +45,7 @@ bool isAllowed(const QByteArray &message)
         allowedWarnings.begin(), allowedWarnings.end(), [&](const char *allowed) { return message.contains(allowed); });
 }
 
-// Whether a line of a test log tells of a warning that no test expected.
+// Whether a line of a test log is a warning that no test expected.
 bool isUnexpectedWarning(const QByteArray &line)
 {
     static const std::array<const char *, 3> types{"QWARN", "QSYSTEM", "QCRITICAL"};
@@ -64,7 +64,7 @@ void failOnWarning(QtMsgType type, const QMessageLogContext &, const QString &me
 
 [[noreturn]] void startTests(char **argv, const QByteArray &home, const int (&pipeEnds)[2])
 {
-    // Without us nobody would end it.
+    // It ends with this process.
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     dup2(pipeEnds[1], STDOUT_FILENO);
     close(pipeEnds[0]);
@@ -79,7 +79,7 @@ void failOnWarning(QtMsgType type, const QMessageLogContext &, const QString &me
     std::_Exit(EXIT_FAILURE);
 }
 
-// Passes on what is written there until its end, and returns the number of unexpected warnings.
+// Copies the output to the end and returns the number of unexpected warnings.
 int copyOutput(int descriptor)
 {
     int warnings = 0;

@@ -12,15 +12,15 @@
 #include <QTest>
 
 /**
- * The frame of a test program. The library reads HOME when it is loaded, libcups its server and the C library its
+ * The main() of a test program. The library reads HOME when it is loaded, and libcups its server and the C library its
  * locale when they are first used; so
  *
- * - the program starts itself anew with a fresh, empty HOME, which is removed in the end, and with no default printer
+ * - the program restarts itself with an empty HOME, which is removed at the end, and with no default printer
  *   in its environment,
- * - a function that needs a process of its own is registered with ChildFunction and run by runChild().
+ * - a function that needs a separate process is registered with ChildFunction and run by runChild().
  *
- * A Qt warning that no QTest::ignoreMessage() expects fails the program, also when it comes from a child. Such warnings
- * tell of slots that were not connected, layouts that are broken, null pointers and the like.
+ * A Qt warning that no QTest::ignoreMessage() expects fails the program, even if it comes from a child. Such warnings
+ * report slots that were not connected, broken layouts, null pointers and the like.
  */
 namespace TestMain {
 
@@ -43,7 +43,7 @@ struct ChildResult
 /**
  * Runs a registered function in a new process of this program, with the same HOME and environment but for
  * @p environment, where a null value removes a variable. No application object exists there. argv[0] is the program and
- * is followed by @p arguments. What it writes to standard error is shown as well.
+ * is followed by @p arguments. Its standard error is shown as well.
  */
 ChildResult runChild(const char *name, const QStringList &arguments = {},
                      const QMap<QString, QString> &environment = {});
@@ -64,7 +64,7 @@ int run(int argc, char **argv)
 
 } // namespace TestMain
 
-/** In place of QTEST_MAIN. */
+/** Use it instead of QTEST_MAIN. */
 #define PROPERTIESDIALOG_TEST_MAIN(TestClass)                                                                          \
     int main(int argc, char **argv)                                                                                    \
     {                                                                                                                  \
