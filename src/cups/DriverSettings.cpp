@@ -52,6 +52,11 @@ std::optional<double> DriverSettings::value(const char *setting) const
     return dialect ? dialect->value(cups, setting) : std::nullopt;
 }
 
+bool DriverSettings::holds(const char *setting) const
+{
+    return !dialect || dialect->value(cups, setting).has_value();
+}
+
 bool DriverSettings::isLeftToPrinter(const char *setting) const
 {
     return dialect && dialect->isLeftToPrinter(cups, setting);

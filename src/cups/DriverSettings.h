@@ -53,6 +53,9 @@ public:
     /** The value in force; nothing when it is left to the printer or the kind is not Foreign. */
     std::optional<double> value(const char *setting) const;
 
+    /** Whether there is a value in force that CupsSupport's getter reads; true for everything unless Foreign. */
+    bool holds(const char *setting) const;
+
     /** Whether the setting is left to the printer. */
     bool isLeftToPrinter(const char *setting) const;
 

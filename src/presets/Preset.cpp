@@ -16,12 +16,11 @@ namespace {
 // Printers whose names contain this take the extended option list.
 const QLatin1String extendedMarker("ORCA");
 
-const QStringList &optionNamesFor(const QString &printer)
+// One list for all on purpose: from the first such printer on, the presets of every printer carry these options.
+void extendOptionNames(const QString &printer)
 {
-    // One list for all on purpose: from the first such printer on, the presets of every printer carry these options.
     if (printer.contains(extendedMarker))
         PresetScript::useExtendedOptionNames();
-    return PresetScript::optionNames();
 }
 
 // The value of a keyword, which is the default where the options do not set it.
@@ -63,10 +62,11 @@ struct PROPERTIESDIALOG_NO_EXPORT Preset::Private
         , description(description_)
         , index(index_)
         , state(file.isEmpty() ? Clean : NotLoaded)
-        , optionNames(optionNamesFor(printer))
     {
+        extendOptionNames(printer);
     }
 
+    const QStringList &optionNames() const { return PresetScript::optionNames(printerName); }
     bool load();
     void loadIfNeeded();
     void parseOptions();
@@ -82,7 +82,6 @@ struct PROPERTIESDIALOG_NO_EXPORT Preset::Private
     int index;
     _State state;
     bool isNew = false;
-    const QStringList &optionNames; // the list that all presets share
     QSizeF userPageSize{-1.0, -1.0};
 };
 
@@ -136,7 +135,7 @@ bool Preset::isNew() const
 
 QStringList Preset::getOptionNames() const
 {
-    return d->optionNames;
+    return d->optionNames();
 }
 
 QString Preset::pathName() const
@@ -226,7 +225,7 @@ bool Preset::setOptions(const QStringList &list)
     d->loadIfNeeded();
     d->parseOptions();
     bool changed = false;
-    for (const QString &keyword : d->optionNames) {
+    for (const QString &keyword : d->optionNames()) {
         const auto given = PresetScript::valueIndex(list, keyword);
         if (given < 0)
             continue;
@@ -264,7 +263,7 @@ QStringList Preset::valuesNotHeld(const QStringList &options, const QStringList 
     const QByteArray script = d->state == Modified ? toWrite : PresetScript::read(pathName()).value_or(toWrite);
     const QByteArray ofPrinter = PresetScript::text(d->content(d->fileName, options), defaults);
     QStringList keywords;
-    for (const QString &keyword : d->optionNames) {
+    for (const QString &keyword : d->optionNames()) {
         const QString wanted = valueOf(keyword, options, defaults);
         const QString held = valueInScript(keyword, script, defaults);
         const bool isOfPrinter = isSameValue(valueOf(keyword, own, defaults), wanted)
@@ -298,7 +297,7 @@ bool Preset::Private::load()
         index = -1;
 
     options.clear();
-    unparsed = {*data, optionNames};
+    unparsed = {*data, optionNames()};
     parsePpdhack(*data, userPageSize);
     state = Clean;
     return true;

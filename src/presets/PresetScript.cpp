@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <map>
 #include <string_view>
 
 namespace {
@@ -57,6 +58,9 @@ const QStringList extendedOptionNames{
     QStringLiteral("Shift"),
     QStringLiteral("Stop"),
 };
+
+// By queue; see setOptionNames().
+std::map<QString, QStringList> ownOptionNames;
 
 QStringList sharedOptionNames{
     QStringLiteral("Darkness"),      QStringLiteral("Direct"),
@@ -211,9 +215,18 @@ QString PresetScript::pathName(const QString &printer, const QString &file)
     return parent + QLatin1Char('/') + script;
 }
 
-const QStringList &PresetScript::optionNames()
+const QStringList &PresetScript::optionNames(const QString &printer)
 {
-    return sharedOptionNames;
+    const auto own = ownOptionNames.find(printer);
+    return own == ownOptionNames.end() ? sharedOptionNames : own->second;
+}
+
+void PresetScript::setOptionNames(const QString &printer, const QStringList &names)
+{
+    if (names.isEmpty())
+        ownOptionNames.erase(printer);
+    else
+        ownOptionNames[printer] = names;
 }
 
 void PresetScript::useExtendedOptionNames()
@@ -249,7 +262,7 @@ QByteArray PresetScript::text(const Content &content, const QStringList &default
         script += attribute(indexKey, QString::number(content.index));
 
     script += optionsCommand + content.printerName;
-    for (const QString &keyword : optionNames())
+    for (const QString &keyword : optionNames(content.printerName))
         script += optionItem(keyword, content.options, defaults);
     script += QLatin1Char('\n');
 

@@ -74,10 +74,16 @@ QString pathName(const QString &printer, const QString &file);
 /** @name Options */
 /** @{ */
 
-/** The keywords that presets carry, in the order of the script's items. One list, shared by all presets. */
-const QStringList &optionNames();
+/**
+ * The keywords that presets of @p printer carry, in the order of the script's items: one list, shared by all printers, but
+ * for those that have their own. The reference holds until the printer is given another one.
+ */
+const QStringList &optionNames(const QString &printer = QString());
 
-/** Replaces that list by the one with GapOffset and Shift and without Start, for the rest of the process. */
+/** Gives @p printer a list of its own, for the rest of the process; an empty one takes it back. */
+void setOptionNames(const QString &printer, const QStringList &names);
+
+/** Replaces the shared list by the one with GapOffset and Shift and without Start, for the rest of the process. */
 void useExtendedOptionNames();
 
 /** The position of @p keyword's value in an option list; -1 when the keyword is not in it or no value follows. */

@@ -3,6 +3,7 @@
 
 #include "properties/LabelSettings.h"
 
+#include "cups/DriverSettings.h"
 #include "cups/Rounding.h"
 #include "properties/ModelFamily.h"
 
@@ -46,34 +47,35 @@ struct VerticalDots
     }
 };
 
-// Calls a function for each setting: the member here, the option's getter and setter, the conversion.
+// Calls a function for each setting: our keyword for asking the driver, which every driver has where it is null, the
+// member here, the option's getter and setter, the conversion.
 template<class Function>
 void forEachSetting(Function function)
 {
     using S = LabelSettings;
     using C = CupsSupport;
-    function(&S::orientation, &C::getOrientation, &C::setOrientation, AsItIs());
-    function(&S::mirror, &C::getMirror, &C::setMirror, AsItIs());
-    function(&S::inverse, &C::getInverse, &C::setInverse, AsItIs());
-    function(&S::speed, &C::getSpeed, &C::setSpeed, AsItIs());
-    function(&S::darkness, &C::getDarkness, &C::setDarkness, AsItIs());
-    function(&S::category, &C::getCategory, &C::setCategory, AsItIs());
-    function(&S::gapSize, &C::getGapSize, &C::setGapSize, Millimetres());
-    function(&S::gapOffset, &C::getGapOffset, &C::setGapOffset, Millimetres());
-    function(&S::markSize, &C::getMarkSize, &C::setMarkSize, Millimetres());
-    function(&S::markOffset, &C::getMarkOffset, &C::setMarkOffset, Millimetres());
-    function(&S::cut, &C::getCut, &C::setCut, AsItIs());
-    function(&S::feed, &C::getFeed, &C::setFeed, VerticalDots());
-    function(&S::back, &C::getBack, &C::setBack, AsItIs());
-    function(&S::overlap, &C::getOverlap, &C::setOverlap, AsItIs());
-    function(&S::shift, &C::getShift, &C::setShift, Millimetres());
-    function(&S::stop, &C::getStop, &C::setStop, Millimetres());
-    function(&S::jobStart, &C::getJobStart, &C::setJobStart, AsItIs());
-    function(&S::labelStart, &C::getLabelStart, &C::setLabelStart, AsItIs());
-    function(&S::labelEnd, &C::getLabelEnd, &C::setLabelEnd, AsItIs());
-    function(&S::jobEnd, &C::getJobEnd, &C::setJobEnd, AsItIs());
-    function(&S::offsetH, &C::getOffsetH, &C::setOffsetH, AsItIs());
-    function(&S::offsetV, &C::getOffsetV, &C::setOffsetV, AsItIs());
+    function(nullptr, &S::orientation, &C::getOrientation, &C::setOrientation, AsItIs());
+    function("MirrorPrint", &S::mirror, &C::getMirror, &C::setMirror, AsItIs());
+    function("NegativePrint", &S::inverse, &C::getInverse, &C::setInverse, AsItIs());
+    function("PrintSpeed", &S::speed, &C::getSpeed, &C::setSpeed, AsItIs());
+    function("Darkness", &S::darkness, &C::getDarkness, &C::setDarkness, AsItIs());
+    function("LabelCategory", &S::category, &C::getCategory, &C::setCategory, AsItIs());
+    function("GapSize", &S::gapSize, &C::getGapSize, &C::setGapSize, Millimetres());
+    function("GapOffset", &S::gapOffset, &C::getGapOffset, &C::setGapOffset, Millimetres());
+    function("MarkSize", &S::markSize, &C::getMarkSize, &C::setMarkSize, Millimetres());
+    function("MarkOffset", &S::markOffset, &C::getMarkOffset, &C::setMarkOffset, Millimetres());
+    function("CutMedia", &S::cut, &C::getCut, &C::setCut, AsItIs());
+    function("Feed", &S::feed, &C::getFeed, &C::setFeed, VerticalDots());
+    function("Back", &S::back, &C::getBack, &C::setBack, AsItIs());
+    function("Overlap", &S::overlap, &C::getOverlap, &C::setOverlap, AsItIs());
+    function("Shift", &S::shift, &C::getShift, &C::setShift, Millimetres());
+    function("Stop", &S::stop, &C::getStop, &C::setStop, Millimetres());
+    function("JobStart", &S::jobStart, &C::getJobStart, &C::setJobStart, AsItIs());
+    function("LabelStart", &S::labelStart, &C::getLabelStart, &C::setLabelStart, AsItIs());
+    function("LabelEnd", &S::labelEnd, &C::getLabelEnd, &C::setLabelEnd, AsItIs());
+    function("JobEnd", &S::jobEnd, &C::getJobEnd, &C::setJobEnd, AsItIs());
+    function("OffsetH", &S::offsetH, &C::getOffsetH, &C::setOffsetH, AsItIs());
+    function("OffsetV", &S::offsetV, &C::getOffsetV, &C::setOffsetV, AsItIs());
 }
 
 // What is no number cannot be shown.
@@ -109,10 +111,12 @@ LabelSettings LabelSettings::withoutPrinter(const ModelFamily &family)
     return settings;
 }
 
-LabelSettings LabelSettings::read(const CupsSupport &cups)
+LabelSettings LabelSettings::read(const CupsSupport &cups, const DriverSettings &driver)
 {
     LabelSettings settings;
-    forEachSetting([&](auto member, auto get, auto, auto unit) {
+    forEachSetting([&](const char *keyword, auto member, auto get, auto, auto unit) {
+        if (keyword && !driver.holds(keyword))
+            return;
         const auto value = unit.toForm((cups.*get)(), cups);
         if (isShowable(value))
             settings.*member = value;
@@ -122,7 +126,7 @@ LabelSettings LabelSettings::read(const CupsSupport &cups)
 
 void LabelSettings::forgetSame(const LabelSettings &other)
 {
-    forEachSetting([&](auto member, auto, auto, auto) {
+    forEachSetting([&](const char *, auto member, auto, auto, auto) {
         if (this->*member == other.*member)
             (this->*member).reset();
     });
@@ -130,7 +134,7 @@ void LabelSettings::forgetSame(const LabelSettings &other)
 
 void LabelSettings::write(CupsSupport &cups) const
 {
-    forEachSetting([&](auto member, auto, auto set, auto unit) {
+    forEachSetting([&](const char *, auto member, auto, auto set, auto unit) {
         if (const auto &value = this->*member)
             (cups.*set)(unit.toOption(*value, cups));
     });

@@ -11,6 +11,7 @@
 #include <array>
 #include <optional>
 
+class DriverSettings;
 struct ModelFamily;
 
 /**
@@ -53,8 +54,8 @@ struct LabelSettings
     /** What a dialog shows that has no printer. */
     static LabelSettings withoutPrinter(const ModelFamily &family);
 
-    /** The settings of the current printer. */
-    static LabelSettings read(const CupsSupport &cups);
+    /** The settings of the current printer; without those that its driver does not have or leaves to the printer. */
+    static LabelSettings read(const CupsSupport &cups, const DriverSettings &driver);
 
     /** Drops what is the same in @p other: write() then leaves these options alone. */
     void forgetSame(const LabelSettings &other);

@@ -107,14 +107,17 @@ void PrintPropertiesDialog::setCurrentPreset(Preset *preset)
     if (preset == d->presets.currentPreset())
         return;
     d->presets.setCurrentPreset(preset);
-    // A script in the place of one that is not written yet is somebody else's.
-    const QString line = preset->isNew() ? QString() : DriverCommand::lineIn(preset->pathName());
+    // Other makes' drivers have no such command; their presets carry the page size as an option. And a script in the place
+    // of a preset that is not written yet is somebody else's.
+    const bool hasCommand = !d->driver.isForeign() && !preset->isNew();
+    const QString line = hasCommand ? DriverCommand::lineIn(preset->pathName()) : QString();
     if (!line.isEmpty()) {
         // The command changes the PPD file at the scheduler; the next use opens it anew.
         d->cups->closePpdFile();
         DriverCommand::run(line);
     }
     setCupsOptions(preset);
+    d->takePageSize(*preset);
     updateDialog();
     setChanged(true);
 }
@@ -123,6 +126,16 @@ void PrintPropertiesDialog::setCupsOptions(Preset *preset)
 {
     d->cups->deleteOptions(preset->getOptionNames());
     d->cups->setOptions(preset->options());
+}
+
+// A driver without label settings has no command either, and no list of its own in the presets.
+void PrintPropertiesDialog::Private::takePageSize(Preset &preset)
+{
+    constexpr double pointsPerInch = 72.0;
+    const QSizeF size = preset.getUserPageSize();
+    const bool isCurrent = preset.index() == 0;
+    if (driver.kind() == DriverSettings::Kind::None && !(isCurrent && size.isEmpty()))
+        driver.setUserPageSize(size.isEmpty() ? QSizeF() : size * pointsPerInch);
 }
 
 // The one at the place that the tab's list shows.

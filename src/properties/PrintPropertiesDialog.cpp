@@ -6,6 +6,7 @@
 #include "BuildConstants.h"
 #include "presets/DriverCommand.h"
 #include "presets/Preset.h"
+#include "presets/PresetScript.h"
 #include "properties/FormRoom.h"
 #include "properties/ModelFamily.h"
 #include "properties/NumberField.h"
@@ -85,6 +86,13 @@ void showAll(std::initializer_list<QWidget *> widgets, bool isVisible)
         widget->setVisible(isVisible);
 }
 
+// The name of a queue whose presets carry what its driver has, before any of them is read.
+QString withOptionNames(const QString &printerName, const DriverSettings &driver)
+{
+    PresetScript::setOptionNames(printerName, driver.presetKeywords());
+    return printerName;
+}
+
 // Cutting the picture out of its background takes longer than loading the settings, and has the same outcome each time.
 QIcon maskedIcon()
 {
@@ -107,9 +115,11 @@ PrintPropertiesDialog::Private::Private(PrintPropertiesDialog *dialog, QPrinter 
     : q(dialog)
     , printer(printer_)
     , cups(cups_)
-    , family(ModelFamily::of(printer->printerName()))
+    , driver(*cups)
+    , family(ModelFamily::of(driver.isForeign() ? QString() : printer->printerName()))
     , forceCustomStock(probeHostSettings())
-    , presets(printer->printerName())
+    , form(*dialog, ui, driver)
+    , presets(withOptionNames(printer->printerName(), driver))
 {
     createPresets();
 }
@@ -135,6 +145,8 @@ PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer,
     d->createValidators();
     d->fillLists();
     d->hideUnusedRows();
+    d->form.restrictFields();
+    d->form.describeFields();
     on_mediaType_currentIndexChanged(cups->getCategory());
     d->ui.jobStartRadioButton->setChecked(true);
     setChanged(false);
@@ -171,6 +183,10 @@ void PrintPropertiesDialog::Private::fillLists()
                             PrintPropertiesDialog::tr("Labels With Marks")});
     ui.cut->addItems({PrintPropertiesDialog::tr("No Cut"), PrintPropertiesDialog::tr("Cut After Job"),
                       PrintPropertiesDialog::tr("Cut After Page")});
+    for (int i = 0; i < ui.mediaType->count(); ++i)
+        ui.mediaType->setItemData(i, i);
+    for (int i = 0; i < ui.cut->count(); ++i)
+        ui.cut->setItemData(i, 2 * i);
 }
 
 // The print method and the start position are never used; backfeed and overlap are carried from load to save.
@@ -274,7 +290,7 @@ void PrintPropertiesDialog::updateDialog()
     if (d->printer && d->printer->pageLayout().orientation() == QPageLayout::Portrait)
         settings.orientation = CupsSupport::Portrait;
     if (d->cups)
-        settings = LabelSettings::read(*d->cups);
+        settings = LabelSettings::read(*d->cups, d->driver);
     updatePresets();
     d->show(settings);
     d->loaded = d->shown();
@@ -284,20 +300,23 @@ void PrintPropertiesDialog::updateDialog()
 
 void PrintPropertiesDialog::Private::showPageSize()
 {
-    const QSize points = cups ? cups->getDefaultPageSize() : QSize();
+    const QSizeF ofUser = driver.kind() == DriverSettings::Kind::Own ? QSizeF() : driver.userPageSize();
+    const QSizeF points = !ofUser.isEmpty() ? ofUser : cups ? QSizeF(cups->getDefaultPageSize()) : QSizeF();
     if (points.width() >= 1 && points.height() >= 1) {
         ui.widthEdit->setText(NumberField::inchesText(points.width() / pointsPerInch));
         ui.heightEdit->setText(NumberField::inchesText(points.height() / pointsPerInch));
     }
     Preset *preset = presets.currentPreset();
-    const QSizeF size = preset ? preset->getUserPageSize() : QSizeF();
-    ui.stockGroupBox->setChecked(forceCustomStock || (size.width() > 0 && size.height() > 0));
+    const QSizeF size = preset && !driver.isForeign() ? preset->getUserPageSize() : QSizeF();
+    ui.stockGroupBox->setChecked(forceCustomStock || !ofUser.isEmpty() || (size.width() > 0 && size.height() > 0));
+    loadedPageSize = userPageSize();
 }
 
 void PrintPropertiesDialog::Private::showFamily()
 {
     setRange(ui.speedSlider, family.speed);
     setRange(ui.darknessSlider, family.darkness);
+    form.restrictSliders();
     showStopLabel();
 }
 
@@ -311,7 +330,9 @@ void PrintPropertiesDialog::Private::show(const LabelSettings &settings)
     const int category = settings.category ? *settings.category : -1;
     ui.mediaType->setCurrentIndex(category);
     q->on_mediaType_currentIndexChanged(category); // the index may be the one that was shown already
-    ui.cut->setCurrentIndex(settings.cut ? *settings.cut / 2 : -1);
+    ui.cut->setCurrentIndex(settings.cut                         ? ui.cut->findData(*settings.cut)
+                            : driver.isLeftToPrinter("CutMedia") ? 0
+                                                                 : -1);
     ui.feed->setText(NumberField::inchesText(settings.feed));
     ui.back->setText(NumberField::wholeText(settings.back));
     ui.overlap->setText(NumberField::wholeText(settings.overlap));
@@ -321,6 +342,7 @@ void PrintPropertiesDialog::Private::show(const LabelSettings &settings)
     showCommand();
     ui.horizontalEdit->setText(NumberField::wholeText(settings.offsetH));
     ui.verticalEdit->setText(NumberField::wholeText(settings.offsetV));
+    form.showSteps();
 }
 
 LabelSettings PrintPropertiesDialog::Private::shown() const
@@ -329,8 +351,8 @@ LabelSettings PrintPropertiesDialog::Private::shown() const
     settings.orientation = q->cups_orientation();
     settings.mirror = ui.mirroredCheckBox->isChecked();
     settings.inverse = ui.inverseCheckBox->isChecked();
-    settings.speed = ui.speedSlider->value();
-    settings.darkness = ui.darknessSlider->value();
+    settings.speed = driver.isForeign() ? DriverForm::step(ui.speedValue) : ui.speedSlider->value();
+    settings.darkness = driver.isForeign() ? DriverForm::step(ui.darknessValue) : ui.darknessSlider->value();
     // A stored media type that the list does not have stays what it is, as does a cut.
     if (ui.mediaType->currentIndex() >= 0)
         settings.category = static_cast<CupsSupport::_Category>(ui.mediaType->currentIndex());
@@ -338,8 +360,8 @@ LabelSettings PrintPropertiesDialog::Private::shown() const
         settings.*fields->size = NumberField::number(ui.gapSize);
         settings.*fields->offset = NumberField::number(ui.gapOffset);
     }
-    if (ui.cut->currentIndex() >= 0)
-        settings.cut = 2 * ui.cut->currentIndex();
+    if (ui.cut->currentData().isValid())
+        settings.cut = ui.cut->currentData().toInt();
     settings.feed = NumberField::number(ui.feed);
     settings.back = NumberField::whole(ui.back);
     settings.overlap = NumberField::whole(ui.overlap);
@@ -380,7 +402,8 @@ void PrintPropertiesDialog::saveValues()
         d->isSaved = d->saveOptions();
         defaults = d->cups->ppdDefaults();
     }
-    const QSizeF size = d->userPageSize();
+    // With other makes' drivers the page size is an option, and the presets carry it as such.
+    const QSizeF size = d->driver.isForeign() ? QSizeF(0.0, 0.0) : d->userPageSize();
     d->applyPageSize(size);
     if (d->changed)
         d->isSaved = d->savePresets(size, defaults) && d->isSaved;
@@ -395,11 +418,39 @@ bool PrintPropertiesDialog::Private::saveOptions()
 {
     LabelSettings settings = shown();
     const LabelSettings before = std::exchange(loaded, settings);
-    // Out of reach of the PPD file there is no telling the printer's defaults from the values that stand in for them.
-    if (hasFallbacks || cups->isPpdFileOutOfReach())
+    const bool isOutOfReach = hasFallbacks || cups->isPpdFileOutOfReach();
+    // Out of reach of the PPD file there is no telling the printer's defaults from the values that stand in for them. And
+    // what another make's driver leaves to the printer must not become a number; its choices are not as fine as the fields.
+    if (isOutOfReach || driver.isForeign())
         settings.forgetSame(before);
+    if (!isOutOfReach)
+        settings.orientation = loaded.orientation; // an option of the job, which no driver has a default for
     settings.write(*cups);
-    return cups->setDests() == 0;
+    form.leaveToPrinter(driver, before, loaded);
+    savePageSize();
+    const bool isStored = cups->setDests() == 0;
+    showStored();
+    return isStored;
+}
+
+// Our own drivers are given the page size by their command.
+void PrintPropertiesDialog::Private::savePageSize()
+{
+    const QSizeF size = userPageSize();
+    if (driver.kind() != DriverSettings::Kind::Own && size != std::exchange(loadedPageSize, size))
+        driver.setUserPageSize(size * pointsPerInch);
+}
+
+// Another make's driver has the choice that is nearest to what was typed.
+void PrintPropertiesDialog::Private::showStored()
+{
+    if (!driver.isForeign())
+        return;
+    const bool wasChanged = changed;
+    showPageSize();
+    show(LabelSettings::read(*cups, driver));
+    loaded = shown();
+    q->setChanged(wasChanged);
 }
 
 // In inches; 0 by 0 when there is none.
@@ -549,12 +600,14 @@ void PrintPropertiesDialog::on_stockGroupBox_toggled(bool bChecked)
 void PrintPropertiesDialog::on_speedSlider_valueChanged(int iValue)
 {
     d->ui.speedValue->setText(QString::number(iValue));
+    d->form.describeSteps();
     setChanged(true);
 }
 
 void PrintPropertiesDialog::on_darknessSlider_valueChanged(int iValue)
 {
     d->ui.darknessValue->setText(QString::number(iValue));
+    d->form.describeSteps();
     setChanged(true);
 }
 
@@ -593,7 +646,7 @@ void PrintPropertiesDialog::Private::showGapFields(int mediaType)
     const auto fields = gapFieldsOf(mediaType);
     if (!cups || !fields)
         return;
-    const LabelSettings stored = LabelSettings::read(*cups);
+    const LabelSettings stored = LabelSettings::read(*cups, driver);
     ui.gapSize->setText(NumberField::inchesText(stored.*fields->size));
     ui.gapOffset->setText(NumberField::inchesText(stored.*fields->offset));
     loaded.*fields->size = NumberField::number(ui.gapSize);
@@ -695,5 +748,6 @@ void PrintPropertiesDialog::Private::retranslate()
     ui.speedValue->setText(speed);
     ui.darknessValue->setText(darkness);
     showOwnTexts();
+    form.describeFields();
     describeFields();
 }

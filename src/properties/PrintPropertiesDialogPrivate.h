@@ -4,7 +4,9 @@
 #ifndef PRINTPROPERTIESDIALOGPRIVATE_H
 #define PRINTPROPERTIESDIALOGPRIVATE_H
 
+#include "cups/DriverSettings.h"
 #include "presets/Presets.h"
+#include "properties/DriverForm.h"
 #include "properties/LabelSettings.h"
 #include "properties/ModelFamily.h"
 #include "properties/PrintPropertiesDialog.h"
@@ -47,6 +49,7 @@ struct PrintPropertiesDialog::Private
     void showFamily();
     void show(const LabelSettings &settings);
     LabelSettings shown() const;
+    void showStored();
     void showOrientation(int code);
     void showGapFields(int mediaType);
     void showMediaRows(int mediaType);
@@ -58,6 +61,8 @@ struct PrintPropertiesDialog::Private
 
     bool saveOptions();
     QSizeF userPageSize() const;
+    void savePageSize();
+    void takePageSize(Preset &preset);
     void applyPageSize(const QSizeF &size);
     bool savePresets(const QSizeF &size, const QStringList &defaults);
     bool saveCurrentSettings(const QSizeF &size, const QStringList &defaults);
@@ -71,9 +76,11 @@ struct PrintPropertiesDialog::Private
     PrintPropertiesDialog *const q;
     QPrinter *printer;
     CupsSupport *cups;
+    DriverSettings driver;
     const ModelFamily family;
     const bool forceCustomStock; // the host is set up so that the user page size always applies
     Ui_PrintPropertiesDialog ui;
+    DriverForm form;
     Presets presets;
     Preview *preview = nullptr; // goes with the frame that it is in
     QAction *presetNote = nullptr; // goes with the name field that it is in
@@ -81,6 +88,7 @@ struct PrintPropertiesDialog::Private
     bool changed = true;
     bool isSaved = true; // whether the last saving succeeded
     LabelSettings loaded; // what the fields held when they were last loaded or saved
+    QSizeF loadedPageSize; // and so the user page size, in inches
     bool hasFallbacks = false; // whether the PPD file was out of reach when the fields were loaded
     std::array<QString, LabelSettings::commands.size()> commands;
     std::size_t commandSlot = commands.size() - 1; // of the command that the edit shows

@@ -27,6 +27,13 @@ QByteArray readFile(const QString &path)
     return file.readAll();
 }
 
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s: %s", qPrintable(path), qPrintable(file.errorString()));
+}
+
 // Repeats @p predicate until it is true.
 template<typename Predicate>
 void waitFor(const char *what, Predicate predicate)
@@ -90,6 +97,18 @@ void PrivateScheduler::start()
 void PrivateScheduler::stop()
 {
     script(QStringLiteral("stop"));
+}
+
+void PrivateScheduler::useDrivers()
+{
+    stop();
+    writeFile(temporaryDir.filePath("share/mime/drivers.types"),
+              "application/vnd.cups-pdf\n"
+              "application/vnd.cups-raster string(0,\"RaS3\") string(0,\"3SaR\")\n");
+    writeFile(temporaryDir.filePath("share/mime/drivers.convs"),
+              "application/pdf application/vnd.cups-pdf 66 pdftopdf\n"
+              "application/vnd.cups-pdf application/vnd.cups-raster 100 pdftoraster\n");
+    start();
 }
 
 void PrivateScheduler::addQueue(const QString &name, const QString &ppd, const QString &description,
@@ -213,9 +232,7 @@ QString PrivateScheduler::editedPpd(const QString &ppd, const QList<QPair<QByteA
         text.replace(before, after);
     }
     const QString path = temporaryDir.filePath(QStringLiteral("edited-%1.ppd").arg(++editedPpds));
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-        qFatal("cannot write %s", qPrintable(path));
+    writeFile(path, text);
     return path;
 }
 

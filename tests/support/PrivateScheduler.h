@@ -47,6 +47,9 @@ public:
     void start(); ///< Starts it again after stop(), with the same queues.
     void stop();
 
+    /** Has PDF files converted for printer drivers from now on, by the installed filters of CUPS. Restarts it. */
+    void useDrivers();
+
     /** Adds or changes a queue; with @p ppd empty it has no PPD file. */
     void addQueue(const QString &name, const QString &ppd = samplePpd(QStringLiteral("label-203")),
                   const QString &description = {}, const QString &location = {});

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef DRIVERFORM_H
+#define DRIVERFORM_H
+
+#include "cups/DriverSettings.h"
+
+#include <QSizeF>
+#include <QString>
+
+#include <optional>
+
+class QComboBox;
+class QDialog;
+class QLabel;
+class QLineEdit;
+class QSlider;
+class Ui_PrintPropertiesDialog;
+struct LabelSettings;
+
+/**
+ * Fits the properties dialog's form to a driver of another make: fields that it lacks are disabled and say why, ranges and
+ * lists are the driver's, and what is left to the printer is shown as such. For our own drivers it changes nothing.
+ */
+class DriverForm
+{
+public:
+    /** All of them have to live longer. */
+    DriverForm(QDialog &dialog, Ui_PrintPropertiesDialog &ui, const DriverSettings &driver);
+
+    /** Disables the fields without counterpart, and has lists and edits take only what the driver can do. Once. */
+    void restrictFields();
+
+    /** Sets the sliders' ranges. */
+    void restrictSliders();
+
+    /** Sets the tool tips and notes, in the present language. */
+    void describeFields();
+
+    /** Sets the sliders' tool tips, which say whether they are left to the printer. */
+    void describeSteps();
+
+    /** Shows the sliders' values as the driver has them: fractions, or that they are left to the printer. */
+    void showSteps();
+
+    /** The whole number that a slider's label shows; nothing for another one, or when it is left to the printer. */
+    static std::optional<int> step(const QLabel *label);
+
+    /** Leaves to the printer what the user has emptied, or set so, since @p before was shown. */
+    void leaveToPrinter(DriverSettings &driver, const LabelSettings &before, const LabelSettings &now) const;
+
+private:
+    void restrictList(QComboBox *list, const char *setting);
+    void restrictEdits();
+    void restrictSlider(QSlider *slider, const char *setting);
+    void showStep(QSlider *slider, QLabel *label, const char *setting, int fallback);
+    void describeSlider(QSlider *slider, QLabel *label, const char *setting);
+    void describeEdit(QLineEdit *edit, const char *setting);
+    void showNote();
+
+    QDialog &dialog;
+    Ui_PrintPropertiesDialog &ui;
+    const DriverSettings &driver;
+    QLabel *note = nullptr; // goes with the dialog
+};
+
+#endif
