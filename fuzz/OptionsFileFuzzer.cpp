@@ -5,43 +5,53 @@
 
 #include "Fuzz.h"
 
-#include "cups/OptionsFile.h"
-#include "FakeScheduler.h"
+#include "cups/OptionsMerge.h"
+#include "cups/OptionsSyntax.h"
 
 #include <cups/cups.h>
 
-#include <algorithm>
-#include <cctype>
 #include <cstring>
+#include <vector>
 
 namespace {
 
-const char queue[] = "P";
+const QByteArray queue = "P";
 
-// What libcups reads for a queue; it has no public function for this.
-int readOptions(cups_option_t **options)
+OptionsMerge::Result merge(const QByteArray &content, const std::vector<OptionsMerge::Change> &changes)
 {
-    cups_file_t *file = cupsFileOpen(QFile::encodeName(OptionsFile::path()).constData(), "r");
-    char line[8192];
-    char *words = nullptr;
-    int number = 0;
-    int count = 0;
-    while (file && cupsFileGetConf(file, line, sizeof line, &words, &number)) {
-        if ((qstricmp(line, "dest") != 0 && qstricmp(line, "default") != 0) || !words)
+    return OptionsMerge::merge(content, changes, &OptionsSyntax::readWithLibcups);
+}
+
+// What libcups reads for the queue; it has no public function for this.
+OptionArray readOptions(const QByteArray &content)
+{
+    OptionArray options;
+    const auto entries = OptionsSyntax::readEntries(content, &OptionsSyntax::readWithLibcups);
+    FUZZ_CHECK(entries);
+    for (const OptionsSyntax::Entry &entry : *entries)
+        if (entry.instance.isEmpty() && entry.name.toLower() == queue.toLower())
+            options.parse(entry.options.constData());
+    return options;
+}
+
+// What is no line of the queue, whole.
+QByteArray foreignText(const QByteArray &content)
+{
+    QByteArray text;
+    QList<OptionsSyntax::Piece> pieces = OptionsSyntax::pieces(content);
+    const auto entries = OptionsSyntax::readEntries(content, &OptionsSyntax::readWithLibcups);
+    FUZZ_CHECK(entries);
+    for (const OptionsSyntax::Entry &entry : *entries) {
+        int i = entry.number - 1;
+        if (!entry.instance.isEmpty() || entry.name.toLower() != queue.toLower() || pieces.at(i).continues)
             continue;
-        char *name = words;
-        while (*words && !std::isspace(*words & 255) && *words != '/')
-            ++words;
-        if (*words == '/')
-            continue; // of an instance
-        if (*words)
-            *words++ = '\0';
-        if (qstricmp(name, queue) == 0)
-            count = cupsParseOptions(words, count, options);
+        pieces[i].text.clear();
+        while (++i < pieces.size() && pieces.at(i).continues)
+            pieces[i].text.clear();
     }
-    if (file)
-        cupsFileClose(file);
-    return count;
+    for (const OptionsSyntax::Piece &piece : pieces)
+        text += piece.text;
+    return text;
 }
 
 // No attribute of printers begins so.
@@ -57,7 +67,6 @@ QByteArray keywordFrom(const QByteArray &text)
 
 int LLVMFuzzerInitialize(int *, char ***)
 {
-    FakeScheduler::setQueues({queue});
     return 0;
 }
 
@@ -65,38 +74,28 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QList<QByteArray> parts = texts(bytes(data, size));
     const QByteArray &earlier = parts.first();
-    writeFile(OptionsFile::path(), earlier);
+    std::vector<OptionsMerge::Change> changes(1);
+    OptionsMerge::Change &change = changes.front();
+    change.name = queue;
+    change.isNeededEmpty = [](const char *keyword) { return std::strlen(keyword) % 2 == 0; };
+    for (int i = 1; i + 1 < parts.size(); i += 2)
+        change.set.set(keywordFrom(parts.at(i)).constData(), parts.at(i + 1).constData());
 
-    char name[] = "P";
-    cups_dest_t dest = {};
-    dest.name = name;
-    bool isSimple = true; // nothing that the file's syntax cannot express
-    int length = 0;
-    for (int i = 1; i + 1 < parts.size(); i += 2) {
-        const QByteArray keyword = keywordFrom(parts.at(i));
-        const QByteArray &value = parts.at(i + 1);
-        dest.num_options = cupsAddOption(keyword.constData(), value.constData(), dest.num_options, &dest.options);
-        isSimple = isSimple && !value.contains('\n') && !value.contains('\r');
-        length += static_cast<int>(keyword.size() + 2 * value.size()) + 4;
-    }
-
-    if (!OptionsFile::save(&dest, 1)) {
-        FUZZ_CHECK(!isSimple || length > 8000);
-        FUZZ_CHECK(fileContent(OptionsFile::path()) == earlier);
-    } else {
-        cups_option_t *read = nullptr;
-        const int count = readOptions(&read);
-        FUZZ_CHECK(count == dest.num_options);
-        for (int i = 0; i < dest.num_options; ++i) {
-            const char *value = cupsGetOption(dest.options[i].name, count, read);
-            FUZZ_CHECK(value && !std::strcmp(value, dest.options[i].value));
-        }
-        cupsFreeOptions(count, read);
-        // Saving a second time reads what the first wrote.
-        const QByteArray saved = fileContent(OptionsFile::path());
-        FUZZ_CHECK(OptionsFile::save(&dest, 1));
-        FUZZ_CHECK(fileContent(OptionsFile::path()) == saved);
-    }
-    cupsFreeOptions(dest.num_options, dest.options);
+    const OptionsMerge::Result merged = merge(earlier, changes);
+    // A value that the file's syntax cannot express, or a line that is too long with what was in it.
+    if (!merged.isReadable || merged.impossible)
+        return 0;
+    const QByteArray &saved = merged.content;
+    const OptionArray read = readOptions(saved);
+    for (const cups_option_t &option : change.set)
+        if (*option.value)
+            FUZZ_CHECK(read.has(option.name, option.value));
+        else
+            FUZZ_CHECK(change.isNeededEmpty(option.name) ? read.has(option.name, OptionsMerge::storedEmpty)
+                                                         : !read.value(option.name));
+    const QByteArray foreign = foreignText(earlier);
+    FUZZ_CHECK(foreignText(saved) == foreign || foreignText(saved) == foreign + '\n');
+    // Saving a second time reads what the first wrote.
+    FUZZ_CHECK(merge(saved, changes).content == saved);
     return 0;
 }

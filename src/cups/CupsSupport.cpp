@@ -99,6 +99,8 @@ struct Destinations
 struct CupsSupport::Private
 {
     bool schedulerReachable = false;
+    std::vector<QByteArray>
+        stored; // the options of each destination as they are in the options file, as far as is known
     const Dialect *dialect = nullptr; // of the open PPD file; null when that has our own keywords
 
     static const Dialect *dialectOf(const CupsSupport &cups);
@@ -143,6 +145,7 @@ int CupsSupport::getDefaultPrinter()
         // Without any printer the scheduler says that it found none.
         d->schedulerReachable = dests || fetched->status == IPP_STATUS_ERROR_NOT_FOUND;
     }
+    d->stored = OptionsFile::prepare(dests, destCount);
     if (!dests || destCount < 1)
         return currentIndex;
     // Printers may have gone since the last time; an index past the end would be no printer for good.
@@ -273,7 +276,26 @@ int CupsSupport::setDests()
         if (defaultValue && !std::strcmp(defaultValue, option.value))
             dest->num_options = cupsRemoveOption(option.name, dest->num_options, &dest->options);
     }
-    return OptionsFile::save(dests, destCount) ? 0 : -1;
+
+    std::vector<OptionsMerge::Change> changes;
+    for (int i = 0; i < destCount; ++i) {
+        OptionsMerge::Change change = OptionsMerge::changeSince(d->stored[static_cast<std::size_t>(i)], dests[i]);
+        if (change.isEmpty())
+            continue;
+        // Only the current printer's PPD file is open. For another one the empty value is the safe side.
+        change.isNeededEmpty = [this, isCurrent = i == currentIndex](const char *keyword) {
+            const char *defaultValue = isCurrent ? getDefaultValue(keyword) : nullptr;
+            return !isCurrent || (defaultValue && *defaultValue);
+        };
+        changes.push_back(std::move(change));
+    }
+    const QString reason = OptionsFile::save(changes);
+    Scheduler::setLastError(reason);
+    if (!reason.isNull())
+        return -1;
+    for (int i = 0; i < destCount; ++i)
+        d->stored[static_cast<std::size_t>(i)] = OptionsMerge::snapshot(dests[i]);
+    return 0;
 }
 
 const char *CupsSupport::getCupsError()
@@ -671,7 +693,7 @@ bool CupsSupport::setOptions(const QStringList &list)
         const QByteArray keyword = list.at(i).toLatin1();
         const QByteArray value = list.at(i + 1).toLatin1();
         const char *saved = cupsGetOption(keyword.constData(), dest->num_options, dest->options);
-        if (saved ? value == saved : value.isEmpty())
+        if (saved ? !value.isEmpty() && value == saved : value.isEmpty())
             continue;
         if (saved)
             dest->num_options = cupsRemoveOption(keyword.constData(), dest->num_options, &dest->options);

@@ -133,18 +133,24 @@ public:
     void closePpdFile();
 
     /**
-     * Saves the options of all destinations to the user's options file, $HOME/.cups/lpoptions.
+     * Saves what was changed of any destination since it was read or saved to the options file that libcups reads, usually
+     * $HOME/.cups/lpoptions. All else in the file stays as it is by then, whoever has written it. Without a change nothing
+     * is written. The scheduler is not asked.
      *
      * Options of the current printer that equal the default of its PPD file are dropped first, in a single pass: of two
      * such options in a row only the first one goes.
      *
      * The file is replaced as a whole or not at all and reads back as it was in memory.
      *
-     * @return 0 when saved, -1 when there is no printer or the file could not be written; then the earlier file stands.
+     * @return 0 when saved, -1 when there is no printer or the file could not be written; then the earlier file stands and
+     *         getCupsError() says why.
      */
     int setDests();
 
-    /** What libcups says of the last failure in this thread, as a text for the user. Owned by libcups. */
+    /**
+     * Why the last saving failed, or else what libcups says of the last failure in this thread, as a text for the user.
+     * Valid until the next call of a member.
+     */
     static const char *getCupsError();
 
     /**

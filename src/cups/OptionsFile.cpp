@@ -3,288 +3,143 @@
 
 #include "cups/OptionsFile.h"
 
-#include "cups/Scheduler.h"
+#include "cups/OptionsMemory.h"
+#include "cups/OptionsPlace.h"
+#include "cups/UserFile.h"
 
-#include <QByteArray>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QFile>
-#include <QFileInfo>
-#include <QList>
-#include <QSaveFile>
 
-#include <pwd.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstring>
-#include <memory>
-#include <optional>
 
 namespace {
 
-// The length of libcups' buffer for one line, its terminator included.
-constexpr std::size_t lineBufferSize = 8192;
+const int lockPatienceMs = 1000;
+const int lockPauseMs = 2;
+// How long another program may take from truncating the file to having written it.
+const int rewritePauseMs = 20;
+const int mostAttempts = 10;
 
-struct FreeDests
+// As for all programs that use libcups when the superuser has saved.
+const mode_t systemWideMode = 0644;
+
+void pause(int milliseconds)
 {
-    int count = 0;
-    cups_dest_t *dests = nullptr;
+    usleep(static_cast<useconds_t>(milliseconds) * 1000);
+}
 
-    FreeDests() = default;
-    ~FreeDests() { cupsFreeDests(count, dests); }
-    FreeDests(const FreeDests &) = delete;
-    FreeDests &operator=(const FreeDests &) = delete;
+// Keeps other instances of this library from saving at the same time. It is a lock of the folder: the file itself is
+// replaced, and one more file would be in everybody's way. Anybody who may read the folder can hold the lock, so it is not
+// waited for without end; and where there are no locks, on some network disks, it is done without.
+class Lock
+{
+public:
+    explicit Lock(const QByteArray &folder)
+        : fd(open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+        const QDeadlineTimer deadline(lockPatienceMs);
+        while (fd >= 0 && flock(fd, LOCK_EX | LOCK_NB) != 0 && (errno == EWOULDBLOCK || errno == EINTR)
+               && !deadline.hasExpired())
+            pause(lockPauseMs);
+    }
+    ~Lock()
+    {
+        if (fd >= 0)
+            close(fd);
+    }
+    Lock(const Lock &) = delete;
+    Lock &operator=(const Lock &) = delete;
+
+private:
+    const int fd;
 };
 
-// One destination's line, and what libcups has to read from it.
-struct Line
+QString systemReason(const QByteArray &path)
 {
-    QByteArray text;
-    QList<const cups_option_t *> options;
-};
-
-QByteArray userFolder()
-{
-    QByteArray home = qgetenv("HOME");
-    if (home.isNull()) {
-        if (const passwd *user = getpwuid(getuid()))
-            home = user->pw_dir;
-    }
-    return home + "/.cups";
+    return QFile::decodeName(path) + QLatin1String(": ") + QString::fromLocal8Bit(std::strerror(errno));
 }
 
-// ----- which options to save -----
-
-QByteArray valueText(ipp_attribute_t *attribute)
+QString lineReason(const OptionsMerge::Change &change)
 {
-    // Enumerations are saved by number; ippAttributeString() would name them.
-    if (ippGetValueTag(attribute) == IPP_TAG_ENUM) {
-        QByteArray numbers;
-        for (int i = 0; i < ippGetCount(attribute); ++i)
-            numbers += (i ? "," : "") + QByteArray::number(ippGetInteger(attribute, i));
-        return numbers;
-    }
-    QByteArray text(static_cast<int>(ippAttributeString(attribute, nullptr, 0)) + 1, '\0');
-    ippAttributeString(attribute, text.data(), static_cast<std::size_t>(text.size()));
-    text.chop(1);
-    return text;
+    return QCoreApplication::translate("CupsSupport",
+                                       "The options of %1 cannot be stored: they are too long, or hold a line break.")
+        .arg(QString::fromUtf8(change.name));
 }
 
-void addServerOption(ipp_attribute_t *attribute, cups_dest_t *dest)
+// Another program truncates the file before it writes it.
+bool looksUnfinished(const QByteArray &content)
 {
-    QByteArray name = ippGetName(attribute);
-    if (name.endsWith("-default"))
-        name.chop(static_cast<int>(std::strlen("-default")));
-    else if (name != "printer-mandatory-job-attributes")
-        return;
-    dest->num_options =
-        cupsAddOption(name.constData(), valueText(attribute).constData(), dest->num_options, &dest->options);
+    return !content.endsWith('\n');
 }
 
-// The options that the scheduler itself gives each destination. Empty when it does not answer: then all options are saved,
-// which is more than need be but loses none.
-void fetchServerOptions(FreeDests &server)
+bool readWhole(UserFile &file, QByteArray &content)
 {
-    static const char *const wanted[] = {"printer-name", "printer-defaults", "job-sheets-default",
-                                         "printer-mandatory-job-attributes"};
-    const auto answer = std::make_shared<std::unique_ptr<ipp_t, decltype(&ippDelete)>>(nullptr, &ippDelete);
-    const bool isAnswered = Scheduler::ask([answer](http_t *http) {
-        ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
-        ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                      static_cast<int>(std::size(wanted)), nullptr, wanted);
-        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-        answer->reset(cupsDoRequest(http, request, "/"));
-    });
-    if (!isAnswered)
-        return;
-    const auto &response = *answer;
-    if (!response)
-        return;
-
-    // The attributes of one printer follow each other; a separator without a name stands between two printers.
-    cups_dest_t current = {};
-    const auto finish = [&server, &current] {
-        if (current.name) {
-            server.count = cupsAddDest(current.name, nullptr, server.count, &server.dests);
-            cups_dest_t *dest = cupsGetDest(current.name, nullptr, server.count, server.dests);
-            for (int i = 0; i < current.num_options; ++i)
-                dest->num_options =
-                    cupsAddOption(current.options[i].name, current.options[i].value, dest->num_options, &dest->options);
-        }
-        cupsFreeOptions(current.num_options, current.options);
-        current = {};
-    };
-    for (ipp_attribute_t *a = ippFirstAttribute(response.get()); a; a = ippNextAttribute(response.get()))
-        if (!ippGetName(a))
-            finish();
-        else if (ippGetGroupTag(a) != IPP_TAG_PRINTER)
-            continue;
-        else if (!std::strcmp(ippGetName(a), "printer-name"))
-            current.name = const_cast<char *>(ippGetString(a, 0, nullptr));
-        else
-            addServerOption(a, &current);
-    finish();
-}
-
-// Whether the option describes the printer (its state, its place, ...) and is never saved. libcups' own table of these is
-// not public, but its encoder goes by it.
-bool isPrinterAttribute(const cups_option_t &option)
-{
-    const std::unique_ptr<ipp_t, decltype(&ippDelete)> encoded(ippNew(), &ippDelete);
-    cups_option_t copy = option;
-    cupsEncodeOptions2(encoded.get(), 1, &copy, IPP_TAG_PRINTER);
-    return ippFirstAttribute(encoded.get()) != nullptr;
-}
-
-bool isServerOption(const cups_option_t &option, const cups_dest_t *server)
-{
-    const char *value = server ? cupsGetOption(option.name, server->num_options, server->options) : nullptr;
-    return value && !std::strcmp(value, option.value);
-}
-
-// ----- the syntax -----
-
-// A value in the form in which libcups reads it back: quoted unless it is plain, and with a backslash before each "#", which
-// would else begin a comment.
-QByteArray valueSyntax(const QByteArray &value)
-{
-    QByteArray escaped;
-    bool plain = true;
-    for (const char c : value) {
-        if (std::strchr("\"'\\#", c))
-            escaped += '\\';
-        plain = plain && !std::strchr("\"'\\#{} \t\n\v\f\r", c);
-        escaped += c;
-    }
-    return plain ? value : '"' + escaped + '"';
-}
-
-Line compose(const cups_dest_t &dest, const cups_dest_t *server)
-{
-    Line line;
-    for (int i = 0; i < dest.num_options; ++i) {
-        const cups_option_t &option = dest.options[i];
-        if (!isPrinterAttribute(option) && !isServerOption(option, server))
-            line.options.append(&option);
-    }
-    if (line.options.isEmpty() && !dest.is_default)
-        return line;
-
-    line.text = dest.is_default ? "Default " : "Dest ";
-    line.text += dest.name;
-    if (dest.instance)
-        line.text.append('/').append(dest.instance);
-    for (const cups_option_t *option : std::as_const(line.options))
-        line.text.append(' ').append(option->name).append('=').append(valueSyntax(option->value));
-    return line;
-}
-
-// Whether libcups reads from this line what was put into it; asked of libcups itself.
-bool readsBack(const Line &line)
-{
-    const int fd = memfd_create("lpoptions", MFD_CLOEXEC);
-    if (fd < 0 || write(fd, line.text.constData(), static_cast<std::size_t>(line.text.size())) != line.text.size()) {
-        close(fd);
+    if (!file.read(content))
         return false;
-    }
-    lseek(fd, 0, SEEK_SET);
-    cups_file_t *file = cupsFileOpenFd(fd, "r");
-    char buffer[lineBufferSize];
-    char *arguments = nullptr;
-    int lineNumber = 0;
-    cups_option_t *options = nullptr;
-    int count = 0;
-    if (cupsFileGetConf(file, buffer, sizeof buffer, &arguments, &lineNumber) && arguments) {
-        const char *afterName = std::strchr(arguments, ' ');
-        count = cupsParseOptions(afterName, 0, &options);
-    }
-    bool same = count == line.options.size() && !cupsFileGetConf(file, buffer, sizeof buffer, &arguments, &lineNumber);
-    for (const cups_option_t *option : line.options) {
-        const char *value = cupsGetOption(option->name, count, options);
-        same = same && value && !std::strcmp(value, option->value);
-    }
-    cupsFreeOptions(count, options);
-    cupsFileClose(file);
-    return same;
-}
-
-// ----- the file -----
-
-// Whether a line of the earlier file is the entry of one of these destinations, which is written anew.
-bool isEntryOf(const QByteArray &rawLine, const cups_dest_t *dests, int count)
-{
-    const QList<QByteArray> words = rawLine.simplified().split(' ');
-    const QByteArray kind = words.at(0).toLower();
-    if (words.size() < 2 || (kind != "dest" && kind != "default"))
-        return false;
-    const QList<QByteArray> parts = words.at(1).split('/');
-    const char *instance = parts.size() > 1 ? parts.at(1).constData() : nullptr;
-    return cupsGetDest(parts.at(0).constData(), instance, count, const_cast<cups_dest_t *>(dests)) != nullptr;
-}
-
-// The lines of the earlier file that are not written anew; nothing when they cannot be read and so would be lost.
-std::optional<QByteArray> otherEntries(const cups_dest_t *dests, int count)
-{
-    QFile file(OptionsFile::path());
-    if (!QFileInfo::exists(file.fileName())) // the file's own exists() is true for a link to nothing
-        return QByteArray();
-    // What the user put there instead of a file, a link to /dev/null say, is not for us to replace.
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    QByteArray kept;
-    while (!file.atEnd()) {
-        QByteArray line = file.readLine();
-        if (line.trimmed().isEmpty() || isEntryOf(line, dests, count))
-            continue;
-        if (!line.endsWith('\n'))
-            line += '\n';
-        kept += line;
-    }
-    if (file.error() != QFileDevice::NoError)
-        return std::nullopt;
-    return kept;
-}
-
-bool replaceFile(const QByteArray &content)
-{
-    mkdir(userFolder().constData(), 0700);
-    const QString path = OptionsFile::path();
-    struct stat earlier = {};
-    const bool existed = stat(QFile::encodeName(path).constData(), &earlier) == 0;
-
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    // A file that belongs to somebody else stays theirs. Only the superuser can give it back, and only he needs to.
-    if (existed && (earlier.st_uid != geteuid() || earlier.st_gid != getegid())
-        && fchown(file.handle(), earlier.st_uid, earlier.st_gid) == 0)
-        fchmod(file.handle(), earlier.st_mode & 07777);
-    // commit() alone would notice neither what could not be flushed nor what the disk then had no room for.
-    return file.write(content) == content.size() && file.flush() && fsync(file.handle()) == 0 && file.commit();
+    if (!file.isThere() || !looksUnfinished(content))
+        return true;
+    pause(rewritePauseMs);
+    return file.read(content);
 }
 
 } // namespace
 
-QString OptionsFile::path()
+QByteArray OptionsFile::path()
 {
-    return QFile::decodeName(userFolder() + "/lpoptions");
+    return OptionsPlace::find(OptionsPlace::current()).file();
 }
 
-bool OptionsFile::save(const cups_dest_t *dests, int count)
+std::vector<QByteArray> OptionsFile::prepare(cups_dest_t *dests, int count)
 {
-    FreeDests server;
-    fetchServerOptions(server);
-
-    QByteArray content;
-    for (int i = 0; i < count; ++i) {
-        const Line line = compose(dests[i], cupsGetDest(dests[i].name, nullptr, server.count, server.dests));
-        if (line.text.isEmpty())
-            continue;
-        if (!readsBack(line))
-            return false;
-        content += line.text + '\n';
+    std::vector<QByteArray> snapshots;
+    const QByteArray home = OptionsPlace::home(OptionsPlace::current());
+    for (cups_dest_t *dest = dests; dest != dests + count; ++dest) {
+        for (int i = 0; i < dest->num_options; ++i)
+            if (!std::strcmp(dest->options[i].value, OptionsMerge::storedEmpty))
+                cupsAddOption(dest->options[i].name, "", dest->num_options, &dest->options);
+        snapshots.push_back(OptionsMerge::snapshot(*dest));
+        OptionsMemory::restore(home, *dest, &OptionsSyntax::readWithLibcups);
     }
-    // Kept entries stand last: should the user's default printer be listed again, libcups takes the last default.
-    const std::optional<QByteArray> kept = otherEntries(dests, count);
-    return kept && replaceFile(content + *kept);
+    return snapshots;
+}
+
+QString OptionsFile::save(const std::vector<OptionsMerge::Change> &changes)
+{
+    if (changes.empty())
+        return {};
+    const OptionsPlace::Circumstances circumstances = OptionsPlace::current();
+    const OptionsPlace::Place place = OptionsPlace::find(circumstances);
+    if (!UserFile::makeFolder(place.folder))
+        return systemReason(place.folder);
+    const Lock lock(place.folder);
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        UserFile file(place.file(), UserFile::Links::Follow);
+        QByteArray content;
+        if (!readWhole(file, content))
+            return systemReason(place.file());
+        const OptionsMerge::Result merged = OptionsMerge::merge(content, changes, &OptionsSyntax::readWithLibcups);
+        if (!merged.isReadable)
+            return systemReason(place.file());
+        if (merged.impossible)
+            return lineReason(*merged.impossible);
+        if (!merged.written.empty()) {
+            const UserFile::Result result = file.replace(merged.content, place.isSystemWide ? systemWideMode : 0);
+            if (result == UserFile::Result::Changed)
+                continue;
+            if (result == UserFile::Result::Failed)
+                return systemReason(place.file());
+        }
+        for (const OptionsMerge::Written &written : merged.written)
+            OptionsMemory::remember(OptionsPlace::home(circumstances), written.change->name, written.change->instance,
+                                    written.options, &OptionsSyntax::readWithLibcups);
+        return {};
+    }
+    errno = EBUSY;
+    return systemReason(place.file());
 }

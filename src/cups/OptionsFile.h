@@ -4,36 +4,41 @@
 #ifndef OPTIONSFILE_H
 #define OPTIONSFILE_H
 
+#include "cups/OptionsMerge.h"
+
+#include <QByteArray>
 #include <QString>
 
-#include <cups/cups.h>
+#include <vector>
 
-/**
- * The file in which libcups keeps each user's options and default printer, one line a destination:
- *
- *     Dest|Default NAME[/INSTANCE] OPTION=VALUE OPTION=VALUE ...
- */
+/** The file in which libcups keeps the options and the default printer of a user, or of all users if the user is root. */
 namespace OptionsFile {
 
-/** The path of the user's options file, as libcups finds it. */
-QString path();
+/** The path of the options file, as the libcups that runs finds it. */
+QByteArray path();
 
 /**
- * Saves the options of all destinations as cupsSetDests() does, with the same file, syntax and choice of options, but so
- * that nothing is lost:
+ * To be called for destinations that libcups has just read: puts back what other programs have damaged, see OptionsMemory,
+ * and makes the stored form of an empty value an empty one again.
  *
- * - cupsSetDests() truncates the file and writes it in place, so that a full disk or the end of the process leaves a part
- *   of it. Here the file is replaced as a whole or not at all.
- * - cupsSetDests() writes some values in a form that libcups reads back as something else: an empty one, one with a "#",
- *   one with a tab. Here every value reads back as it was; this is checked before the file is replaced.
- * - cupsSetDests() drops the lines of queues that the scheduler does not list at the moment. Here they are kept.
- *
- * The file's permissions and owner, and a symbolic link in its place, are kept.
- *
- * @return false when the file could not be written or could not be read back by libcups (it cannot read a line break in a
- *         value, or a line of more than 8191 bytes); the earlier file then stands.
+ * @return the snapshots of the destinations as they stand in the file, to compare with when saving.
  */
-bool save(const cups_dest_t *dests, int count);
+std::vector<QByteArray> prepare(cups_dest_t *dests, int count);
+
+/**
+ * Saves what was changed. Everything else in the file stays as it is by then: other instances of this library are locked
+ * out meanwhile, and what another program writes meanwhile is read again. If these changes are in the file already, nothing
+ * is written.
+ *
+ * cupsSetDests() would not do: it writes all options of all destinations as this process once read them, truncates the file
+ * and writes it in place, drops the lines of queues that the scheduler does not list at the moment, and writes some values
+ * in a form that libcups reads back as something else. Here the file is replaced as a whole or not at all, and each line is
+ * read back before that.
+ *
+ * @return a null string when saved. Else why not, for the user; the file is as it was. libcups cannot read a line break in a
+ *         value, or a line of more than 8191 bytes.
+ */
+QString save(const std::vector<OptionsMerge::Change> &changes);
 
 } // namespace OptionsFile
 

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "CupsTest.h"
+#include "Forked.h"
+#include "OpenDialog.h"
 #include "TestMain.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
@@ -12,12 +15,16 @@
 
 #include <csignal>
 #include <cstdio>
+#include <filesystem>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <sys/un.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 // Prints the options of destination NAME [INSTANCE] as libcups reads them, values in hexadecimal.
@@ -52,8 +59,6 @@ static int saveWithLimit(int &, char **argv)
 }
 static const TestMain::ChildFunction saveWithLimitFunction("saveWithLimit", saveWithLimit);
 
-using Options = QMap<QByteArray, QByteArray>;
-
 // If this fails, saved settings of this or other printers are lost or read back differently.
 class OptionsFileTest : public CupsTest
 {
@@ -82,11 +87,32 @@ private slots:
     void defaultIsKept();
     void savedWithoutScheduler();
 
+    void onlyChangesAreWritten();
+    void untouchedLinesAreKept_data();
+    void untouchedLinesAreKept();
+    void nothingChangedNothingWritten();
+    void laterChangesOfOthersAreKept();
+    void bothChangeTheSame();
+    void savingTwice();
+    void readAgainAfterSaving();
+    void newLineOfServerDefault_data();
+    void newLineOfServerDefault();
+    void lastOptionOfInstanceAndDefault();
+    void schedulerDefaultsAreNotWritten();
+    void emptyValueThatWasStored();
+    void longLineOfOwnQueue();
+    void reasonOfFailure();
+    void anotherInstanceHoldsTheLock();
+
     void newFile();
     void newFolder();
     void permissionsAreKept_data();
     void permissionsAreKept();
     void ownerIsKept();
+    void accessControlListIsKept();
+    void folderThatCannotBeWritten();
+    void newFolderBelongsToItsUser();
+    void homeThatIsNoText();
     void symbolicLinkIsKept_data();
     void symbolicLinkIsKept();
     void linkToNothing();
@@ -228,8 +254,10 @@ void OptionsFileTest::valueReadsBack()
     QCOMPARE(saved(cups, "JobStart"), value);
 
     const Options options = freshlyRead({"LP1"});
+    // The PPD file declares a default, which an empty value overrides. It is stored as a blank: other programs would turn it
+    // into "true".
     QVERIFY(options.contains("JobStart"));
-    QCOMPARE(options.value("JobStart"), value);
+    QCOMPARE(options.value("JobStart"), value.isEmpty() ? QByteArray(" ") : value);
     QCOMPARE(options.value("Feed"), QByteArray("24"));
     QCOMPARE(options.value("PrintSpeed"), QByteArray("5"));
     QCOMPARE(options.size() - 1, count); // less the empty line at the end of the output
@@ -277,7 +305,7 @@ void OptionsFileTest::valuesOfSeveralOptionsReadBack()
     QCOMPARE(cups->setDests(), 0);
     const Options options = freshlyRead({"LP2"});
     for (auto it = values.begin(); it != values.end(); ++it) {
-        QVERIFY2(options.contains(it.key()), it.key().constData());
+        QCOMPARE(options.contains(it.key()), !it.value().isEmpty()); // there is no default to override
         QCOMPARE(options.value(it.key()), it.value());
     }
 }
@@ -299,7 +327,6 @@ void OptionsFileTest::optionOfAnyNameReadsBack_data()
     QTest::newRow("raw") << QByteArray("raw") << QByteArray("true");
     QTest::newRow("document-format") << QByteArray("document-format") << QByteArray("text/plain");
     QTest::newRow("page-left") << QByteArray("page-left") << QByteArray("18");
-    QTest::newRow("no value") << QByteArray("fit-to-page") << QByteArray("");
     QTest::newRow("begins with no") << QByteArray("noFeed") << QByteArray("1");
     QTest::newRow("dots") << QByteArray("com.example.x") << QByteArray("1.5");
 }
@@ -423,17 +450,12 @@ void OptionsFileTest::entriesOfOtherQueuesAreKept()
 {
     const QByteArrayList others{"Dest GONE Darkness=3 JobStart=\"a \\\"b\\\" \\# c\"", "Dest GONE/wide Feed=24",
                                 "Default ELSEWHERE"};
-    writeOptionsFile(others.at(0) + "\nDest LP1 Feed=24\n" + others.at(1) + "\n\n"
-                     + others.at(2)); // no line break at the end
+    const QByteArray end = "\n" + others.at(1) + "\n\n" + others.at(2); // no line break at the end
+    writeOptionsFile(others.at(0) + "\nDest LP1 Feed=24" + end);
     CupsSupport cups;
     cups.setDarkness(5);
     QCOMPARE(cups.setDests(), 0);
-    const QByteArrayList lines = readOptionsFile().split('\n');
-    for (const QByteArray &line : others)
-        QCOMPARE(lines.count(line), 1);
-    QCOMPARE(lines.count("Dest LP1 Darkness=5 Feed=24"), 1);
-    QCOMPARE(readOptionsFile().count("LP1"), 1);
-    QVERIFY(readOptionsFile().endsWith('\n'));
+    QCOMPARE(readOptionsFile(), others.at(0) + "\nDest LP1 Darkness=5 Feed=24" + end);
 }
 
 void OptionsFileTest::entriesOfOtherQueuesWorkAgain()
@@ -505,6 +527,296 @@ void OptionsFileTest::savedWithoutScheduler()
     QCOMPARE(freshlyRead({"LP1"}).value("printer-info"), QByteArray("First Printer"));
 }
 
+void OptionsFileTest::onlyChangesAreWritten()
+{
+    writeOptionsFile("Dest LP1 Feed=24\n");
+    CupsSupport cups;
+    cups.setCurrentPrinter(LP1);
+    cups.setDarkness(4);
+    cups.setCurrentPrinter(LP2);
+    cups.setDarkness(6);
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(readOptionsFile(), QByteArray("Dest LP1 Darkness=4 Feed=24\nDest LP2 Darkness=6\n"));
+}
+
+void OptionsFileTest::untouchedLinesAreKept_data()
+{
+    QTest::addColumn<QByteArray>("lines");
+    QTest::newRow("comments") << QByteArray("# mine\n\n  # and this\n");
+    QTest::newRow("other words") << QByteArray("<Section>\nFoo bar\nDest\nDefault\n</Section>\n");
+    QTest::newRow("other queue") << QByteArray("dest  LP2\tDarkness=6   X=\n");
+    QTest::newRow("quotes") << QByteArray("Dest LP2 X='a\\b' Y=\"z Z=1\n");
+    QTest::newRow("comment behind") << QByteArray("Dest LP2 Darkness=6 # mine\n");
+    QTest::newRow("printer attribute") << QByteArray("Dest LP2 printer-info=x Darkness=6\n");
+    QTest::newRow("overlong") << "Dest LP2 X=" + QByteArray(20000, 'x') + '\n';
+    QTest::newRow("as long as can be") << "Dest LP2 X=" + QByteArray(8191 - 11, 'x') + '\n';
+    QTest::newRow("overlong with another line in it")
+        << "Dest LP2 X=" + QByteArray(8191 - 11, 'x') + "Dest LP1 Darkness=1\n";
+    QTest::newRow("line ends of other systems") << QByteArray("Dest LP2 Feed=1\r\nDest LP3 Feed=2\r# x\n");
+    QTest::newRow("binary") << QByteArray("\x01\xff\0\x80 \xc3\n\0\n", 9);
+    QTest::newRow("instance") << QByteArray("Dest LP1/wide Darkness=6\nDest LP2/wide\n");
+    QTest::newRow("no line break at the end") << QByteArray("Dest LP2 Darkness=6");
+}
+
+void OptionsFileTest::untouchedLinesAreKept()
+{
+    QFETCH(QByteArray, lines);
+    writeOptionsFile("Dest LP1 Feed=24\n" + lines);
+    CupsSupport cups;
+    cups.setCurrentPrinter(LP1);
+    cups.setDarkness(5);
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(readOptionsFile(), "Dest LP1 Darkness=5 Feed=24\n" + lines);
+
+    // A new line stands behind them.
+    if (!lines.endsWith('\n'))
+        lines += '\n';
+    writeOptionsFile(lines);
+    cups.setDarkness(6);
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(readOptionsFile(), lines + "Dest LP1 Darkness=6\n");
+}
+
+void OptionsFileTest::nothingChangedNothingWritten()
+{
+    CupsSupport cups;
+    QCOMPARE(cups.setDests(), 0);
+    QVERIFY(!QFileInfo::exists(QFileInfo(optionsPath()).path())); // not even the folder
+
+    const auto status = [] {
+        struct stat found = {};
+        stat(QFile::encodeName(optionsPath()), &found);
+        return found;
+    };
+    writeOptionsFile("Dest LP1   Darkness=4 Feed=24\n");
+    cups.getDefaultPrinter();
+    const struct stat before = status();
+    QCOMPARE(cups.setDests(), 0);
+    cups.setDarkness(5);
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    cups.deleteOptions({"Darkness"});
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(status().st_ino, before.st_ino);
+    QCOMPARE(status().st_mtim.tv_nsec, before.st_mtim.tv_nsec);
+
+    // Somebody else has made the same change.
+    cups.setDarkness(6);
+    writeOptionsFile("Dest LP1   Darkness=6 Feed=24\n");
+    const struct stat theirs = status();
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(status().st_ino, theirs.st_ino);
+    QCOMPARE(readOptionsFile(), QByteArray("Dest LP1   Darkness=6 Feed=24\n"));
+}
+
+void OptionsFileTest::laterChangesOfOthersAreKept()
+{
+    writeOptionsFile("Dest LP1 Darkness=4 Feed=24 PrintSpeed=3\nDest LP2 Darkness=6\n");
+    CupsSupport cups;
+    cups.setCurrentPrinter(LP1);
+    cups.setDarkness(5);
+    scheduler->setUserOptions("LP1", {"Feed=25", "Shift=1.000"});
+    PrivateScheduler::run("lpoptions", {"-p", "LP1", "-r", "PrintSpeed"});
+    scheduler->setUserOptions("LP2", {"Darkness=7", "Feed=26"});
+    scheduler->setUserOptions("LP3", {"copies=2"});
+    scheduler->setUserDefault("LP2");
+    QCOMPARE(cups.setDests(), 0);
+
+    const Options first = freshlyRead({"LP1"});
+    QCOMPARE(first.value("Darkness"), QByteArray("5"));
+    QCOMPARE(first.value("Feed"), QByteArray("25"));
+    QCOMPARE(first.value("Shift"), QByteArray("1.000"));
+    QVERIFY(!first.contains("PrintSpeed"));
+    QCOMPARE(freshlyRead({"LP2"}).value("Darkness"), QByteArray("7"));
+    QCOMPARE(freshlyRead({"LP2"}).value("Feed"), QByteArray("26"));
+    QCOMPARE(freshlyRead({"LP3"}).value("copies"), QByteArray("2"));
+    QCOMPARE(CupsSupport().getCurrentQueueName(), QString("LP2"));
+}
+
+void OptionsFileTest::bothChangeTheSame()
+{
+    writeOptionsFile("Dest LP1 Darkness=4 Feed=24 PrintSpeed=5 Shift=1.000\n");
+    CupsSupport cups;
+    cups.setCurrentPrinter(LP1);
+    cups.setDarkness(5);
+    cups.deleteOptions({"Feed", "Shift"});
+    scheduler->setUserOptions("LP1", {"Darkness=6", "Feed=25"});
+    PrivateScheduler::run("lpoptions", {"-p", "LP1", "-r", "Shift"});
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(readOptionsFile().simplified(), QByteArray("Dest LP1 Darkness=5 PrintSpeed=5"));
+}
+
+void OptionsFileTest::savingTwice()
+{
+    CupsSupport cups;
+    cups.setCurrentPrinter(LP1);
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    scheduler->setUserOptions("LP1", {"Darkness=6"});
+    cups.setFeed(24);
+    QCOMPARE(cups.setDests(), 0);
+    // What was saved before is no change any more.
+    QCOMPARE(freshlyRead({"LP1"}).value("Darkness"), QByteArray("6"));
+    QCOMPARE(freshlyRead({"LP1"}).value("Feed"), QByteArray("24"));
+    cups.deleteOptions({"Darkness", "Feed"});
+    QCOMPARE(cups.setDests(), 0);
+    QVERIFY(!readOptionsFile().contains("LP1"));
+}
+
+void OptionsFileTest::readAgainAfterSaving()
+{
+    CupsSupport cups;
+    cups.setCurrentPrinter(LP1);
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    cups.setFeed(24); // given up
+    cups.getDefaultPrinter();
+    cups.setCurrentPrinter(LP1);
+    cups.setSpeed(5);
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(readOptionsFile(), QByteArray("Dest LP1 Darkness=4 PrintSpeed=5\n"));
+}
+
+void OptionsFileTest::newLineOfServerDefault_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QByteArray>("later"); // what the file is when we save
+    QTest::addColumn<QByteArray>("after");
+    const QByteArray none;
+    QTest::newRow("no file") << none << none << QByteArray("Default LP1 Darkness=5\n");
+    QTest::newRow("line of another") << QByteArray("Dest LP2 Feed=24\n") << QByteArray("Dest LP2 Feed=24\n")
+                                     << QByteArray("Dest LP2 Feed=24\nDefault LP1 Darkness=5\n");
+    QTest::newRow("default of the user") << QByteArray("Default LP2\n") << QByteArray("Default LP2\n")
+                                         << QByteArray("Default LP2\nDest LP1 Darkness=5\n");
+    QTest::newRow("later default of the user")
+        << none << QByteArray("Default LP2\n") << QByteArray("Default LP2\nDest LP1 Darkness=5\n");
+    QTest::newRow("own line") << QByteArray("Dest LP1 Feed=24\n") << QByteArray("Dest LP1 Feed=24\n")
+                              << QByteArray("Dest LP1 Darkness=5 Feed=24\n");
+}
+
+// With "Dest" for the server's default printer, libcups would tell no program of a default any more; and no other queue
+// may get a line because of it.
+void OptionsFileTest::newLineOfServerDefault()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QByteArray, later);
+    QFETCH(QByteArray, after);
+    scheduler->addQueue("LP0");
+    scheduler->setServerDefault("LP1");
+    writeOptionsFile(file);
+    CupsSupport cups;
+    selectQueue(cups, "LP1");
+    cups.setDarkness(5);
+    writeOptionsFile(later);
+    const int result = cups.setDests();
+    const QByteArray found = readOptionsFile();
+    selectQueue(cups, "LP2");
+    cups.setDarkness(5);
+    const int secondResult = cups.setDests();
+    // The scheduler cannot be told to have no default again, but the default can go.
+    scheduler->setServerDefault("LP0");
+    scheduler->removeQueue("LP0");
+    QCOMPARE(result, 0);
+    QCOMPARE(found, after);
+    QCOMPARE(secondResult, 0);
+    QCOMPARE(readOptionsFile().count("Default"), after.count("Default"));
+}
+
+void OptionsFileTest::lastOptionOfInstanceAndDefault()
+{
+    writeOptionsFile("Dest LP1/wide Darkness=4\nDefault LP2 Darkness=4\n");
+    CupsSupport cups;
+    selectQueue(cups, "LP1/wide");
+    cups.deleteOptions({"Darkness"});
+    selectQueue(cups, "LP2");
+    cups.deleteOptions({"Darkness"});
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(readOptionsFile(), QByteArray("Dest LP1/wide\nDefault LP2\n"));
+}
+
+// They are the administrator's, whose later changes are to show.
+void OptionsFileTest::schedulerDefaultsAreNotWritten()
+{
+    PrivateScheduler::run("lpadmin", {"-p", "LP2", "-o", "job-hold-until-default=indefinite", "-o", "Feed=30"});
+    CupsSupport cups;
+    selectQueue(cups, "LP2");
+    QVERIFY(cups.printerOption("job-hold-until"));
+    cups.setDarkness(5);
+    scheduler->stop();
+    const int result = cups.setDests();
+    scheduler->start();
+    PrivateScheduler::run("lpadmin", {"-p", "LP2", "-o", "job-hold-until-default=no-hold"});
+    QCOMPARE(result, 0);
+    QCOMPARE(readOptionsFile(), QByteArray("Dest LP2 Darkness=5\n"));
+    QCOMPARE(freshlyRead({"LP2"}).value("job-hold-until"), QByteArray("no-hold"));
+}
+
+void OptionsFileTest::emptyValueThatWasStored()
+{
+    writeOptionsFile("Dest LP2 Feed=24 JobEnd= JobStart=x\n");
+    const auto cups = supportFor(LP2);
+    QVERIFY(cups->setOptions({"JobEnd", ""}));
+    QVERIFY(!cups->printerOption("JobEnd"));
+    QVERIFY(!cups->setOptions({"JobEnd", ""}));
+    QCOMPARE(cups->setDests(), 0);
+    QCOMPARE(readOptionsFile(), QByteArray("Dest LP2 Feed=24 JobStart=x\n"));
+
+    // Others of the line do not stay to become "true" either.
+    writeOptionsFile("Dest LP2 Feed=24 JobEnd= JobStart=x\n");
+    const auto other = supportFor(LP2);
+    other->setDarkness(5);
+    QCOMPARE(other->setDests(), 0);
+    QCOMPARE(readOptionsFile(), QByteArray("Dest LP2 Darkness=5 Feed=24 JobStart=x\n"));
+}
+
+// What libcups cannot read of it is of no use to anybody, so it does not keep the user from saving.
+void OptionsFileTest::longLineOfOwnQueue()
+{
+    const QByteArray rest("Dest LP2 Darkness=6\n");
+    writeOptionsFile("Dest LP1 Darkness=4 Zed=" + QByteArray(9000, 'x') + "\n" + rest);
+    CupsSupport cups;
+    cups.setCurrentPrinter(LP1);
+    cups.deleteOptions({"Zed"});
+    cups.setDarkness(5);
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(readOptionsFile(), "Dest LP1 Darkness=5\n" + rest);
+}
+
+void OptionsFileTest::reasonOfFailure()
+{
+    QVERIFY(QDir::home().mkpath(".cups/lpoptions"));
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), -1);
+    QVERIFY2(QByteArray(CupsSupport::getCupsError()).contains("lpoptions: "), CupsSupport::getCupsError());
+    QVERIFY(QDir::home().rmdir(".cups/lpoptions"));
+
+    cups.setValue("JobStart", QByteArray(9000, 'x').constData());
+    QCOMPARE(cups.setDests(), -1);
+    QVERIFY2(QByteArray(CupsSupport::getCupsError()).contains("LP1"), CupsSupport::getCupsError());
+
+    cups.deleteOptions({"JobStart"});
+    QCOMPARE(cups.setDests(), 0);
+    QCOMPARE(CupsSupport::getCupsError(), cupsLastErrorString());
+}
+
+// Whoever may read the folder may lock it. It holds nobody up for good.
+void OptionsFileTest::anotherInstanceHoldsTheLock()
+{
+    writeOptionsFile("");
+    const int fd = open(QFile::encodeName(QFileInfo(optionsPath()).path()), O_RDONLY | O_DIRECTORY);
+    QCOMPARE(flock(fd, LOCK_EX), 0);
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(cups.setDests(), 0);
+    QVERIFY(timer.elapsed() < 30000);
+    close(fd);
+    QCOMPARE(freshlyRead({"LP1"}).value("Darkness"), QByteArray("4"));
+}
+
 void OptionsFileTest::newFile()
 {
     QVERIFY(QDir::home().mkdir(".cups"));
@@ -572,6 +884,88 @@ void OptionsFileTest::ownerIsKept()
     QCOMPARE(after.st_gid, before.st_gid);
     QCOMPARE(after.st_mode, before.st_mode);
     QCOMPARE(freshlyRead({"LP1"}).value("Darkness"), QByteArray("4"));
+}
+
+void OptionsFileTest::accessControlListIsKept()
+{
+    // Version 2; the owner, user 12345, the group, the mask and others, each with rights and an identifier.
+    const char list[] = "\2\0\0\0"
+                        "\1\0\6\0\xff\xff\xff\xff"
+                        "\2\0\4\0\x39\x30\0\0"
+                        "\4\0\4\0\xff\xff\xff\xff"
+                        "\x10\0\4\0\xff\xff\xff\xff"
+                        "\x20\0\0\0\xff\xff\xff\xff";
+    const char *const name = "system.posix_acl_access";
+    writeOptionsFile("Dest LP1 Darkness=3\n");
+    const QByteArray path = QFile::encodeName(optionsPath());
+    const bool hasLists = setxattr(path, name, list, sizeof list - 1, 0) == 0;
+    CupsSupport cups;
+    cups.setDarkness(4);
+    QCOMPARE(cups.setDests(), 0);
+    char found[100] = {};
+    const ssize_t size = getxattr(path, name, found, sizeof found);
+    QCOMPARE(QByteArray(found, int(size < 0 ? 0 : size)), hasLists ? QByteArray(list, sizeof list - 1) : QByteArray());
+}
+
+// Then the file is written in place, which is better than not at all. The superuser may write everywhere.
+void OptionsFileTest::folderThatCannotBeWritten()
+{
+    writeOptionsFile("Dest LP1 Darkness=3\nDest LP2 Feed=24\n");
+    const QByteArray file = QFile::encodeName(optionsPath());
+    const QByteArray folder = QFile::encodeName(QFileInfo(optionsPath()).path());
+    const QByteArray home = QFile::encodeName(QDir::homePath());
+    CupsSupport cups;
+    cups.setCurrentPrinter(LP1);
+    cups.setDarkness(4);
+    const uid_t user = geteuid() == 0 ? 65534 : geteuid();
+    for (const QByteArray &path : {home, folder, file})
+        QCOMPARE(chown(path, user, gid_t(-1)), 0);
+    QCOMPARE(chmod(folder, 0555), 0);
+    const int result = inCopy([&] { return setuid(user) == 0 ? cups.setDests() : 99; });
+    QCOMPARE(chmod(folder, 0700), 0);
+    for (const QByteArray &path : {home, folder, file})
+        QCOMPARE(chown(path, geteuid(), gid_t(-1)), 0);
+    QCOMPARE(result, 0);
+    QCOMPARE(readOptionsFile(), QByteArray("Dest LP1 Darkness=4\nDest LP2 Feed=24\n"));
+}
+
+// Run with another user's HOME, as by sudo, the superuser leaves nothing that this user cannot use.
+void OptionsFileTest::newFolderBelongsToItsUser()
+{
+    const bool isRoot = geteuid() == 0;
+    const QByteArray home = QFile::encodeName(QDir::homePath());
+    if (isRoot)
+        QCOMPARE(chown(home, 12345, 54321), 0);
+    CupsSupport cups;
+    cups.setDarkness(4);
+    const int result = cups.setDests();
+    struct stat folder = {};
+    struct stat file = {};
+    stat(QFile::encodeName(QFileInfo(optionsPath()).path()), &folder);
+    stat(QFile::encodeName(optionsPath()), &file);
+    QCOMPARE(chown(home, geteuid(), getegid()), 0);
+    QCOMPARE(result, 0);
+    QCOMPARE(folder.st_uid, isRoot ? uid_t(12345) : geteuid());
+    QCOMPARE(folder.st_gid, isRoot ? gid_t(54321) : getegid());
+    QCOMPARE(file.st_uid, folder.st_uid);
+    QCOMPARE(file.st_gid, folder.st_gid);
+}
+
+void OptionsFileTest::homeThatIsNoText()
+{
+    const QByteArray earlier = qgetenv("HOME");
+    const QByteArray home = earlier
+                            + "/b\xfc"
+                              "ro\xff";
+    QCOMPARE(mkdir(home, 0700), 0);
+    qputenv("HOME", home);
+    const TestMain::ChildResult saved = TestMain::runChild("saveWithLimit", {"100000"});
+    const TestMain::ChildResult read = TestMain::runChild("printOptions", {"LP1"});
+    qputenv("HOME", earlier);
+    QCOMPARE(saved.output, QByteArray("0\n"));
+    QVERIFY2(read.output.contains("Darkness 35"), read.output.constData());
+    QCOMPARE(access(home + "/.cups/lpoptions", F_OK), 0);
+    std::filesystem::remove_all(home.constData()); // QTemporaryDir could not
 }
 
 void OptionsFileTest::symbolicLinkIsKept_data()

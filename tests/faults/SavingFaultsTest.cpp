@@ -316,7 +316,6 @@ void SavingFaultsTest::optionsFile_data()
     QTest::addColumn<Fault>("fault");
     for (const auto &[name, fault] : writeFaults)
         QTest::newRow(name) << fault;
-    QTest::newRow("read-only folder") << Fault(asUserWithMode(folder, 0555));
     QTest::newRow("read-only file") << Fault(asUserWithMode(optionsPath, 0444));
     // The entries of other queues in it could not be kept.
     QTest::newRow("unreadable file") << Fault(asUserWithMode(optionsPath, 0200));

@@ -724,7 +724,8 @@ void PropertiesDialogSaveTest::emptyCommandsThroughTheFile()
     }
     const TestMain::ChildResult options = TestMain::runChild("print-options", {"Q"});
     QCOMPARE(options.exitCode, 0);
-    QVERIFY2(options.output.contains("\nJobStart=\n"), options.output.constData());
+    // Other programs would make "true" of an empty value, so there is none.
+    QVERIFY2(!options.output.contains("JobStart="), options.output.constData());
     QVERIFY2(options.output.contains("\nDarkness=4\n") || options.output.startsWith("Darkness=4\n"),
              options.output.constData());
     const TestMain::ChildResult commands = TestMain::runChild("print-commands");

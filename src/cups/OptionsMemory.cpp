@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "cups/OptionsMemory.h"
+
+#include "cups/UserFile.h"
+
+#include <QList>
+
+namespace {
+
+// No script: those end in ".sh", so that the file is no preset.
+const char fileName[] = "/_saved-options";
+
+// Each rewriting halves the backslashes of a line, so that this many are enough for the longest.
+constexpr int mostRewritings = 16;
+
+// Empty for a name that would lead out of the folder.
+QByteArray folderFor(const QByteArray &home, const QByteArray &name, const QByteArray &instance)
+{
+    for (const QByteArray &part : {name, instance})
+        if (part == "." || part == ".." || part.contains('/'))
+            return {};
+    const QByteArray folder = home + "/.cups/" + name;
+    return instance.isEmpty() ? folder : folder + '/' + instance;
+}
+
+// One option a line, with no character that means anything.
+QByteArray fileText(const OptionArray &options)
+{
+    QByteArray text;
+    for (const cups_option_t &option : options)
+        text += QByteArray(option.name).toPercentEncoding() + '=' + QByteArray(option.value).toPercentEncoding() + '\n';
+    return text;
+}
+
+OptionArray fromFileText(const QByteArray &text)
+{
+    OptionArray options;
+    const QList<QByteArray> lines = text.split('\n');
+    for (const QByteArray &line : lines) {
+        const auto equals = line.indexOf('=');
+        if (equals > 0)
+            options.set(QByteArray::fromPercentEncoding(line.left(equals)).constData(),
+                        QByteArray::fromPercentEncoding(line.mid(equals + 1)).constData());
+    }
+    return options;
+}
+
+} // namespace
+
+OptionArray OptionsMemory::lost(const OptionArray &saved, const OptionArray &stored,
+                                const OptionsSyntax::Reader &reader)
+{
+    OptionArray found;
+    OptionArray now = saved;
+    for (int i = 0; i < mostRewritings; ++i) {
+        const std::optional<OptionArray> next = OptionsSyntax::rewritten(now, reader);
+        if (!next || *next == now)
+            break;
+        now = *next;
+        for (const cups_option_t &option : saved)
+            if (const char *changed = now.value(option.name);
+                changed && qstrcmp(changed, option.value) != 0 && stored.has(option.name, changed))
+                found.set(option.name, option.value);
+        // Behind a value that was cut the rest of the line is gone.
+        if (found.size() == 0)
+            continue;
+        for (const cups_option_t &option : saved)
+            if (!now.value(option.name) && !stored.value(option.name))
+                found.set(option.name, option.value);
+    }
+    return found;
+}
+
+void OptionsMemory::remember(const QByteArray &home, const QByteArray &name, const QByteArray &instance,
+                             const OptionArray &options, const OptionsSyntax::Reader &reader)
+{
+    const QByteArray folder = folderFor(home, name, instance);
+    if (folder.isEmpty())
+        return;
+    const std::optional<OptionArray> next = OptionsSyntax::rewritten(options, reader);
+    const bool isHarmed = next && !(*next == options);
+    if (isHarmed && !UserFile::makeFolder(folder))
+        return;
+    UserFile file(folder + fileName, UserFile::Links::Replace);
+    if (!isHarmed) {
+        file.remove();
+        return;
+    }
+    const QByteArray text = fileText(options);
+    QByteArray earlier;
+    if (file.read(earlier) && earlier != text)
+        file.replace(text);
+}
+
+void OptionsMemory::restore(const QByteArray &home, cups_dest_t &dest, const OptionsSyntax::Reader &reader)
+{
+    const QByteArray folder = folderFor(home, dest.name, dest.instance);
+    if (folder.isEmpty())
+        return;
+    QByteArray text;
+    UserFile file(folder + fileName, UserFile::Links::Keep);
+    if (!file.read(text) || text.isEmpty())
+        return;
+    const OptionArray found = lost(fromFileText(text), OptionArray(dest), reader);
+    for (const cups_option_t &option : found)
+        dest.num_options = cupsAddOption(option.name, option.value, dest.num_options, &dest.options);
+}

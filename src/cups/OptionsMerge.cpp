@@ -1,0 +1,207 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "cups/OptionsMerge.h"
+
+#include <QHash>
+
+#include <cerrno>
+#include <memory>
+
+namespace {
+
+OptionArray fromSnapshot(const QByteArray &snapshot)
+{
+    OptionArray options;
+    for (const char *text = snapshot.constData(), *const end = text + snapshot.size(); text < end;) {
+        const char *value = text + qstrlen(text) + 1;
+        options.set(text, value);
+        text = value + qstrlen(value) + 1;
+    }
+    return options;
+}
+
+// libcups' own table of these is not public, but its encoder goes by it.
+bool isPrinterAttribute(const cups_option_t &option)
+{
+    const std::unique_ptr<ipp_t, decltype(&ippDelete)> encoded(ippNew(), &ippDelete);
+    cups_option_t copy = option;
+    cupsEncodeOptions2(encoded.get(), 1, &copy, IPP_TAG_PRINTER);
+    return ippFirstAttribute(encoded.get()) != nullptr;
+}
+
+// libcups does not tell upper from lower case in names.
+QByteArray keyOf(const QByteArray &name, const QByteArray &instance)
+{
+    return (name + '/' + instance).toLower();
+}
+
+OptionArray changed(const OptionArray &earlier, const OptionsMerge::Change &change)
+{
+    OptionArray options = earlier;
+    for (const QByteArray &name : change.removed)
+        options.remove(name.constData());
+    for (const cups_option_t &option : change.set)
+        if (*option.value)
+            options.set(option.name, option.value);
+        else if (change.isNeededEmpty(option.name))
+            options.set(option.name, OptionsMerge::storedEmpty);
+        else
+            options.remove(option.name);
+    return options;
+}
+
+// What a new line may hold: it outlives being rewritten by libcups, and does not describe the printer.
+OptionArray cleaned(const OptionArray &options, const OptionsMerge::Change &change)
+{
+    OptionArray clean;
+    for (const cups_option_t &option : options) {
+        if (isPrinterAttribute(option))
+            continue;
+        if (*option.value)
+            clean.set(option.name, option.value);
+        else if (change.isNeededEmpty(option.name))
+            clean.set(option.name, OptionsMerge::storedEmpty);
+    }
+    return clean;
+}
+
+// The text of a file, and where the destinations' lines are in it.
+class Lines
+{
+public:
+    bool read(const QByteArray &content, const OptionsSyntax::Reader &reader)
+    {
+        if (content.startsWith("\x1f\x8b")) { // compressed, which libcups reads but never writes
+            errno = EINVAL;
+            return false;
+        }
+        const auto found = OptionsSyntax::readEntries(content, reader);
+        if (!found)
+            return false;
+        pieces = OptionsSyntax::pieces(content);
+        for (const OptionsSyntax::Entry &entry : *found) {
+            if (entry.number > pieces.size() || pieces.at(entry.number - 1).continues)
+                continue;
+            entries[keyOf(entry.name, entry.instance)].append(entry);
+            hasDefault = hasDefault || entry.isDefault;
+        }
+        return true;
+    }
+
+    QList<OptionsSyntax::Entry> entriesOf(const OptionsMerge::Change &change) const
+    {
+        return entries.value(keyOf(change.name, change.instance));
+    }
+
+    // Puts a line in the place of the first of the entries, and nothing in that of the others. Without entries it stands
+    // last.
+    void replace(const QList<OptionsSyntax::Entry> &earlier, const QByteArray &line)
+    {
+        for (const OptionsSyntax::Entry &entry : earlier) {
+            int i = entry.number - 1;
+            pieces[i].text = QByteArray();
+            while (++i < pieces.size() && pieces.at(i).continues)
+                pieces[i].text = QByteArray();
+        }
+        if (line.isEmpty())
+            return;
+        if (!earlier.isEmpty()) {
+            pieces[earlier.first().number - 1].text = line + '\n';
+            return;
+        }
+        if (!pieces.isEmpty() && !pieces.last().text.isEmpty() && !pieces.last().text.endsWith('\n'))
+            pieces.last().text += '\n';
+        pieces.append({line + '\n', false});
+    }
+
+    QByteArray text() const
+    {
+        QByteArray all;
+        for (const OptionsSyntax::Piece &piece : pieces)
+            all += piece.text;
+        return all;
+    }
+
+    bool hasDefault = false;
+
+private:
+    QList<OptionsSyntax::Piece> pieces;
+    QHash<QByteArray, QList<OptionsSyntax::Entry>> entries;
+};
+
+} // namespace
+
+QByteArray OptionsMerge::snapshot(const cups_dest_t &dest)
+{
+    QByteArray all;
+    for (int i = 0; i < dest.num_options; ++i) {
+        const cups_option_t &option = dest.options[i];
+        all.append(option.name, static_cast<int>(qstrlen(option.name)) + 1);
+        all.append(option.value, static_cast<int>(qstrlen(option.value)) + 1);
+    }
+    return all;
+}
+
+OptionsMerge::Change OptionsMerge::changeSince(const QByteArray &earlier, const cups_dest_t &dest)
+{
+    Change change;
+    if (snapshot(dest) == earlier)
+        return change;
+    change.name = dest.name;
+    change.instance = dest.instance;
+    change.isDefault = dest.is_default != 0;
+    const OptionArray before = fromSnapshot(earlier);
+    const OptionArray now(dest);
+    for (const cups_option_t &option : now)
+        if (!before.has(option.name, option.value) && !isPrinterAttribute(option))
+            change.set.set(option.name, option.value);
+    for (const cups_option_t &option : before)
+        if (!now.value(option.name))
+            change.removed.append(option.name);
+    return change;
+}
+
+OptionsMerge::Result OptionsMerge::merge(const QByteArray &content, const std::vector<Change> &changes,
+                                         const OptionsSyntax::Reader &reader)
+{
+    Result result;
+    Lines lines;
+    if (!lines.read(content, reader)) {
+        result.isReadable = false;
+        return result;
+    }
+    for (const Change &change : changes) {
+        const QList<OptionsSyntax::Entry> earlier = lines.entriesOf(change);
+        OptionArray options;
+        OptionsSyntax::Entry head;
+        head.name = change.name;
+        head.instance = change.instance;
+        for (const OptionsSyntax::Entry &entry : earlier) {
+            options.parse(entry.options.constData());
+            head.isDefault = head.isDefault || entry.isDefault;
+        }
+        const OptionArray wanted = changed(options, change);
+        if (wanted == options)
+            continue;
+        Written written{&change, cleaned(wanted, change)};
+
+        // A line "Dest" for the server's default printer would take that away from it, in all programs.
+        if (earlier.isEmpty() && change.isDefault && !lines.hasDefault)
+            head.isDefault = lines.hasDefault = true;
+        // Without options there is no line, unless it is what makes the default or the instance.
+        const bool isKept = head.isDefault || !head.instance.isEmpty();
+        QByteArray line;
+        if (written.options.size() > 0 || isKept) {
+            line = OptionsSyntax::compose(head, written.options, reader);
+            if (line.isEmpty()) {
+                result.impossible = &change;
+                return result;
+            }
+        }
+        lines.replace(earlier, line);
+        result.written.push_back(std::move(written));
+    }
+    result.content = lines.text();
+    return result;
+}

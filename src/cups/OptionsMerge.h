@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef OPTIONSMERGE_H
+#define OPTIONSMERGE_H
+
+#include "cups/OptionArray.h"
+#include "cups/OptionsSyntax.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <functional>
+#include <vector>
+
+/** Brings what one object has changed into the text of the options file, as it is by then. */
+namespace OptionsMerge {
+
+/** A destination's options at one moment, to compare with later. */
+QByteArray snapshot(const cups_dest_t &dest);
+
+/** What was changed of one destination. */
+struct Change
+{
+    QByteArray name;
+    QByteArray instance; ///< empty for the queue itself
+    bool isDefault = false; ///< for a new line: whether it is the default printer
+    OptionArray set;
+    QList<QByteArray> removed;
+
+    /**
+     * Whether an option has to be overridden by an empty value, which is then stored as one blank, because other programs
+     * turn an empty one into "true". An option for which it is false is left out instead.
+     */
+    std::function<bool(const char *)> isNeededEmpty;
+
+    bool isEmpty() const { return set.size() == 0 && removed.isEmpty(); }
+};
+
+/** What was changed since the snapshot. Options that describe the printer (its state, its place, ...) are left out. */
+Change changeSince(const QByteArray &snapshot, const cups_dest_t &dest);
+
+/** How an empty value is stored where it is needed. */
+constexpr char storedEmpty[] = " ";
+
+/** A destination whose line is a new one. */
+struct Written
+{
+    const Change *change = nullptr;
+    OptionArray options; ///< all in its line
+};
+
+struct Result
+{
+    QByteArray content;
+    std::vector<Written> written;
+    const Change *impossible = nullptr; ///< whose line no program could read back
+    bool isReadable = true; ///< false: the text could not be read at all; the reason is in errno
+};
+
+/** Lines of destinations that were not changed stay as they are, byte for byte. */
+Result merge(const QByteArray &content, const std::vector<Change> &changes, const OptionsSyntax::Reader &reader);
+
+} // namespace OptionsMerge
+
+#endif

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "cups/OptionsPlace.h"
+
+#include <QtGlobal>
+
+#include <cups/cups.h>
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstring>
+#include <tuple>
+
+namespace {
+
+// A host may have put its own name there, for this thread, so its text is set aside meanwhile.
+QByteArray libcupsName()
+{
+    const QByteArray hostText = cupsUserAgent();
+    cupsSetUserAgent(nullptr);
+    QByteArray name = cupsUserAgent();
+    if (hostText != name)
+        cupsSetUserAgent(hostText.constData());
+    return name;
+}
+
+} // namespace
+
+OptionsPlace::Circumstances OptionsPlace::fromVersion(const QByteArray &name)
+{
+    Circumstances circumstances;
+    std::sscanf(name.constData(), "CUPS/%d.%d.%d", &circumstances.major, &circumstances.minor, &circumstances.patch);
+    return circumstances;
+}
+
+OptionsPlace::Circumstances OptionsPlace::current()
+{
+    static const QByteArray name = libcupsName();
+    Circumstances circumstances = fromVersion(name);
+    circumstances.isRoot = getuid() == 0;
+    circumstances.environment = [](const char *variable) { return qgetenv(variable); };
+    circumstances.exists = [](const QByteArray &path) { return access(path.constData(), F_OK) == 0; };
+    if (const passwd *user = getpwuid(getuid()))
+        circumstances.homeOfUser = user->pw_dir;
+    return circumstances;
+}
+
+QByteArray OptionsPlace::home(const Circumstances &circumstances)
+{
+    const QByteArray home = circumstances.environment("HOME");
+    return home.isNull() ? circumstances.homeOfUser : home;
+}
+
+OptionsPlace::Place OptionsPlace::find(const Circumstances &c)
+{
+    const auto version = std::make_tuple(c.major, c.minor, c.patch);
+    const bool rootHasTheSystems = version >= std::make_tuple(2, 4, 10);
+    const bool followsDesktop = version >= std::make_tuple(2, 5, 0);
+
+    if (c.isRoot && rootHasTheSystems) {
+        for (const char *variable : {"CUPS_SYSCONFIG", "CUPS_SERVERROOT"}) {
+            const bool isKnown = followsDesktop || std::strcmp(variable, "CUPS_SERVERROOT") == 0;
+            if (const QByteArray folder = c.environment(variable); isKnown && !folder.isNull())
+                return {folder, true};
+        }
+        return {"/etc/cups", true};
+    }
+
+    const QByteArray traditional = home(c) + "/.cups";
+    if (!followsDesktop)
+        return {traditional, false};
+    if (const QByteArray folder = c.environment("CUPS_USERCONFIG"); !folder.isNull())
+        return {folder, false};
+    for (const char *variable : {"SNAP_COMMON", "XDG_CONFIG_HOME"})
+        if (const QByteArray folder = c.environment(variable); !folder.isNull())
+            return {folder + "/cups", false};
+    return {c.exists(traditional) ? traditional : home(c) + "/.config/cups", false};
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef OPTIONSPLACE_H
+#define OPTIONSPLACE_H
+
+#include <QByteArray>
+
+#include <functional>
+
+/** Where libcups keeps the options file, which depends on its version. All paths are as the system has them, in bytes. */
+namespace OptionsPlace {
+
+/** What decides about the place. */
+struct Circumstances
+{
+    int major = 0; ///< the version of libcups
+    int minor = 0;
+    int patch = 0;
+    bool isRoot = false;
+    std::function<QByteArray(const char *)> environment; ///< null for a variable that is not set
+    std::function<bool(const QByteArray &)> exists; ///< whether there is something at a path
+    QByteArray homeOfUser; ///< from the user database, for a process without HOME
+};
+
+/** Only the version, from the name that libcups gives itself: "CUPS/2.4.2 (Linux ...)". */
+Circumstances fromVersion(const QByteArray &name);
+
+/** Those of this process, with the libcups that runs, which need not be the one it was built with. */
+Circumstances current();
+
+struct Place
+{
+    QByteArray folder;
+    bool isSystemWide = false; ///< the file applies to all users
+
+    QByteArray file() const { return folder + "/lpoptions"; }
+};
+
+Place find(const Circumstances &circumstances);
+
+/** The user's home folder. */
+QByteArray home(const Circumstances &circumstances);
+
+} // namespace OptionsPlace
+
+#endif

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef USERFILE_H
+#define USERFILE_H
+
+#include <QByteArray>
+
+#include <sys/stat.h>
+
+/** A file that is read as a whole and replaced as a whole. Its path is of bytes, which need not be text in any encoding. */
+class UserFile
+{
+public:
+    enum class Links {
+        Follow, ///< a link in the file's place stays, and what it leads to is replaced
+        Keep, ///< a link in the file's place is no file
+        Replace ///< a link, or whatever else is no file, gives way
+    };
+
+    UserFile(const QByteArray &path, Links links);
+    ~UserFile();
+
+    UserFile(const UserFile &) = delete;
+    UserFile &operator=(const UserFile &) = delete;
+
+    /**
+     * Reads the file; one that does not exist is empty. @return false when it cannot be read or is no regular file. The
+     * reason is in errno.
+     */
+    bool read(QByteArray &content);
+
+    bool isThere() const { return exists; } ///< whether read() found one
+
+    enum class Result {
+        Replaced,
+        Changed, ///< somebody else has written in between; nothing was done
+        Failed ///< the file is as it was; the reason is in errno
+    };
+
+    /**
+     * Replaces the file in one step, provided that it still holds what read() found. Keeps its mode, owner and access
+     * control list; a new file gets @p newMode, or the usual mode for 0, and belongs to whom the folder belongs if the
+     * superuser writes it. Where the folder cannot be written but the file can, it is written in place.
+     */
+    Result replace(const QByteArray &content, mode_t newMode = 0);
+
+    bool remove();
+
+    /**
+     * Makes a folder and those above it, each with mode 0700 and of the same owner as the folder that it is made in.
+     */
+    static bool makeFolder(const QByteArray &path);
+
+private:
+    QByteArray pathWithoutLinks() const;
+    bool isStillTheSame() const;
+    bool canReplace() const;
+    bool writeInPlace(const QByteArray &content) const;
+
+    QByteArray folder;
+    QByteArray name;
+    int folderFd = -1;
+    bool exists = false;
+    struct stat earlier = {};
+    QByteArray earlierContent;
+};
+
+#endif
