@@ -5,16 +5,108 @@
 
 #include "cups/Scheduler.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <cups/cups.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <memory>
+#include <thread>
 #include <vector>
 
 namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+// How often the scheduler is asked whether it has reached a printer.
+constexpr auto pauseBetweenQuestions = 200ms;
+
+const char *optionOf(const cups_dest_t &dest, const char *keyword)
+{
+    return cupsGetOption(keyword, dest.num_options, dest.options);
+}
+
+// The queue that the scheduler makes for a printer that was discovered on the network and has none.
+class LocalQueue
+{
+public:
+    explicit LocalQueue(const cups_dest_t &dest)
+        : name(dest.name)
+        , description(optionOf(dest, "printer-info"))
+        , device(optionOf(dest, "device-uri"))
+    {
+    }
+
+    void create(http_t *http)
+    {
+        ipp_t *request = newRequest(IPP_OP_CUPS_CREATE_LOCAL_PRINTER, "ipp://localhost/");
+        ippAddString(request, IPP_TAG_PRINTER, IPP_TAG_URI, "device-uri", nullptr, device.constData());
+        ippAddString(request, IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr, name.constData());
+        if (!description.isNull())
+            ippAddString(request, IPP_TAG_PRINTER, IPP_TAG_TEXT, "printer-info", nullptr, description.constData());
+        ask(http, request);
+    }
+
+    void look(http_t *http) { ask(http, newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, uri.constData())); }
+
+    bool exists() const { return !uri.isEmpty(); }
+    bool hasReachedPrinter() const { return state == IPP_PSTATE_IDLE || state == IPP_PSTATE_PROCESSING; }
+
+    QByteArray uri;
+
+private:
+    static ipp_t *newRequest(ipp_op_t operation, const char *printer)
+    {
+        ipp_t *request = ippNewRequest(operation);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, printer);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+        return request;
+    }
+
+    void ask(http_t *http, ipp_t *request)
+    {
+        ipp_t *answer = cupsDoRequest(http, request, "/");
+        if (ipp_attribute_t *found = ippFindAttribute(answer, "printer-uri-supported", IPP_TAG_URI))
+            uri = ippGetString(found, 0, nullptr);
+        if (ipp_attribute_t *found = ippFindAttribute(answer, "printer-state", IPP_TAG_ENUM))
+            state = ippGetInteger(found, 0);
+        ippDelete(answer);
+    }
+
+    const QByteArray name;
+    const QByteArray description;
+    const QByteArray device;
+    int state = IPP_PSTATE_STOPPED;
+};
+
+QString cannotBeReached(const cups_dest_t &dest)
+{
+    const char *description = optionOf(dest, "printer-info");
+    return QCoreApplication::translate("CupsSupport", "The printer \"%1\" cannot be reached.")
+        .arg(QString::fromUtf8(description ? description : dest.name));
+}
+
+// Has a queue made for the printer, and returns its URI; null on failure, above all when the scheduler does not reach the
+// printer in time. libcups does the same, and waits for more than a minute.
+QByteArray makeQueue(const cups_dest_t &dest)
+{
+    const Clock::time_point end = Clock::now() + Scheduler::currentLimits().toReachPrinter;
+    const auto queue = std::make_shared<LocalQueue>(dest);
+    bool isAnswered = Scheduler::ask([queue](http_t *http) { queue->create(http); }) && queue->exists();
+    while (isAnswered && !queue->hasReachedPrinter()) {
+        if (Clock::now() >= end) {
+            Scheduler::setLastError(cannotBeReached(dest));
+            return QByteArray();
+        }
+        std::this_thread::sleep_for(pauseBetweenQuestions);
+        isAnswered = Scheduler::ask([queue](http_t *http) { queue->look(http); });
+    }
+    return isAnswered ? queue->uri : QByteArray();
+}
 
 // All that submitting a job needs, so that it does not matter what becomes of the destination meanwhile.
 class Job
@@ -43,6 +135,12 @@ public:
     Job &operator=(const Job &) = delete;
 
     qint64 size() const { return bytes; }
+
+    // Where libcups finds the queue of a printer that had none.
+    void setQueue(const QByteArray &uri)
+    {
+        dest->num_options = cupsAddOption("printer-uri-supported", uri.constData(), dest->num_options, &dest->options);
+    }
 
     // The number of the job, 0 when it was not submitted.
     int jobNumber() const { return isSubmitted ? number : 0; }
@@ -119,6 +217,12 @@ int PrintJob::submit(const cups_dest_t &dest, const QStringList &fileNames, cons
                      const QStringList &options)
 {
     const auto job = std::make_shared<Job>(dest, fileNames, title, options);
+    if (!optionOf(dest, "printer-uri-supported") && optionOf(dest, "device-uri")) {
+        const QByteArray queue = makeQueue(dest);
+        if (queue.isNull())
+            return 0;
+        job->setQueue(queue);
+    }
     if (!Scheduler::askToPrint([job](http_t *http) { job->submit(http); }, job->size()))
         return 0;
     if (!job->failure().isNull())

@@ -416,6 +416,11 @@ void Scheduler::callWithScheduler(const std::function<void()> &function)
     callOnThread(prepare, function);
 }
 
+Limits Scheduler::currentLimits()
+{
+    return limits;
+}
+
 void Scheduler::setLimits(const Limits &newLimits)
 {
     limits = newLimits;

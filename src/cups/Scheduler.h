@@ -32,6 +32,7 @@ struct Limits
 {
     Milliseconds withoutProgress{5000}; ///< not a byte; also, for how long it is then left alone
     Milliseconds altogether{15000}; ///< all requests of one action of the user
+    Milliseconds toReachPrinter{9000}; ///< until it knows a printer that was discovered on the network
 };
 
 /**
@@ -75,6 +76,9 @@ void callWithoutScheduler(const std::function<void()> &function);
  * only when the scheduler has just answered.
  */
 void callWithScheduler(const std::function<void()> &function);
+
+/** The limits that apply. */
+Limits currentLimits();
 
 /** For tests, which cannot wait that long. */
 void setLimits(const Limits &limits);
