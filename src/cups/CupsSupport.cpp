@@ -20,8 +20,10 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <string>
 #include <utility>
+#include <vector>
 
 // The PPD interface is deprecated as a whole; label printers have nothing else yet.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -296,6 +298,78 @@ int CupsSupport::setDests()
     for (int i = 0; i < destCount; ++i)
         d->stored[static_cast<std::size_t>(i)] = OptionsMerge::snapshot(dests[i]);
     return 0;
+}
+
+namespace {
+
+// What one printer's part of an answer says of its state, by the names of the options that hold it in a destination.
+struct PrinterState
+{
+    QByteArray printer;
+    QByteArray state;
+    QByteArray reasons;
+};
+
+std::vector<PrinterState> fetchPrinterStates()
+{
+    std::vector<PrinterState> states;
+    const auto answer = std::make_shared<std::unique_ptr<ipp_t, decltype(&ippDelete)>>(nullptr, &ippDelete);
+    const bool isAnswered = Scheduler::ask([answer](http_t *http) {
+        static const char *const wanted[] = {"printer-name", "printer-state", "printer-state-reasons"};
+        ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
+        ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                      static_cast<int>(std::size(wanted)), nullptr, wanted);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+        answer->reset(cupsDoRequest(http, request, "/"));
+    });
+    if (!isAnswered)
+        return states;
+    bool isNewPrinter = true;
+    for (ipp_attribute_t *a = ippFirstAttribute(answer->get()); a; a = ippNextAttribute(answer->get())) {
+        if (ippGetGroupTag(a) != IPP_TAG_PRINTER) { // a separator without a name stands between two printers
+            isNewPrinter = true;
+            continue;
+        }
+        if (isNewPrinter)
+            states.emplace_back();
+        isNewPrinter = false;
+        const QByteArray name = ippGetName(a);
+        if (name == "printer-name")
+            states.back().printer = ippGetString(a, 0, nullptr);
+        else if (name == "printer-state")
+            states.back().state = QByteArray::number(ippGetInteger(a, 0));
+        else if (name == "printer-state-reasons")
+            for (int i = 0; i < ippGetCount(a); ++i)
+                states.back().reasons += (i ? "," : "") + QByteArray(ippGetString(a, i, nullptr));
+    }
+    return states;
+}
+
+} // namespace
+
+bool CupsSupport::updatePrinterStates()
+{
+    const std::vector<PrinterState> states = fetchPrinterStates();
+    for (const PrinterState &now : states) {
+        for (int i = 0; i < destCount; ++i) {
+            cups_dest_t &dest = dests[i];
+            if (now.printer != dest.name)
+                continue;
+            for (const auto &[name, value] :
+                 {std::pair("printer-state", now.state), std::pair("printer-state-reasons", now.reasons)})
+                if (!value.isEmpty())
+                    dest.num_options = cupsAddOption(name, value.constData(), dest.num_options, &dest.options);
+        }
+    }
+    return !states.empty();
+}
+
+bool CupsSupport::callWithScheduler(const std::function<void()> &function)
+{
+    if (Scheduler::isLeftAlone())
+        return false;
+    Scheduler::callWithScheduler(function);
+    return true;
 }
 
 const char *CupsSupport::getCupsError()
@@ -771,7 +845,7 @@ int CupsSupport::printFile(const QString &fileName, const QString &printerDescri
 {
     int index = -1;
     if (!printerDescription.isEmpty())
-        index = printerForSelectOption("printer-info", printerDescription.toLocal8Bit().constData());
+        index = printerForSelectOption("printer-info", printerDescription.toUtf8().constData());
     const cups_dest_t *dest = index < 0 ? currentDest() : dests + index;
     if (!dest)
         return 0;

@@ -12,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 // The libcups records that this interface passes by pointer; include <cups/cups.h> and <cups/ppd.h> to look inside.
@@ -146,6 +147,23 @@ public:
      *         getCupsError() says why.
      */
     int setDests();
+
+    /**
+     * Asks the scheduler how all printers are now, with one request: "printer-state" and "printer-state-reasons" are up to
+     * date afterwards. Everything else stays as it is, unsaved settings included.
+     *
+     * @return false when the scheduler did not answer; the states then stay as they were.
+     */
+    bool updatePrinterStates();
+
+    /**
+     * Calls @p function, which has Qt ask the scheduler, as QPrinter::setPrinterName() does, and waits for it. It runs on
+     * a thread on which Qt gets the password that the user has entered. Qt waits without a limit: where the scheduler
+     * has just left a request unanswered, @p function is not called.
+     *
+     * @return whether it was called.
+     */
+    static bool callWithScheduler(const std::function<void()> &function);
 
     /**
      * Why the last saving failed, or else what libcups says of the last failure in this thread, as a text for the user.
@@ -371,7 +389,8 @@ public:
      * Prints a file with the saved options of the destination, overridden for this job by @p list.
      *
      * @param fileName the file to print, in any format that the queue accepts.
-     * @param printerDescription the "printer-info" of the destination; empty or unknown means the current printer.
+     * @param printerDescription the "printer-info" of the destination, in any language; empty or unknown means the current
+     *        printer.
      * @param title the job's title; empty means the file name. Characters outside Latin-1 become "?".
      * @param list an option list.
      * @return the job number, 0 on failure (see getCupsError()).
