@@ -15,7 +15,6 @@
 #include <QPdfWriter>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QTemporaryFile>
 
 LabelWindow::LabelWindow(QWidget *parent)
@@ -46,12 +45,10 @@ void LabelWindow::print()
     if (dialog.exec2(properties) != QDialog::Accepted)
         return;
 
-    // PrintDialog::numCopies() belongs to the short form of the dialog. The full form has its own box.
-    const int copies = dialog.findChild<QSpinBox *>(QStringLiteral("numCopies_2"))->value();
     if (dialog.printToFile())
         saveAsFile();
     else
-        sendToPrinter(copies);
+        sendToPrinter(dialog.copies());
 }
 
 void LabelWindow::chooseOffset()

@@ -4,20 +4,26 @@
 #include "printdialog/PrintDialog.h"
 
 #include "cups/CupsSupport.h"
-#include "cups/Scheduler.h"
+#include "properties/FormButtons.h"
 #include "properties/FormRoom.h"
+#include "properties/PrinterProperties.h"
 #include "ui_PrintDialog.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QIcon>
+#include <QList>
+#include <QLocale>
 #include <QMessageBox>
+#include <QPageLayout>
 #include <QPixmapCache>
 #include <QPrinter>
+#include <QShowEvent>
 #include <QStyle>
 
 #include <algorithm>
 #include <initializer_list>
+#include <optional>
 
 namespace {
 
@@ -65,7 +71,7 @@ QString statusText(const CupsSupport &cups, int index)
     return state + QLatin1String(": ") + reasons;
 }
 
-// Shows a text of the scheduler, which is never rich text. What the fixed width cuts off is in the tool tip.
+// Shows a text of the scheduler, which is never rich text. What there is no room for is in the tool tip.
 void showText(QLabel *label, const QString &text)
 {
     label->setTextFormat(Qt::PlainText);
@@ -92,76 +98,164 @@ void showStyleIcon(QAbstractButton *button, QStyle::StandardPixmap icon)
     button->setIcon(QIcon(pixmap));
 }
 
+// What of a QPrinter depends on its queue.
+class PrinterState
+{
+public:
+    explicit PrinterState(const QPrinter &printer)
+        : name(printer.printerName())
+        , format(printer.outputFormat())
+        , layout(printer.pageLayout())
+        , options(PrinterProperties::options(printer))
+    {
+    }
+
+    void restore(QPrinter *printer) const
+    {
+        if (format == QPrinter::PdfFormat)
+            printer->setOutputFormat(format);
+        else
+            printer->setPrinterName(name);
+        printer->setPageLayout(layout);
+        PrinterProperties::setOptions(*printer, options);
+    }
+
+private:
+    QString name;
+    QPrinter::OutputFormat format;
+    QPageLayout layout;
+    QVariant options;
+};
+
+struct PrinterItem
+{
+    QString queue; // by which it is known: two may have the same description
+    QString name;
+    QString type;
+    QString status;
+    QString location;
+};
+
+// What the scheduler said of each destination when they were fetched.
+QList<PrinterItem> readPrinters(const CupsSupport &cups)
+{
+    QList<PrinterItem> items;
+    for (int index = 0; index < cups.getDestCount(); ++index) {
+        PrinterItem item;
+        item.queue = cups.getQueueName(index);
+        item.name = QString::fromUtf8(cups.getValue("printer-info", index));
+        item.type = QString::fromLatin1(cups.getValue("printer-make-and-model", index)); // hosts compare plain bytes
+        item.status = statusText(cups, index);
+        item.location = QString::fromUtf8(cups.getValue("printer-location", index));
+        items.append(item);
+    }
+    return items;
+}
+
 } // namespace
+
+struct PrintDialog::Private
+{
+    Private(PrintDialog *dialog, QPrinter *hostPrinter, CupsSupport *cupsSupport)
+        : q(dialog)
+        , printer(hostPrinter)
+        , cups(cupsSupport)
+    {
+    }
+
+    bool isShortForm() const { return ui.stackedWidget->currentWidget() == ui.page_Simple; }
+    PrinterItem shownPrinter() const { return printers.value(ui.cboPrinterName->currentIndex()); }
+
+    void setUp(QWidget *page, QPushButton *yesButton, QPushButton *noButton);
+    void makeRoom();
+    void makeRoomInShortForm();
+    void makeRoomInFullForm();
+    int widestText() const;
+
+    void fill();
+    void showPrinterTexts(const PrinterItem &item);
+    void updateStatus();
+    bool listIsCurrent() const;
+    void useDefault();
+
+    bool turnToShownPrinter();
+    void turnBack();
+    void stayHere();
+
+    PrintDialog *const q;
+    Ui_PrintDialog ui;
+    QPrinter *const printer;
+    CupsSupport *const cups;
+    int savedCopies = 1; // of the full form, while "Print to file" is ticked
+    QList<PrinterItem> printers; // by destination index
+    QString initialQueue; // the current one when the form was filled; empty without any
+    QString queueBeforeDefault; // in the printer list, while "Use Default" is ticked
+    bool currentMoved = false; // the current printer of the CupsSupport may be another one than initialQueue
+    std::optional<PrinterState> printerBefore; // the QPrinter has been turned to another queue
+    bool questionIsHosts = false; // not the form's, and so not to be retranslated
+};
 
 PrintDialog::PrintDialog(QWidget *parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint)
-    , ui(new Ui_PrintDialog)
+    , d(std::make_unique<Private>(this, nullptr, nullptr))
 {
-    ui->setupUi(this);
-    ui->stackedWidget->setCurrentWidget(ui->page_Simple);
-    showStyleIcon(ui->yesButton, QStyle::SP_DialogYesButton);
-    showStyleIcon(ui->noButton, QStyle::SP_DialogNoButton);
-    ui->yesButton->setDefault(true); // else Qt would give Enter to Properties
-    ui->numCopies->setRange(1, maximumCopies);
+    d->ui.setupUi(this);
+    d->setUp(d->ui.page_Simple, d->ui.yesButton, d->ui.noButton);
+    d->ui.numCopies->setRange(1, maximumCopies);
     setNumCopies(1);
-    makeRoom();
+    d->makeRoom();
 }
 
-PrintDialog::PrintDialog(QWidget *parent, QPrinter *hostPrinter, CupsSupport *cupsSupport)
+PrintDialog::PrintDialog(QWidget *parent, QPrinter *printer, CupsSupport *cups)
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint)
-    , ui(new Ui_PrintDialog)
-    , printer(hostPrinter)
-    , cups(cupsSupport)
+    , d(std::make_unique<Private>(this, printer, cups))
 {
-    ui->setupUi(this);
-    ui->stackedWidget->setCurrentWidget(ui->page_SelectPrinter);
-    showStyleIcon(ui->yesButton_2, QStyle::SP_DialogYesButton);
-    showStyleIcon(ui->noButton_2, QStyle::SP_DialogNoButton);
-    ui->yesButton_2->setDefault(true);
+    d->ui.setupUi(this);
+    d->setUp(d->ui.page_SelectPrinter, d->ui.yesButton_2, d->ui.noButton_2);
     // The box that this form shows is numCopies_2, and its minimum lifts it to 1. numCopies() and setNumCopies() are
     // about the other form's box here as well: hosts count on setNumCopies() not touching what the user sees.
-    ui->numCopies_2->setRange(1, maximumCopies);
+    d->ui.numCopies_2->setRange(1, maximumCopies);
     setNumCopies(1);
-    ui->cboPrinterName->setEditable(false);
+    d->ui.cboPrinterName->setEditable(false);
     updateForm();
-    makeRoom();
-    connect(ui->chkPrintToFile, &QCheckBox::clicked, this, &PrintDialog::chk_printToFile_changed_state);
-    connect(ui->chkDefaultPrinter, &QCheckBox::clicked, this, &PrintDialog::chk_chkDefaultPrinter_changed_state);
-    connect(ui->cboPrinterName, qOverload<int>(&QComboBox::currentIndexChanged), this,
+    connect(d->ui.chkPrintToFile, &QCheckBox::clicked, this, &PrintDialog::chk_printToFile_changed_state);
+    connect(d->ui.chkDefaultPrinter, &QCheckBox::clicked, this, &PrintDialog::chk_chkDefaultPrinter_changed_state);
+    connect(d->ui.cboPrinterName, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &PrintDialog::cbo_Printers_change);
 }
 
-PrintDialog::~PrintDialog()
-{
-    delete ui;
-}
+PrintDialog::~PrintDialog() = default;
 
 void PrintDialog::setText(const QString &text)
 {
-    questionIsHosts = true;
-    ui->textLabel->setText(text);
+    d->questionIsHosts = true;
+    d->ui.textLabel->setText(text);
 }
 
 void PrintDialog::setPrintToFileEnabled(bool enabled)
 {
     // The negation is what hosts rely on.
-    ui->chkPrintToFile->setEnabled(!enabled);
+    d->ui.chkPrintToFile->setEnabled(!enabled);
 }
 
 bool PrintDialog::printToFile() const
 {
-    return ui->chkPrintToFile->isChecked();
+    return d->ui.chkPrintToFile->isChecked();
+}
+
+int PrintDialog::copies() const
+{
+    return d->isShortForm() ? d->ui.numCopies->value() : d->ui.numCopies_2->value();
 }
 
 int PrintDialog::numCopies() const
 {
-    return ui->numCopies->value();
+    return d->ui.numCopies->value();
 }
 
 void PrintDialog::setNumCopies(int copies)
 {
-    ui->numCopies->setValue(copies);
+    d->ui.numCopies->setValue(copies);
 }
 
 int PrintDialog::exec2(QDialog &propertiesDialog)
@@ -176,56 +270,48 @@ int PrintDialog::exec2(QDialog &propertiesDialog)
 
 void PrintDialog::updateForm()
 {
-    ui->chkDefaultPrinter->setChecked(false);
-    ui->chkPrintToFile->setChecked(false);
-    ui->chkPrintToFile->setEnabled(true);
-    ui->cboPrinterName->setEnabled(true);
-    ui->numCopies_2->setEnabled(true);
-
-    printers.clear();
-    ui->cboPrinterName->clear();
-    for (const PrinterItem &item : readPrinters()) {
-        printers.append(item);
-        ui->cboPrinterName->addItem(item.name);
-    }
-
-    initialIndex = cups->getCurrentIndex();
-    currentMoved = false;
-    ui->cboPrinterName->setCurrentIndex(initialIndex);
-    updateLabels(initialIndex);
+    d->fill();
+    d->stayHere();
 }
 
 void PrintDialog::updateLabels(int index)
 {
-    if (index < 0 || index >= printers.size())
+    if (index < 0 || index >= d->printers.size())
         return;
-    showPrinterTexts(printers.at(index));
-    ui->cboPrinterName->setEditText(printers.at(index).name);
-    ui->chkPrintToFile->setEnabled(printers.at(index).type == printToFileModel());
+    const PrinterItem &item = d->printers.at(index);
+    d->showPrinterTexts(item);
+    d->ui.cboPrinterName->setEditText(item.name);
+    d->ui.chkPrintToFile->setEnabled(item.type == printToFileModel());
 }
 
 void PrintDialog::reject()
 {
-    restoreCurrentPrinter();
+    d->turnBack();
     QDialog::reject();
+}
+
+void PrintDialog::showEvent(QShowEvent *event)
+{
+    if (!d->isShortForm() && !event->spontaneous())
+        d->updateStatus();
+    QDialog::showEvent(event);
 }
 
 void PrintDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
     if (FormRoom::isChangedBy(*event))
-        makeRoom();
+        d->makeRoom();
     if (event->type() != QEvent::LanguageChange)
         return;
-    const QString question = ui->textLabel->text();
-    ui->retranslateUi(this);
-    if (questionIsHosts)
-        ui->textLabel->setText(question);
+    const QString question = d->ui.textLabel->text();
+    d->ui.retranslateUi(this);
+    if (d->questionIsHosts)
+        d->ui.textLabel->setText(question);
     // The texts alone: whether "Print to file" is enabled may be the host's choice and does not depend on the language.
-    const int index = ui->cboPrinterName->currentIndex();
-    if (index >= 0)
-        showPrinterTexts(printers.at(index));
-    makeRoom();
+    if (d->ui.cboPrinterName->currentIndex() >= 0)
+        d->showPrinterTexts(d->shownPrinter());
+    d->makeRoom();
 }
 
 void PrintDialog::on_propertiesButton_clicked()
@@ -233,149 +319,230 @@ void PrintDialog::on_propertiesButton_clicked()
     done(propertiesWanted);
 }
 
+// The properties are to be those of the printer that the list shows, also before OK.
 void PrintDialog::on_propertiesButton_2_clicked()
 {
-    done(propertiesWanted);
+    if (d->turnToShownPrinter())
+        done(propertiesWanted);
 }
 
 void PrintDialog::on_yesButton_2_clicked()
 {
-    const int index = ui->cboPrinterName->currentIndex();
     // Without any printer there is none to change to either.
-    if (index == initialIndex || index < 0) {
-        restoreCurrentPrinter();
+    if (d->ui.cboPrinterName->currentIndex() < 0 || d->shownPrinter().queue == d->initialQueue) {
+        d->turnBack();
         accept();
         return;
     }
     const QString question =
-        tr("Do you want to change the current printer to \n") + ui->cboPrinterName->currentText() + tr(" ?");
-    if (QMessageBox::warning(this, tr("Printer Change"), question, QMessageBox::Yes | QMessageBox::No)
-        != QMessageBox::Yes) {
+        tr("Do you want to change the current printer to \n") + d->ui.cboPrinterName->currentText() + tr(" ?");
+    QMessageBox box(QMessageBox::Warning, tr("Printer Change"), question, QMessageBox::Yes | QMessageBox::No, this);
+    FormButtons::keepIconsBesideTexts(box);
+    if (box.exec() != QMessageBox::Yes || !d->turnToShownPrinter()) {
         reject();
         return;
     }
-    changePrinter(index);
+    d->stayHere();
+    accept();
 }
 
 void PrintDialog::chk_printToFile_changed_state(bool checked)
 {
     // A file holds the job once: the copies wait until the box is unticked.
-    ui->numCopies_2->setEnabled(!checked);
+    d->ui.numCopies_2->setEnabled(!checked);
     if (checked)
-        savedCopies = ui->numCopies_2->value();
-    ui->numCopies_2->setValue(checked ? 1 : savedCopies);
+        d->savedCopies = d->ui.numCopies_2->value();
+    d->ui.numCopies_2->setValue(checked ? 1 : d->savedCopies);
 }
 
 void PrintDialog::chk_chkDefaultPrinter_changed_state(bool checked)
 {
-    ui->cboPrinterName->setEnabled(!checked);
-    int index = indexBeforeDefault;
+    d->ui.cboPrinterName->setEnabled(!checked);
     if (checked) {
-        indexBeforeDefault = ui->cboPrinterName->currentIndex();
-        index = cups->getDefaultPrinter();
-        currentMoved = true;
-        if (!listIsCurrent()) {
-            startOver();
-            return;
-        }
+        d->queueBeforeDefault = d->shownPrinter().queue;
+        d->useDefault();
+    } else {
+        d->ui.cboPrinterName->setCurrentIndex(d->cups->getQueueIndex(d->queueBeforeDefault));
     }
-    ui->cboPrinterName->setCurrentIndex(index);
-    updateLabels(ui->cboPrinterName->currentIndex());
+    updateLabels(d->ui.cboPrinterName->currentIndex());
 }
 
 void PrintDialog::cbo_Printers_change(int index)
 {
-    if (ui->cboPrinterName->count() > 0)
+    if (d->ui.cboPrinterName->count() > 0)
         updateLabels(index);
 }
 
-// Lets nothing be cut off, also with large fonts and long words; and places it where one begins to read.
-void PrintDialog::makeRoom()
+// ----- the forms -----
+
+void PrintDialog::Private::setUp(QWidget *page, QPushButton *yesButton, QPushButton *noButton)
 {
-    if (ui->stackedWidget->currentWidget() == ui->page_Simple) {
-        if (FormRoom::hasLargeFont(*this))
-            for (QWidget *widget :
-                 std::initializer_list<QWidget *>{ui->numCopies, ui->yesButton, ui->noButton, ui->propertiesButton})
-                widget->setMinimumHeight(std::max(widget->minimumHeight(), widget->sizeHint().height()));
-        FormRoom::freshenSizeHints(*this);
-        setFixedSize(shortFormSize.expandedTo(ui->page_Simple->minimumSizeHint()));
-        return;
-    }
-    ui->gridLayout_4->setColumnMinimumWidth(1, shownCharacters * fontMetrics().averageCharWidth());
-    FormRoom::freshenSizeHints(*this);
-    const QSize needed = ui->gridLayout_8->totalMinimumSize();
-    const int margin = fullFormPlace.left();
-    setFixedSize(fullFormSize.expandedTo(needed + QSize(2 * margin, 2 * margin)));
-    const QRect place(fullFormPlace.topLeft(), fullFormPlace.size().expandedTo(needed));
-    ui->layoutWidget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+    ui.stackedWidget->setCurrentWidget(page);
+    showStyleIcon(yesButton, QStyle::SP_DialogYesButton);
+    showStyleIcon(noButton, QStyle::SP_DialogNoButton);
+    FormButtons::keepIconsBesideTexts(*q);
+    yesButton->setDefault(true); // otherwise Qt would give Enter to Properties
+    // In Arabic and others, the box would have digits of its own beside those of all other numbers.
+    for (QSpinBox *box : {ui.numCopies, ui.numCopies_2})
+        box->setLocale(QLocale::c());
 }
 
-// What the scheduler said of each destination when they were fetched.
-QList<PrintDialog::PrinterItem> PrintDialog::readPrinters() const
+// Lets nothing be cut off, also with large fonts and long words; and places it where one begins to read.
+void PrintDialog::Private::makeRoom()
 {
-    QList<PrinterItem> items;
-    for (int index = 0; index < cups->getDestCount(); ++index) {
-        PrinterItem item;
-        // Latin-1 for the one, UTF-8 for the other: as everywhere else, a description is a text of plain bytes, by
-        // which hosts find its destination again.
-        item.name = QString::fromLatin1(cups->getValue("printer-info", index));
-        item.type = QString::fromLatin1(cups->getValue("printer-make-and-model", index));
-        item.status = statusText(*cups, index);
-        item.location = QString::fromUtf8(cups->getValue("printer-location", index));
-        items.append(item);
+    if (isShortForm())
+        makeRoomInShortForm();
+    else
+        makeRoomInFullForm();
+}
+
+void PrintDialog::Private::makeRoomInShortForm()
+{
+    if (FormRoom::hasLargeFont(*q))
+        for (QWidget *widget :
+             std::initializer_list<QWidget *>{ui.numCopies, ui.yesButton, ui.noButton, ui.propertiesButton})
+            widget->setMinimumHeight(std::max(widget->minimumHeight(), widget->sizeHint().height()));
+    FormRoom::freshenSizeHints(*q);
+    q->setFixedSize(shortFormSize.expandedTo(ui.page_Simple->minimumSizeHint()));
+}
+
+// What the scheduler says of its printers may be longer than the form is wide. It gets the room up to the dialog's edge.
+void PrintDialog::Private::makeRoomInFullForm()
+{
+    const int least = shownCharacters * q->fontMetrics().averageCharWidth();
+    ui.gridLayout_4->setColumnMinimumWidth(1, least);
+    FormRoom::freshenSizeHints(*q);
+    const QSize needed = ui.gridLayout_8->totalMinimumSize();
+    const int margin = fullFormPlace.left();
+    q->setFixedSize(fullFormSize.expandedTo(needed + QSize(2 * margin, 2 * margin)));
+    const int wanted = std::min(needed.width() + std::max(0, widestText() - least), q->width() - 2 * margin);
+    const QRect place(fullFormPlace.topLeft(), fullFormPlace.size().expandedTo(QSize(wanted, needed.height())));
+    ui.layoutWidget->setGeometry(QStyle::visualRect(q->layoutDirection(), q->rect(), place));
+}
+
+// In pixels; of all printers, so that nothing moves when another one is chosen.
+int PrintDialog::Private::widestText() const
+{
+    int width = ui.cboPrinterName->wholeWidth();
+    const QFontMetrics metrics = ui.lblTypeInfo->fontMetrics();
+    for (const PrinterItem &item : printers)
+        for (const QString &text : {item.type, item.status, item.location})
+            width = std::max(width, metrics.horizontalAdvance(text));
+    return width;
+}
+
+void PrintDialog::Private::fill()
+{
+    ui.chkDefaultPrinter->setChecked(false);
+    ui.chkPrintToFile->setChecked(false);
+    ui.chkPrintToFile->setEnabled(true);
+    ui.cboPrinterName->setEnabled(true);
+    ui.numCopies_2->setEnabled(true);
+
+    printers.clear();
+    ui.cboPrinterName->clear();
+    for (const PrinterItem &item : readPrinters(*cups)) {
+        printers.append(item);
+        ui.cboPrinterName->addItem(item.name);
     }
-    return items;
+    ui.cboPrinterName->setCurrentIndex(cups->getCurrentIndex());
+    q->updateLabels(cups->getCurrentIndex());
+    makeRoom();
+}
+
+void PrintDialog::Private::showPrinterTexts(const PrinterItem &item)
+{
+    showText(ui.lblTypeInfo, item.type);
+    showText(ui.lblStatusInfo, item.status);
+    showText(ui.lblLocation, item.location);
+}
+
+// The list may be hours old: the states are fetched again, and nothing else.
+void PrintDialog::Private::updateStatus()
+{
+    if (!cups->updatePrinterStates())
+        return;
+    for (PrinterItem &item : printers) {
+        const int index = cups->getQueueIndex(item.queue);
+        if (index >= 0)
+            item.status = statusText(*cups, index);
+    }
+    if (ui.cboPrinterName->currentIndex() >= 0)
+        showPrinterTexts(shownPrinter());
+    makeRoom();
 }
 
 // Whether the list still shows the destinations that the CupsSupport holds, so that both count them alike.
-bool PrintDialog::listIsCurrent() const
+bool PrintDialog::Private::listIsCurrent() const
 {
-    const QList<PrinterItem> items = readPrinters();
+    const QList<PrinterItem> items = readPrinters(*cups);
     return std::equal(items.begin(), items.end(), printers.begin(), printers.end(),
-                      [](const PrinterItem &one, const PrinterItem &other) { return one.name == other.name; });
+                      [](const PrinterItem &one, const PrinterItem &other) {
+                          return one.queue == other.queue && one.name == other.name;
+                      });
 }
 
-// Fills the form anew because queues came or went. The default printer is then chosen as the user wished, but no index
-// says any more which printer was current before: OK has to ask.
-void PrintDialog::startOver()
-{
-    updateForm();
-    initialIndex = -1;
-}
+// ----- the queue of the CupsSupport and the QPrinter -----
 
-void PrintDialog::showPrinterTexts(const PrinterItem &item)
+// Has the CupsSupport fetch all destinations and go to the default one, and shows it.
+void PrintDialog::Private::useDefault()
 {
-    showText(ui->lblTypeInfo, item.type);
-    showText(ui->lblStatusInfo, item.status);
-    showText(ui->lblLocation, item.location);
-}
-
-// Makes the chosen printer the one where both the CupsSupport and the host's QPrinter print, and accepts.
-void PrintDialog::changePrinter(int index)
-{
-    cups->setCurrentPrinter(index);
-    // Qt would wait for a scheduler that does not answer, without a limit. Kept from it, it would stay with the old printer
-    // and later print there what the user sent elsewhere.
-    if (Scheduler::isLeftAlone()) {
-        cups->setCurrentPrinter(initialIndex);
-        reject();
+    currentMoved = true;
+    cups->getDefaultPrinter();
+    cups->closePpdFile(); // of the queue before
+    if (listIsCurrent()) {
+        ui.cboPrinterName->setCurrentIndex(cups->getCurrentIndex());
         return;
     }
+    // Queues came or went.
+    fill();
+    ui.chkDefaultPrinter->setChecked(true);
+    ui.cboPrinterName->setEnabled(false);
+}
+
+// Has both the CupsSupport and the host's QPrinter print on the printer that the list shows, until turnBack().
+bool PrintDialog::Private::turnToShownPrinter()
+{
+    const QString queue = shownPrinter().queue;
+    if (queue.isEmpty() || queue == initialQueue) {
+        turnBack();
+        return true;
+    }
+    currentMoved = true;
+    cups->setCurrentPrinter(cups->getQueueIndex(queue));
+    if (printer->printerName() == queue)
+        return true;
+    const PrinterState before(*printer);
     // Qt knows printers by the names of their queues and silently stays with the old printer when it is given any other
     // text. The description that the user chose by would therefore do only where it is the queue name as well; where it
     // happens to be the name of another queue, the host's pages would even go there, and an empty one would turn the
     // QPrinter into a PDF writer. The queue name is right in all of these cases.
-    Scheduler::callWithScheduler([this] { printer->setPrinterName(cups->getCurrentQueueName()); });
-    initialIndex = index;
-    currentMoved = false;
-    accept();
+    if (!CupsSupport::callWithScheduler([this, &queue] { printer->setPrinterName(queue); })) {
+        turnBack();
+        return false;
+    }
+    if (!printerBefore)
+        printerBefore = before;
+    PrinterProperties::setOptions(*printer, QStringList()); // those of the queue before
+    return true;
 }
 
-// Undoes what "Use Default" did to the CupsSupport as soon as it was ticked.
-void PrintDialog::restoreCurrentPrinter()
+// Undoes what "Use Default" did to the CupsSupport as soon as it was ticked, and what Properties did to both.
+void PrintDialog::Private::turnBack()
 {
-    if (currentMoved && initialIndex >= 0) {
-        cups->setCurrentPrinter(initialIndex);
-        currentMoved = false;
-    }
+    // Where the queue is gone there is no printer: another one is not to print what the user meant for this one.
+    if (currentMoved && cups->getDestCount() > 0)
+        cups->setCurrentPrinter(cups->getQueueIndex(initialQueue));
+    if (printerBefore)
+        CupsSupport::callWithScheduler([this] { printerBefore->restore(printer); });
+    currentMoved = false;
+    printerBefore.reset();
+}
+
+// Makes the current printer the one that turnBack() goes to.
+void PrintDialog::Private::stayHere()
+{
+    initialQueue = cups->getCurrentQueueName();
+    currentMoved = false;
+    printerBefore.reset();
 }

@@ -7,12 +7,12 @@
 #include <PropertiesDialog/propertiesdialog_export.h>
 
 #include <QDialog>
-#include <QList>
 #include <QString>
+
+#include <memory>
 
 class CupsSupport;
 class QPrinter;
-class Ui_PrintDialog;
 
 /**
  * Asks before a job is printed.
@@ -22,8 +22,8 @@ class Ui_PrintDialog;
  * nothing: after a change of printer was accepted, the CupsSupport and the QPrinter agree on the chosen queue, and the
  * host prints. A rejected dialog leaves both as they were.
  *
- * exec() returns 1 when accepted, 0 when rejected and -1 when the user asked for the printer's properties; exec2()
- * takes care of the latter.
+ * exec() returns 1 when accepted, 0 when rejected and -1 when the user asked for the properties of the printer that the
+ * list shows; the CupsSupport and the QPrinter then both have that queue for the time being. exec2() takes care of this.
  */
 class PROPERTIESDIALOG_EXPORT PrintDialog : public QDialog
 {
@@ -57,7 +57,14 @@ public:
     bool printToFile() const;
 
     /**
-     * The copies of the short form's box, 1 to 100, whichever form is shown. The full form has a copies box of its own.
+     * The copies that the user asked for, 1 to 100: the number in the box of the form that is shown. 1 while "Print to
+     * file" is ticked.
+     */
+    int copies() const;
+
+    /**
+     * The copies of the short form's box, 1 to 100, whichever form is shown. The full form has a copies box of its own:
+     * copies() is right with both.
      */
     int numCopies() const;
 
@@ -70,21 +77,24 @@ public:
      * Runs this dialog, and as long as it ends with the wish for the properties, @p propertiesDialog and then this one
      * again.
      *
-     * @param propertiesDialog the dialog behind the Properties button. Not owned.
+     * @param propertiesDialog the dialog behind the Properties button. Not owned. A PrintPropertiesDialog with the same
+     *        CupsSupport and QPrinter edits the queue that the list shows.
      * @return 1 when accepted, 0 when rejected.
      */
     int exec2(QDialog &propertiesDialog);
 
-    /** Full form only: fills the printer list anew and selects the current printer. */
+    /** Full form only: fills the printer list anew and selects the current printer, to which Cancel returns from now on. */
     void updateForm();
 
     /** Full form only: shows what is known of the printer at @p index of the list; does nothing when there is none. */
     void updateLabels(int index);
 
-    /** Closes with result 0 and undoes a switch to the default printer. */
+    /** Closes with result 0. The CupsSupport and the QPrinter have the queues again that they had before. */
     void reject() override;
 
 protected:
+    /** Full form only: asks the scheduler for the states of the printers. */
+    void showEvent(QShowEvent *event) override;
     /** Shows the texts anew after a change of language, and makes room for them. */
     void changeEvent(QEvent *event) override;
 
@@ -97,31 +107,9 @@ private Q_SLOTS:
     void cbo_Printers_change(int index);
 
 private:
-    struct PrinterItem
-    {
-        QString name;
-        QString type;
-        QString status;
-        QString location;
-    };
+    struct Q_DECL_HIDDEN Private;
 
-    void makeRoom();
-    QList<PrinterItem> readPrinters() const;
-    bool listIsCurrent() const;
-    void startOver();
-    void showPrinterTexts(const PrinterItem &item);
-    void changePrinter(int index);
-    void restoreCurrentPrinter();
-
-    Ui_PrintDialog *ui;
-    QPrinter *printer = nullptr;
-    CupsSupport *cups = nullptr;
-    int savedCopies = 1; // of the full form, while "Print to file" is ticked
-    QList<PrinterItem> printers; // by destination index
-    int initialIndex = -1; // the destination that was current when the form was filled
-    int indexBeforeDefault = -1; // of the printer list, while "Use Default" is ticked
-    bool currentMoved = false; // "Use Default" has moved the current printer away from initialIndex
-    bool questionIsHosts = false; // not the form's, and so not to be retranslated
+    const std::unique_ptr<Private> d;
 };
 
 #endif

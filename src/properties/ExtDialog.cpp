@@ -4,6 +4,7 @@
 #include "properties/ExtDialog.h"
 
 #include "cups/CupsSupport.h"
+#include "properties/FormButtons.h"
 #include "properties/FormRoom.h"
 #include "ui_ExtDialog.h"
 
@@ -55,6 +56,7 @@ ExtDialog::ExtDialog(QWidget *parent, CupsSupport *cups)
 {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
     d->ui.setupUi(this);
+    FormButtons::keepIconsBesideTexts(*this);
     for (const char *text : offsetTexts)
         d->ui.offset->addItem(tr(text));
     d->makeRoom(*this);

@@ -48,9 +48,19 @@ void PrinterProperties::set(QPrinter &printer, QPageLayout::Orientation orientat
     const QSizeF points = printer.pageLayout().pageSize().size(QPageSize::Point);
     const QString pageSize =
         custom + QStringLiteral(".%1x%2").arg(points.width(), 0, 'f', decimals).arg(points.height(), 0, 'f', decimals);
-    QStringList options = cups->options();
-    std::replace(options.begin(), options.end(), custom, pageSize);
-    setEngineProperty(printer, cupsOptionsProperty, options);
+    QStringList marked = cups->options();
+    std::replace(marked.begin(), marked.end(), custom, pageSize);
+    setOptions(printer, marked);
     setEngineProperty(printer, cupsPageRectProperty, cups->pageRect(pageSize.toLatin1().constData()));
     setEngineProperty(printer, cupsPaperRectProperty, cups->paperRect(pageSize.toLatin1().constData()));
+}
+
+QVariant PrinterProperties::options(const QPrinter &printer)
+{
+    return printer.printEngine()->property(static_cast<QPrintEngine::PrintEnginePropertyKey>(cupsOptionsProperty));
+}
+
+void PrinterProperties::setOptions(QPrinter &printer, const QVariant &options)
+{
+    setEngineProperty(printer, cupsOptionsProperty, options);
 }

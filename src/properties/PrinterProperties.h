@@ -5,11 +5,12 @@
 #define PRINTERPROPERTIES_H
 
 #include <QPageLayout>
+#include <QVariant>
 
 class CupsSupport;
 class QPrinter;
 
-/** What a QPrinter is told when the settings are saved. */
+/** What a QPrinter is told of the settings. */
 namespace PrinterProperties {
 
 /**
@@ -17,6 +18,12 @@ namespace PrinterProperties {
  * of the current printer, and the custom page size with its rectangles.
  */
 void set(QPrinter &printer, QPageLayout::Orientation orientation, const CupsSupport *cups);
+
+/** @name The option list that the print engine sends with each job, whichever queue the job goes to */
+/** @{ */
+QVariant options(const QPrinter &printer);
+void setOptions(QPrinter &printer, const QVariant &options);
+/** @} */
 
 } // namespace PrinterProperties
 

@@ -224,6 +224,21 @@ int dialogWithoutQueues(int &argc, char **argv)
     return dialogWithoutPrinters(argc, argv);
 }
 
+// Prints on the printer that the list shows at the given index, named by what it shows.
+int printByDescription(int &argc, char **argv)
+{
+    const QApplication app(argc, argv);
+    QPrinter printer;
+    CupsSupport cups;
+    const PrintDialog dialog(nullptr, &printer, &cups);
+    QTemporaryFile file;
+    if (!file.open() || file.write("label\n") < 0 || !file.flush())
+        return 1;
+    const QString description = child<QComboBox>(dialog, "cboPrinterName")->itemText(QByteArray(argv[1]).toInt());
+    return cups.printFile(file.fileName(), description, "label", {}) > 0 ? 0 : 1;
+}
+
+const TestMain::ChildFunction byDescription("printByDescription", printByDescription);
 const TestMain::ChildFunction withoutPrinters("dialogWithoutPrinters", dialogWithoutPrinters);
 const TestMain::ChildFunction withoutQueues("dialogWithoutQueues", dialogWithoutQueues);
 
@@ -268,6 +283,7 @@ private Q_SLOTS:
     void printToFileIsEnabledByNegation();
     void printToFileFixesTheCopies();
     void copiesAreThoseOfTheShortForm();
+    void copiesOfTheShownForm();
 
     void useDefaultChoosesTheDefaultPrinter();
     void useDefaultReturnsToTheEarlierChoice();
@@ -285,6 +301,8 @@ private Q_SLOTS:
     void chosenQueueGetsWhatIsPrinted_data();
     void chosenQueueGetsWhatIsPrinted();
     void pdfPrinterIsTurnedToTheQueue();
+    void listedDescriptionFindsItsQueue_data();
+    void listedDescriptionFindsItsQueue();
 
     void propertiesButtonsEndWithMinusOne_data();
     void propertiesButtonsEndWithMinusOne();
@@ -507,14 +525,13 @@ void PrintDialogTest::enterAccepts()
 
 void PrintDialogTest::printersAreListed()
 {
-    // By description, in the order of the destinations. Descriptions are read byte by byte.
-    const QMap<QString, QString> descriptions{
-        {"aisle", "Aisle Printer"}, {"kitchen", "Kitchen Labels"},
-        {"markup", "Markup"},       {"mimic", "aisle"},
-        {"nameless", ""},           {"office", QString::fromLatin1("B\xc3\xbcro")},
-        {"stopped", "Stopped one"}, {"twin1", "Twin"},
-        {"twin1/small", "Twin"},    {"twin2", "Twin"},
-        {"vantry", "Vantry One"},   {"yard", "AISLE"}};
+    // By description, in the order of the destinations.
+    const QMap<QString, QString> descriptions{{"aisle", "Aisle Printer"}, {"kitchen", "Kitchen Labels"},
+                                              {"markup", "Markup"},       {"mimic", "aisle"},
+                                              {"nameless", ""},           {"office", "Büro"},
+                                              {"stopped", "Stopped one"}, {"twin1", "Twin"},
+                                              {"twin1/small", "Twin"},    {"twin2", "Twin"},
+                                              {"vantry", "Vantry One"},   {"yard", "AISLE"}};
     QStringList expected;
     for (const QString &name : destinations())
         expected << descriptions.value(name, name);
@@ -787,6 +804,22 @@ void PrintDialogTest::copiesAreThoseOfTheShortForm()
     QCOMPARE(shown->value(), 5);
 }
 
+// What hosts print, without looking into the form.
+void PrintDialogTest::copiesOfTheShownForm()
+{
+    PrintDialog shortForm(nullptr);
+    child<QSpinBox>(shortForm, "numCopies")->setValue(7);
+    QCOMPARE(shortForm.copies(), 7);
+
+    choose("vantry");
+    QCOMPARE(dialog->copies(), 1);
+    child<QSpinBox>(*dialog, "numCopies_2")->setValue(5);
+    dialog->setNumCopies(9);
+    QCOMPARE(dialog->copies(), 5);
+    click(*dialog, "chkPrintToFile");
+    QCOMPARE(dialog->copies(), 1);
+}
+
 void PrintDialogTest::useDefaultChoosesTheDefaultPrinter()
 {
     makeDialog("kitchen");
@@ -1020,6 +1053,26 @@ void PrintDialogTest::pdfPrinterIsTurnedToTheQueue()
     clickOk(*dialog, QMessageBox::Yes);
     QCOMPARE(printer->outputFormat(), QPrinter::NativeFormat);
     QCOMPARE(printer->printerName(), QString("kitchen"));
+}
+
+void PrintDialogTest::listedDescriptionFindsItsQueue_data()
+{
+    QTest::addColumn<QString>("locale");
+
+    QTest::newRow("UTF-8") << "C.UTF-8";
+    QTest::newRow("ASCII") << "C";
+}
+
+// A host that prints by the text that the user chose by.
+void PrintDialogTest::listedDescriptionFindsItsQueue()
+{
+    QFETCH(QString, locale);
+
+    const int jobsBefore = int(scheduler.jobs(0).size());
+    const TestMain::ChildResult result =
+        TestMain::runChild("printByDescription", {QString::number(indexOf("office"))}, {{"LC_ALL", locale}});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(scheduler.jobs(jobsBefore + 1).last().queue, QString("office"));
 }
 
 void PrintDialogTest::propertiesButtonsEndWithMinusOne_data()

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef ELIDINGCOMBOBOX_H
+#define ELIDINGCOMBOBOX_H
+
+#include <QComboBox>
+
+/**
+ * A list that has an ellipsis in the middle of its current entry where there is no room for all of it: entries that begin
+ * alike can still be told apart, and a tool tip shows the whole of it. The open list is as wide as its entries.
+ */
+class ElidingComboBox : public QComboBox
+{
+public:
+    using QComboBox::QComboBox;
+
+    /** The width at which no entry is cut, in pixels. */
+    int wholeWidth() const;
+
+    void showPopup() override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString shownText(const QStyleOptionComboBox &option) const;
+};
+
+#endif
