@@ -411,7 +411,7 @@ public:
     /** @} */
 
 private:
-    struct Private;
+    struct Q_DECL_HIDDEN Private;
 
     cups_dest_t *currentDest() const;
     void openPpdFile() const;
