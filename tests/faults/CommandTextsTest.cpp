@@ -18,9 +18,9 @@ namespace {
 
 const char *const radios[] = {"jobStartRadioButton", "labelStartRadioButton", "labelEndRadioButton",
                               "jobEndRadioButton"};
-const int slots_ = 4;
+const int commandCount = 4;
 const int queues = 20;
-const int textsPerRound = queues * slots_;
+const int textsPerRound = queues * commandCount;
 
 // libcups reads lines of the options file up to 8191 bytes. The commands leave room for the other settings.
 const int longestCommands = 7000; // bytes of a line for all four
@@ -140,7 +140,7 @@ bool applyTooLong(const QString &queue, QRandomGenerator &random)
     QString text;
     while (text.size() < tooLong)
         text += QChar(random.bounded(0x20, 0x7f));
-    open.button(radios[random.bounded(slots_)])->click();
+    open.button(radios[random.bounded(commandCount)])->click();
     open.widget<QPlainTextEdit>("commandEdit")->setPlainText(text);
     open.button("applyButton")->click();
     return optionsFile() == before;
