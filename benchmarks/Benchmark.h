@@ -112,8 +112,8 @@ double timeToQtDialogs();
 double timeToBareForm();
 
 /**
- * The median of a number that separate processes print. The first opening in a process is slower than later ones because it
- * also loads fonts, style and libraries.
+ * The median of a number that separate processes print. The first opening in a process is slower than later ones
+ * because it also loads fonts, style and libraries.
  *
  * @param function the name of a registered child function that returns printMeasured().
  */

@@ -26,7 +26,8 @@ const char plainPpd[] = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*Language
                         "*DefaultPaperDimension: a\n*PaperDimension a: \"144 288\"\n"
                         "*DefaultImageableArea: a\n*ImageableArea a: \"0 0 144 288\"\n";
 
-// One per family of printers that treats numbers differently. They are kept because creating a dialog is the slowest part.
+// One per family of printers that treats numbers differently. They are kept because creating a dialog is the slowest
+// part.
 struct Dialog
 {
     QPrinter printer{QPrinter::ScreenResolution};

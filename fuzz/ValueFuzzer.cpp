@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// The reader of stored values and the writer of texts. Input: a text to store, a NUL, a value as something else stored it.
+// The reader of stored values and the writer of texts. Input: a text to store, a NUL, a value as something else stored
+// it.
 
 #include "Fuzz.h"
 

@@ -25,7 +25,7 @@
 #include <utility>
 #include <vector>
 
-// The PPD interface is deprecated as a whole; label printers have nothing else yet.
+// The whole PPD interface is deprecated, but label printers have no other yet.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace {
@@ -34,7 +34,7 @@ namespace {
 constexpr char storedLineBreak[] = "\\\\r";
 constexpr char reducedLineBreak[] = "\\r";
 
-// Stands for the PPD file of a printer that has none, as the scheduler has said. Without it every getter would ask again.
+// Stands for the PPD file of a printer without one, so that not every getter asks the scheduler again.
 ppd_file_t absentPpdFile;
 
 bool isOneOf(int value, std::initializer_list<int> allowed)
@@ -67,7 +67,7 @@ const ppd_size_t *findPageSize(const ppd_file_t *ppd, const char *name)
     return ppd ? findRecord(ppd->sizes, ppd->num_sizes, isNamed) : nullptr;
 }
 
-// A job's title: of Latin-1 as all texts, but encoded in UTF-8. With anything else the scheduler calls the job "Untitled".
+// A job's title: Latin-1 like all texts, but encoded in UTF-8. Otherwise the scheduler calls the job "Untitled".
 QByteArray titleOf(const QString &text)
 {
     return QString::fromLatin1(text.toLatin1()).toUtf8();
@@ -107,7 +107,7 @@ struct CupsSupport::Private
 
     static const Dialect *dialectOf(const CupsSupport &cups);
 
-    // A setting by our keyword, wherever the driver has it.
+    // A setting by our keyword, whatever the driver's keyword is.
     static double number(const CupsSupport &cups, const char *keyword, double fallback);
     static int integer(const CupsSupport &cups, const char *keyword, int fallback);
     static bool flag(const CupsSupport &cups, const char *keyword);
@@ -144,13 +144,13 @@ int CupsSupport::getDefaultPrinter()
     if (d->schedulerReachable) {
         destCount = std::exchange(fetched->count, 0);
         dests = std::exchange(fetched->list, nullptr);
-        // Without any printer the scheduler says that it found none.
+        // Without any printer, the scheduler reports that it found none.
         d->schedulerReachable = dests || fetched->status == IPP_STATUS_ERROR_NOT_FOUND;
     }
     d->stored = OptionsFile::prepare(dests, destCount);
     if (!dests || destCount < 1)
         return currentIndex;
-    // Printers may have gone since the last time; an index past the end would be no printer for good.
+    // Printers may have been removed; an index past the end would permanently mean no printer.
     if (currentIndex >= destCount)
         currentIndex = 0;
     for (int i = 0; i < destCount; ++i)
@@ -220,7 +220,7 @@ QString CupsSupport::getDefaultQueueName() const
     for (int i = destCount - 1; i >= 0; --i)
         if (dests[i].is_default)
             return getQueueName(i);
-    // None of the destinations: one that the environment names, or none at all.
+    // Not one of the destinations: named by the environment, or none at all.
     const auto name = std::make_shared<std::string>();
     const bool isAnswered = Scheduler::ask([name](http_t *http) {
         if (const char *found = cupsGetDefault2(http))
@@ -270,8 +270,9 @@ int CupsSupport::setDests()
     cups_dest_t *dest = currentDest();
     if (!dest)
         return -1;
-    // One pass: the option that slides into a freed slot is not examined in it. Settings that the user made equal to the
-    // default are gone already, see setValue(); what this drops is left over from elsewhere, and hosts rely on its extent.
+    // One pass: the option that slides into a freed slot is not examined in it. Settings that the user made equal to
+    // the default are already removed, see setValue(); this removes values from elsewhere, and hosts rely on how far it
+    // goes.
     for (int i = 0; i < dest->num_options; ++i) {
         const cups_option_t &option = dest->options[i];
         const char *defaultValue = getDefaultValue(option.name);
@@ -510,7 +511,7 @@ int CupsSupport::setString(const char *keyword, const QString &value)
 
 namespace {
 
-// The code itself when CUPS knows it, else landscape.
+// The code itself if CUPS knows it, otherwise landscape.
 CupsSupport::_CupsOrientation knownOrientation(int code)
 {
     return code >= CupsSupport::Portrait && code <= CupsSupport::ReversePortrait
@@ -553,7 +554,7 @@ bool CupsSupport::Private::flag(const CupsSupport &cups, const char *keyword)
 QString CupsSupport::Private::text(const CupsSupport &cups, const char *keyword)
 {
     QString value;
-    if (!dialectOf(cups)) // no other driver has commands of the user's
+    if (!dialectOf(cups)) // no other driver has user commands
         cups.getString(keyword, &value);
     return value;
 }
@@ -672,7 +673,7 @@ QSize CupsSupport::getDefaultPageSize() const
         size = findRecord(option.choices, option.num_choices, [&option](const ppd_choice_t &choice) {
             return qstrcmp(choice.choice, option.defchoice) == 0;
         });
-        return size != nullptr; // else another option of that name may hold its default
+        return size != nullptr; // otherwise another option of that name may hold its default
     });
 
     const char *bracket = size && size->code ? std::strchr(size->code, '[') : nullptr;
@@ -702,7 +703,8 @@ QRect CupsSupport::paperRect(const char *name) const
 
 namespace {
 
-// A PPD file without a choice of resolutions, such as those that CUPS makes for driverless printers, may still name one.
+// A PPD file without a choice of resolutions, such as those that CUPS makes for driverless printers, may still name
+// one.
 const char *declaredResolution(ppd_file_t *ppd)
 {
     const ppd_attr_t *attribute = ppd ? ppdFindAttr(ppd, "DefaultResolution", nullptr) : nullptr;
@@ -725,7 +727,8 @@ QSizeF CupsSupport::getResolution() const
     const CLocale cLocale;
     switch (std::sscanf(value, "%lfx%lf", &first, &second)) {
     case 2:
-        // Twelve dots to the millimetre are named 305. Only feed lengths are counted in them, so only this side is exact.
+        // Twelve dots per millimetre are called 305. Only feed lengths are counted in them, so only this direction is
+        // exact.
         return QSizeF(first, second == 305.0 ? 304.8 : second);
     case 1:
         return QSizeF(first, first);

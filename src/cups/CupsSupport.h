@@ -23,7 +23,7 @@ typedef struct ppd_group_s ppd_group_t;
 typedef struct ppd_option_s ppd_option_t;
 
 /**
- * The one object through which everything here touches CUPS: the destinations of the user, which of them is the current
+ * The library's only access to CUPS: the destinations of the user, which of them is the current
  * printer, that printer's PPD file, its settings by keyword and by name, and printing.
  *
  * The saved options of the current destination are the working copy of its settings. Setters change that copy in
@@ -55,7 +55,7 @@ public:
     };
 
     /**
-     * Fetches the destinations and makes the default one current. Opens no PPD file yet. Where the scheduler cannot be
+     * Fetches the destinations and makes the default one current. Opens no PPD file yet. If the scheduler cannot be
      * reached there are none; one that accepts requests and does not answer costs four seconds.
      */
     CupsSupport();
@@ -70,9 +70,9 @@ public:
     /** @{ */
 
     /**
-     * Fetches all destinations anew and makes the default one current; the last one wins if several are flagged.
-     * Without a default the current index stays as it was (0 after construction, and when so many printers are no
-     * more). Unsaved settings of every destination are dropped. An open PPD file stays open, also when it now belongs
+     * Fetches all destinations again and makes the default one current; the last one wins if several are flagged.
+     * Without a default, the current index does not change (0 after construction, and if there are no longer as many
+     * printers). Unsaved settings of every destination are dropped. An open PPD file stays open, even if it now belongs
      * to another printer: call setCurrentPrinter() or closePpdFile() to get the right one.
      *
      * @return the current index; unchanged when there are no destinations.
@@ -86,7 +86,7 @@ public:
      */
     void setCurrentPrinter(int index);
 
-    /** The index of the current printer among the destinations; negative for no printer. */
+    /** The index of the current printer among the destinations; negative if there is none. */
     int getCurrentIndex() const;
 
     /** The number of destinations, 0 when there are none or the scheduler could not be reached. */
@@ -122,26 +122,27 @@ public:
     ppd_file_t *getPpdFile() const;
 
     /**
-     * Whether the current printer may have a PPD file that cannot be had now: the scheduler did not send it. Values that
-     * are missing then may be in that file. False when the file is open, and when the scheduler said that there is none.
+     * Whether the current printer may have a PPD file that cannot be had now: the scheduler did not send it. Values
+     * that are missing then may be in that file. False when the file is open, and when the scheduler said that there is
+     * none.
      */
     bool isPpdFileOutOfReach() const;
 
     /**
-     * Closes the PPD file. The next use opens it again and so marks it with the present options. To be called as well
-     * when a printer that had no PPD file may have got one.
+     * Closes the PPD file. The next use opens it again and marks it with the current options. Also call this
+     * when a printer without a PPD file may have received one.
      */
     void closePpdFile();
 
     /**
-     * Saves what was changed of any destination since it was read or saved to the options file that libcups reads, usually
-     * $HOME/.cups/lpoptions. All else in the file stays as it is by then, whoever has written it. Without a change nothing
-     * is written. The scheduler is not asked.
+     * Saves what was changed of any destination since it was read or saved to the options file that libcups reads,
+     * usually $HOME/.cups/lpoptions. All else in the file stays as it is by then, whoever has written it. Without a
+     * change nothing is written. The scheduler is not asked.
      *
      * Options of the current printer that equal the default of its PPD file are dropped first, in a single pass: of two
      * such options in a row only the first one goes.
      *
-     * The file is replaced as a whole or not at all and reads back as it was in memory.
+     * The file is replaced atomically and reads back as it was in memory.
      *
      * @return 0 when saved, -1 when there is no printer or the file could not be written; then the earlier file stands and
      *         getCupsError() says why.
@@ -149,17 +150,17 @@ public:
     int setDests();
 
     /**
-     * Asks the scheduler how all printers are now, with one request: "printer-state" and "printer-state-reasons" are up to
-     * date afterwards. Everything else stays as it is, unsaved settings included.
+     * Asks the scheduler how all printers are now, with one request: "printer-state" and "printer-state-reasons" are up
+     * to date afterwards. Everything else stays as it is, unsaved settings included.
      *
      * @return false when the scheduler did not answer; the states then stay as they were.
      */
     bool updatePrinterStates();
 
     /**
-     * Calls @p function, which has Qt ask the scheduler, as QPrinter::setPrinterName() does, and waits for it. It runs on
-     * a thread on which Qt gets the password that the user has entered. Qt waits without a limit: where the scheduler
-     * has just left a request unanswered, @p function is not called.
+     * Calls @p function, which has Qt ask the scheduler, as QPrinter::setPrinterName() does, and waits for it. It runs
+     * on a thread on which Qt gets the password that the user has entered. Qt waits without a limit: where the
+     * scheduler has just left a request unanswered, @p function is not called.
      *
      * @return whether it was called.
      */
@@ -247,7 +248,7 @@ public:
      * Reads a text of several lines, with line feeds as line breaks, into @p value, which must not be null; see
      * getValue().
      *
-     * @return true when found; else false, and @p value is a null string.
+     * @return true if found; otherwise false, and @p value is a null string.
      */
     bool getString(const char *keyword, QString *value) const;
 
@@ -259,7 +260,7 @@ public:
      */
     int setString(const char *keyword, const QString &value);
 
-    /** The option @p keyword of the current printer's PPD file, owned by that; null when there is none. */
+    /** The option @p keyword of the current printer's PPD file, which owns it; null if it does not exist. */
     ppd_option_t *ppdOption(const char *keyword) const;
 
     /** @} */
@@ -267,7 +268,7 @@ public:
      * @name Label settings
      *
      * Getters return the stated fallback when the setting is missing or unreadable. Setters store through the setter by
-     * keyword and return what that returns: -1 when there is no printer. But for setOrientation() they do not check
+     * keyword and return its result: -1 if there is no printer. Except for setOrientation(), they do not check
      * their input; what the driver allows is in its PPD file.
      */
     /** @{ */
@@ -402,7 +403,7 @@ public:
      * Prints several files as one job on the current printer.
      *
      * @param fileNames the files to print; without any nothing is printed.
-     * @param title the job's title, sent as it is also when empty.
+     * @param title the job's title, sent unchanged even if empty.
      * @param list an option list.
      * @return the job number, 0 on failure (see getCupsError()).
      */
@@ -420,7 +421,7 @@ private:
     int destCount = 0;
     cups_dest_t *dests = nullptr;
     mutable ppd_file_t *ppd = nullptr; // opened by the first getter that needs it
-    const std::unique_ptr<Private> d; // whatever else there is to remember, so that hosts need not be rebuilt
+    const std::unique_ptr<Private> d; // everything else, so that hosts need not be rebuilt
 };
 
 #endif

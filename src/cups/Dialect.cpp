@@ -15,7 +15,7 @@
 #include <cstdlib>
 #include <iterator>
 
-// The PPD interface is deprecated as a whole; label printers have nothing else yet.
+// The whole PPD interface is deprecated, but label printers have no other yet.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace {
@@ -177,7 +177,7 @@ constexpr Dialect dialects[] = {
     dialect("ExtraMargin", ptouchSettings),
 };
 
-// Any of these, and the PPD file is one of our own printers. The others of our keywords are used by other makes as well.
+// If the PPD file has any of these, it is for our own printers. Other makes use the rest of our keywords too.
 constexpr const char *ownKeywords[] = {"LabelCategory", "GapSize",    "GapOffset", "MarkSize", "MarkOffset",
                                        "PrintSpeed",    "LabelStart", "LabelEnd",  "JobStart", "JobEnd"};
 
@@ -228,7 +228,7 @@ public:
                     function(*ours, found, nullptr);
     }
 
-    // The choice nearest to one of our values, the first of two that are as near; null keywords where there is none.
+    // The choice nearest to one of our values, the first of two equally near ones; null keywords if there is none.
     DriverValue nearest(double wanted) const
     {
         DriverValue best = {};

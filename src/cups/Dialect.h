@@ -15,8 +15,8 @@ struct DriverSetting;
 typedef struct ppd_file_s ppd_file_t;
 
 /**
- * What a driver of another make calls our label settings: which of its keywords stands for a setting, and how values are
- * converted. Each dialect is one table in Dialect.cpp.
+ * What a driver of another make calls our label settings: which of its keywords stands for a setting, and how values
+ * are converted. Each dialect is one table in Dialect.cpp.
  *
  * Settings are named by our keyword ("Darkness", "PrintSpeed", "CutMedia") and have our units, as in CupsSupport's
  * accessors; flags are 0 and 1. Values are read from and written to the working copy of the current printer.
@@ -58,8 +58,8 @@ struct Dialect
     QString leaveText(const CupsSupport &cups, const char *setting) const;
 
     /**
-     * Stores @p value as the driver's nearest choice. Stores nothing where the driver does not have the setting, or does
-     * not have this value of one that is no quantity, such as the media type.
+     * Stores @p value as the driver's nearest choice. Stores nothing where the driver does not have the setting, or
+     * does not have this value of one that is no quantity, such as the media type.
      */
     void setValue(CupsSupport &cups, const char *setting, double value) const;
 

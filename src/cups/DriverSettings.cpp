@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <cstring>
 
-// The PPD interface is deprecated as a whole; label printers have nothing else yet.
+// The whole PPD interface is deprecated, but label printers have no other yet.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace {
@@ -19,7 +19,7 @@ namespace {
 constexpr char pageSizeKeyword[] = "PageSize";
 constexpr char customPrefix[] = "Custom.";
 
-// A PPD file that declares nothing but the darkness may be ours as well.
+// A PPD file that only declares the darkness may also be ours.
 DriverSettings::Kind kindOf(ppd_file_t *ppd, const Dialect *dialect)
 {
     if (dialect)

@@ -16,11 +16,11 @@
 class CupsSupport;
 
 /**
- * What the driver of the current printer can do, for the dialog: which label settings it has and within which bounds, and
- * whether it takes page sizes of the user's. The values themselves go through CupsSupport's accessors.
+ * What the driver of the current printer can do, for the dialog: which label settings it has and within which bounds,
+ * and whether it takes page sizes of the user's. The values themselves go through CupsSupport's accessors.
  *
- * Settings are named by our keyword, in the units of CupsSupport's accessors. Points to the printer access object, which
- * has to live longer. What it says holds until another printer becomes current; the PPD file may be reopened.
+ * Settings are named by our keyword, in the units of CupsSupport's accessors. Points to the printer access object,
+ * which has to live longer. What it says holds until another printer becomes current; the PPD file may be reopened.
  */
 class DriverSettings
 {
@@ -66,8 +66,8 @@ public:
     void leaveToPrinter(const char *setting);
 
     /**
-     * The keywords that a preset of this printer carries: the driver's, the orientation and the page size. Empty when the
-     * kind is Own.
+     * The keywords that a preset of this printer carries: the driver's, the orientation and the page size. Empty when
+     * the kind is Own.
      */
     QStringList presetKeywords() const;
 

@@ -22,7 +22,7 @@ namespace {
 
 const int lockPatienceMs = 1000;
 const int lockPauseMs = 2;
-// How long another program may take from truncating the file to having written it.
+// How long another program may take between truncating the file and writing it.
 const int rewritePauseMs = 20;
 const int mostAttempts = 10;
 
@@ -35,8 +35,8 @@ void pause(int milliseconds)
 }
 
 // Keeps other instances of this library from saving at the same time. It is a lock of the folder: the file itself is
-// replaced, and one more file would be in everybody's way. Anybody who may read the folder can hold the lock, so it is not
-// waited for without end; and where there are no locks, on some network disks, it is done without.
+// replaced, and an extra lock file would be clutter. Anybody who may read the folder can hold the lock, so the wait is
+// limited; on file systems without locks, such as some network disks, no lock is taken.
 class Lock
 {
 public:

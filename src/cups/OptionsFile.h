@@ -18,22 +18,22 @@ namespace OptionsFile {
 QByteArray path();
 
 /**
- * To be called for destinations that libcups has just read: puts back what other programs have damaged, see OptionsMemory,
- * and makes the stored form of an empty value an empty one again.
+ * To be called for destinations that libcups has just read: puts back what other programs have damaged, see
+ * OptionsMemory, and makes the stored form of an empty value an empty one again.
  *
  * @return the snapshots of the destinations as they stand in the file, to compare with when saving.
  */
 std::vector<QByteArray> prepare(cups_dest_t *dests, int count);
 
 /**
- * Saves what was changed. Everything else in the file stays as it is by then: other instances of this library are locked
- * out meanwhile, and what another program writes meanwhile is read again. If these changes are in the file already, nothing
- * is written.
+ * Saves what was changed. Everything else in the file stays as it is by then: other instances of this library are
+ * locked out meanwhile, and what another program writes meanwhile is read again. If these changes are in the file
+ * already, nothing is written.
  *
- * cupsSetDests() would not do: it writes all options of all destinations as this process once read them, truncates the file
- * and writes it in place, drops the lines of queues that the scheduler does not list at the moment, and writes some values
- * in a form that libcups reads back as something else. Here the file is replaced as a whole or not at all, and each line is
- * read back before that.
+ * cupsSetDests() would not do: it writes all options of all destinations as this process once read them, truncates the
+ * file and writes it in place, drops the lines of queues that the scheduler does not list at the moment, and writes
+ * some values in a form that libcups reads back as something else. Here the file is replaced as a whole or not at all,
+ * and each line is read back before that.
  *
  * @return a null string when saved. Else why not, for the user; the file is as it was. libcups cannot read a line break in a
  *         value, or a line of more than 8191 bytes.

@@ -9,13 +9,13 @@
 
 namespace {
 
-// No script: those end in ".sh", so that the file is no preset.
+// Not a preset, because those end in ".sh".
 const char fileName[] = "/_saved-options";
 
 // Each rewriting halves the backslashes of a line, so that this many are enough for the longest.
 constexpr int mostRewritings = 16;
 
-// Empty for a name that would lead out of the folder.
+// Empty for a name that would lead outside the folder.
 QByteArray folderFor(const QByteArray &home, const QByteArray &name, const QByteArray &instance)
 {
     for (const QByteArray &part : {name, instance})
@@ -25,7 +25,7 @@ QByteArray folderFor(const QByteArray &home, const QByteArray &name, const QByte
     return instance.isEmpty() ? folder : folder + '/' + instance;
 }
 
-// One option a line, with no character that means anything.
+// One option per line, without special characters.
 QByteArray fileText(const OptionArray &options)
 {
     QByteArray text;
@@ -63,7 +63,7 @@ OptionArray OptionsMemory::lost(const OptionArray &saved, const OptionArray &sto
             if (const char *changed = now.value(option.name);
                 changed && qstrcmp(changed, option.value) != 0 && stored.has(option.name, changed))
                 found.set(option.name, option.value);
-        // Behind a value that was cut the rest of the line is gone.
+        // After a truncated value, the rest of the line is lost.
         if (found.size() == 0)
             continue;
         for (const cups_option_t &option : saved)

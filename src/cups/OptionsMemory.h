@@ -10,16 +10,16 @@
 #include <QByteArray>
 
 /**
- * What was saved for a destination, where other programs change it unasked.
+ * Remembers what was saved for a destination if other programs' rewriting of the file would change it.
  *
  * Each program that saves an option of any queue lets libcups read and write all lines of the options file, and libcups
  * does not always write what it reads back. From 2.4.17 on each time takes half of the backslashes: two backslashes and
- * "r", the line break of a user command, become one backslash and "r", then "r". In all versions a "#" ends the line, and
- * the options behind it are lost.
+ * "r", the line break of a user command, become one backslash and "r", then "r". In all versions a "#" ends the line,
+ * and the options behind it are lost.
  *
- * So where a destination's options would not outlive that, they are kept in a hidden file in the queue's preset folder as
- * well, and a stored value that is what such rewriting makes of the saved one stands for the saved one. Any other value was
- * set by the user and holds.
+ * So where a destination's options would not outlive that, they are kept in a hidden file in the queue's preset folder
+ * as well, and a stored value that is what such rewriting makes of the saved one stands for the saved one. Any other
+ * value was set by the user and holds.
  */
 namespace OptionsMemory {
 

@@ -94,8 +94,8 @@ public:
         return entries.value(keyOf(change.name, change.instance));
     }
 
-    // Puts a line in the place of the first of the entries, and nothing in that of the others. Without entries it stands
-    // last.
+    // Replaces the first of the entries by a line and removes the others. Without entries the line is
+    // appended.
     void replace(const QList<OptionsSyntax::Entry> &earlier, const QByteArray &line)
     {
         for (const OptionsSyntax::Entry &entry : earlier) {
@@ -186,10 +186,10 @@ OptionsMerge::Result OptionsMerge::merge(const QByteArray &content, const std::v
             continue;
         Written written{&change, cleaned(wanted, change)};
 
-        // A line "Dest" for the server's default printer would take that away from it, in all programs.
+        // A line "Dest" for the server's default printer would leave all programs without a default.
         if (earlier.isEmpty() && change.isDefault && !lines.hasDefault)
             head.isDefault = lines.hasDefault = true;
-        // Without options there is no line, unless it is what makes the default or the instance.
+        // Without options there is no line, unless it defines the default or the instance.
         const bool isKept = head.isDefault || !head.instance.isEmpty();
         QByteArray line;
         if (written.options.size() > 0 || isKept) {

@@ -13,7 +13,7 @@
 #include <functional>
 #include <vector>
 
-/** Brings what one object has changed into the text of the options file, as it is by then. */
+/** Merges the changes of one object into the present text of the options file. */
 namespace OptionsMerge {
 
 /** A destination's options at one moment, to compare with later. */
@@ -29,8 +29,8 @@ struct Change
     QList<QByteArray> removed;
 
     /**
-     * Whether an option has to be overridden by an empty value, which is then stored as one blank, because other programs
-     * turn an empty one into "true". An option for which it is false is left out instead.
+     * Whether an option has to be overridden by an empty value, which is then stored as one blank, because other
+     * programs turn an empty one into "true". An option for which it is false is left out instead.
      */
     std::function<bool(const char *)> isNeededEmpty;
 

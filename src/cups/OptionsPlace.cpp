@@ -16,7 +16,7 @@
 
 namespace {
 
-// A host may have put its own name there, for this thread, so its text is set aside meanwhile.
+// The host may have set its own name for this thread, so that text is put back afterwards.
 QByteArray libcupsName()
 {
     const QByteArray hostText = cupsUserAgent();

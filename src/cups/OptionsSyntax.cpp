@@ -10,8 +10,8 @@
 
 namespace {
 
-// A value in the form that cupsParseOptions() takes apart: quoted unless it is plain. The backslash before "#" keeps the
-// value from being read as a comment by libcups before 2.4.17.
+// A value in the form that cupsParseOptions() takes apart: quoted unless it is plain. The backslash before "#" keeps
+// the value from being read as a comment by libcups before 2.4.17.
 QByteArray valueSyntax(const QByteArray &value)
 {
     QByteArray escaped;

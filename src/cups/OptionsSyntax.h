@@ -18,9 +18,9 @@
  *
  *     Dest|Default NAME[/INSTANCE] OPTION=VALUE OPTION=VALUE ...
  *
- * How libcups reads a line depends on its version: from 2.4.17 on it takes backslashes before "\", "#", "n" and "r" apart
- * before it looks for options, and then once more in the values. So what is written is always checked by reading it with
- * the libcups that runs.
+ * How libcups reads a line depends on its version: from 2.4.17 on it takes backslashes before "\", "#", "n" and "r"
+ * apart before it looks for options, and then once more in the values. So what is written is always checked by reading
+ * it with the libcups that runs.
  */
 namespace OptionsSyntax {
 
@@ -71,7 +71,7 @@ QList<Piece> pieces(const QByteArray &content);
  */
 QByteArray compose(const Entry &entry, const OptionArray &options, const Reader &reader);
 
-/** What is left of options when another program has read them and then lets libcups write and read them again. */
+/** What remains of options after another program has let libcups read, write and read them again. */
 std::optional<OptionArray> rewritten(const OptionArray &options, const Reader &reader);
 
 } // namespace OptionsSyntax

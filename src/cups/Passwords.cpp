@@ -19,7 +19,8 @@ using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 using Passwords::Credentials;
 
-// The requests of one action follow each other faster than this. In the next action the user may have thought better of it.
+// The requests of one action follow each other faster than this. In a later action the user may have changed their
+// mind.
 constexpr auto pauseBetweenActions = 1s;
 
 Passwords::Prompt windowPrompt = nullptr;

@@ -10,7 +10,8 @@
 #include <optional>
 
 /**
- * The user name and password for a scheduler that wants them. They are kept in memory, for as long as the process lives.
+ * The user name and password for a scheduler that wants them. They are kept in memory, for as long as the process
+ * lives.
  *
  * To be used from the GUI thread only.
  */
@@ -26,8 +27,8 @@ struct Credentials
 std::optional<Credentials> known(const QByteArray &server);
 
 /**
- * Asks the user: with the prompt in a program with windows. In others libcups' way, its callback of this thread or the
- * terminal, but for processes in the background of one, which would be stopped.
+ * Asks the user, in programs with windows by the prompt. Others use libcups' callback for this thread or the
+ * terminal, except for background processes, which would be stopped.
  *
  * @param isRefused whether @p server refused what is known; that is forgotten.
  * @return whether there is an answer. False, without asking, for the rest of an action in which the user declined.

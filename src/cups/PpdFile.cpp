@@ -15,12 +15,12 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-// The PPD interface is deprecated as a whole; label printers have nothing else yet.
+// The whole PPD interface is deprecated, but label printers have no other yet.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace {
 
-// The answer to one request. It belongs to the thread of the request as well.
+// The answer to one request, shared with the request's thread.
 struct Transfer
 {
     explicit Transfer(const char *queue)
@@ -42,7 +42,7 @@ struct Transfer
 void transfer(http_t *http, Transfer &answer)
 {
     answer.status = cupsGetFd(http, answer.resource.constData(), answer.fd);
-    // When the connection ends too early, cupsGetFd() is content with what came; but it still waits for the rest.
+    // If the connection ends too early, cupsGetFd() accepts the part that came, but still waits for the rest.
     answer.isComplete = httpGetState(http) == HTTP_STATE_WAITING;
 }
 

@@ -90,8 +90,8 @@ QString cannotBeReached(const cups_dest_t &dest)
         .arg(QString::fromUtf8(description ? description : dest.name));
 }
 
-// Has a queue made for the printer, and returns its URI; null on failure, above all when the scheduler does not reach the
-// printer in time. libcups does the same, and waits for more than a minute.
+// Has a queue made for the printer, and returns its URI; null on failure, above all when the scheduler does not reach
+// the printer in time. libcups does the same, and waits for more than a minute.
 QByteArray makeQueue(const cups_dest_t &dest)
 {
     const Clock::time_point end = Clock::now() + Scheduler::currentLimits().toReachPrinter;
@@ -108,7 +108,7 @@ QByteArray makeQueue(const cups_dest_t &dest)
     return isAnswered ? queue->uri : QByteArray();
 }
 
-// All that submitting a job needs, so that it does not matter what becomes of the destination meanwhile.
+// Everything needed to submit a job, so that the destination may change meanwhile.
 class Job
 {
 public:

@@ -33,18 +33,18 @@ using Scheduler::Limits;
 using Scheduler::Milliseconds;
 using Scheduler::Work;
 
-// How often a request that takes long is looked at; one that is answered is noticed at once.
+// How often a slow request is checked; an answered one is noticed immediately.
 constexpr Milliseconds watchInterval = 100ms;
 
 // libcups connects again and goes on with the next step of a call whose connection was shut down; it is shut down again
-// after this time. A thread that has not ended after that many times hangs elsewhere, in a look-up of a name say, and is left to
-// itself: it owns all that it uses.
+// after this time. A thread that has not ended after that many times hangs elsewhere, such as in a name look-up, and is
+// left to itself: it owns everything it uses.
 constexpr Milliseconds shutDownInterval = 200ms;
 constexpr int shutDowns = 6;
 
-// An answer that takes no longer is no reason to lose patience, however many requests follow each other.
+// Answers that take no longer than this do not count, however many requests follow each other.
 constexpr Milliseconds quickAnswer = 250ms;
-// Two requests with so long a pause between them belong to different actions of the user.
+// Requests separated by a longer pause belong to different actions of the user.
 constexpr Milliseconds pauseBetweenActions = 1s;
 
 // How often the user may enter a password for one request.
@@ -79,7 +79,7 @@ struct Action
 };
 Action action;
 
-// What the host may have told libcups on its thread about where the scheduler is and who asks.
+// The scheduler and user name that the host may have set in libcups for its thread.
 class Identity
 {
 public:
@@ -94,7 +94,8 @@ public:
     const QByteArray &serverName() const { return server; }
     bool isLocalSocket() const { return server.startsWith('/'); }
 
-    // Tells libcups on this thread; only what it does not know already, since setting a server drops the rest of its entry.
+    // Tells libcups on this thread; only what it does not know already, since setting a server drops the rest of its
+    // entry.
     void adopt() const
     {
         if (server != cupsServer())
@@ -131,7 +132,8 @@ public:
     // Whether an answer was wanted that was not there, or was refused.
     bool isMissed() const { return missed; }
 
-    // Makes libcups on this thread ask this object. By itself it would ask on the terminal, where a process in the background is stopped.
+    // Makes libcups on this thread ask this object. By itself it would ask on the terminal, where a process in the
+    // background is stopped.
     void giveToLibcups() { cupsSetPasswordCB2(answer, this); }
 
 private:
@@ -176,7 +178,7 @@ struct Request
 // The request for which this thread works.
 thread_local const Request *ownRequest = nullptr;
 
-// Lets the system notice that a network is gone; libcups never looks.
+// Lets the system notice a broken network; libcups never checks.
 void keepAlive(http_t *http)
 {
     const int fd = httpGetFd(http);
@@ -223,7 +225,7 @@ void run(const std::shared_ptr<Request> &request, const Work &work, const Identi
     request->changed.notify_one();
 }
 
-// A thread to which no signal of the host's is delivered. None if the system has no more.
+// A thread that receives no signals for the host. None if the system has no more threads.
 std::optional<std::thread> startThread(const std::function<void()> &function)
 {
     sigset_t all;
@@ -240,8 +242,8 @@ std::optional<std::thread> startThread(const std::function<void()> &function)
     return thread;
 }
 
-// Calls the function on a thread where libcups is prepared for it, and waits. On this thread, unprepared, if the system has no
-// more threads.
+// Calls the function on a thread where libcups is prepared for it, and waits. On this thread, unprepared, if the system
+// has no more threads.
 void callOnThread(const std::function<void()> &prepare, const std::function<void()> &function)
 {
     std::optional<std::thread> thread = startThread([&] {
@@ -251,8 +253,9 @@ void callOnThread(const std::function<void()> &prepare, const std::function<void
     thread ? thread->join() : function();
 }
 
-// Lets look-ups of names on this thread, which is about to end, be answered at once. For each PPD file cupsGetPPD() looks up the name of
-// this machine, of which a scheduler on a local socket has no use; it takes long where no name server answers.
+// Lets look-ups of names on this thread, which is about to end, be answered at once. For each PPD file cupsGetPPD()
+// looks up the name of this machine, of which a scheduler on a local socket has no use; it takes long where no name
+// server answers.
 void forgetNameServers()
 {
     if (res_init() == 0)
@@ -304,7 +307,7 @@ enum class Outcome {
     PasswordRefused
 };
 
-// Has the work done once.
+// Does the work once.
 Outcome converse(const Work &work, Milliseconds altogether)
 {
     const Identity identity;

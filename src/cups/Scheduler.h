@@ -12,14 +12,15 @@
 #include <functional>
 
 /**
- * The scheduler of this user, asked without waiting for long.
+ * Requests to the user's scheduler, with time limits.
  *
- * libcups waits for minutes, in some calls for ever, when a scheduler accepts a request and does not answer, stops in the
+ * libcups waits for minutes, in some calls forever, if a scheduler accepts a request but does not answer, stops in the
  * middle of an answer or sends it byte by byte. Each request therefore runs on a thread of its own, whose connection is
  * shut down when its time is up.
  *
  * The thread also keeps the host's libcups as it is: libcups has a server, a default connection and a password callback
- * for each thread, and no call that returns the callback, so what is replaced on the host's thread could not be put back.
+ * for each thread, and no call that returns the callback, so what is replaced on the host's thread could not be put
+ * back.
  *
  * To be used from the GUI thread only.
  */
@@ -27,7 +28,7 @@ namespace Scheduler {
 
 using Milliseconds = std::chrono::milliseconds;
 
-/** How long the scheduler may take. */
+/** Time limits. */
 struct Limits
 {
     Milliseconds withoutProgress{5000}; ///< not a byte; also, for how long it is then left alone
@@ -36,13 +37,15 @@ struct Limits
 };
 
 /**
- * What to do with the connection, from its beginning: it is done again when the user has entered a password. It runs on another thread, which may go on for a while after the request was given up: it
- * has to own all that it touches, and may use libcups alone.
+ * What to do with the connection, from its beginning: it is done again when the user has entered a password. It runs on
+ * another thread, which may go on for a while after the request was given up: it has to own all that it touches, and
+ * may use libcups alone.
  */
 using Work = std::function<void(http_t *)>;
 
 /**
- * Has @p work done, asking the user for a password when the scheduler wants one. Returns whether it ended in time; false also without a scheduler, and a moment after a time-out.
+ * Has @p work done, asking the user for a password when the scheduler wants one. Returns whether it ended in time;
+ * false also without a scheduler, and a moment after a time-out.
  */
 bool ask(const Work &work);
 
@@ -71,16 +74,16 @@ void setLastError(const QString &text);
 void callWithoutScheduler(const std::function<void()> &function);
 
 /**
- * Calls @p function, which makes Qt use libcups, on a thread of its own, where a scheduler that wants a password gets what the user
- * entered for us. Qt itself would ask for each of its requests. Qt's requests have no time limit: to be called
- * only when the scheduler has just answered.
+ * Calls @p function, which makes Qt use libcups, on a thread of its own, where a scheduler that wants a password gets
+ * what the user entered for us. Qt itself would ask for each of its requests. Qt's requests have no time limit: to be
+ * called only when the scheduler has just answered.
  */
 void callWithScheduler(const std::function<void()> &function);
 
 /** The limits that apply. */
 Limits currentLimits();
 
-/** For tests, which cannot wait that long. */
+/** For tests, which should not wait that long. */
 void setLimits(const Limits &limits);
 
 } // namespace Scheduler

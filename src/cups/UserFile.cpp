@@ -24,7 +24,7 @@ QByteArray folderOf(const QByteArray &path)
     return slash < 0 ? QByteArray(".") : path.left(slash + 1);
 }
 
-// What a chain of links leads to, whether it exists or not.
+// The target of a chain of links, whether it exists or not.
 QByteArray targetOf(QByteArray path)
 {
     std::array<char, PATH_MAX> target;
@@ -98,7 +98,7 @@ bool UserFile::read(QByteArray &content)
 {
     content.clear();
     exists = false;
-    // Opening a pipe would wait for somebody who writes into it.
+    // Opening a pipe would wait for a writer.
     const int fd = openat(folderFd, name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
     if (fd < 0) {
         struct stat status = {};
@@ -141,7 +141,7 @@ bool UserFile::writeInPlace(const QByteArray &content) const
     const int fd = openat(folderFd, name.constData(), O_WRONLY | O_CLOEXEC | O_NOFOLLOW);
     if (fd < 0)
         return false;
-    // The room first: with that, writing hardly fails, and if it does the earlier text still fits.
+    // Reserve the space first: writing then rarely fails, and if it does, the earlier text still fits.
     const bool hasRoom =
         content.size() <= earlier.st_size || fallocate(fd, 0, 0, content.size()) == 0 || errno == EOPNOTSUPP;
     const bool good = hasRoom && writeAll(fd, content);
@@ -169,7 +169,7 @@ UserFile::Result UserFile::replace(const QByteArray &content, mode_t newMode)
         return Result::Failed;
     }
     if (exists) {
-        // A file that belongs to somebody else stays theirs. Only the superuser can give it back, and only he needs to.
+        // A file that belongs to another user stays theirs. Only root can and needs to restore the owner.
         if ((earlier.st_uid != geteuid() || earlier.st_gid != getegid())
             && fchown(file.handle(), earlier.st_uid, earlier.st_gid) == 0)
             fchmod(file.handle(), earlier.st_mode & 07777);
@@ -182,7 +182,7 @@ UserFile::Result UserFile::replace(const QByteArray &content, mode_t newMode)
         if (newMode != 0)
             fchmod(file.handle(), newMode);
     }
-    // commit() alone would notice neither what could not be flushed nor what the disk then had no room for.
+    // commit() alone would not notice failed flushes or a full disk.
     if (file.write(content) != content.size() || !file.flush() || fsync(file.handle()) != 0)
         return Result::Failed;
     if (!isStillTheSame())

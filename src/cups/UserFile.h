@@ -8,14 +8,14 @@
 
 #include <sys/stat.h>
 
-/** A file that is read as a whole and replaced as a whole. Its path is of bytes, which need not be text in any encoding. */
+/** A file that is read completely and replaced atomically. Its path may hold any bytes, not only text. */
 class UserFile
 {
 public:
     enum class Links {
         Follow, ///< a link in the file's place stays, and what it leads to is replaced
         Keep, ///< a link in the file's place is no file
-        Replace ///< a link, or whatever else is no file, gives way
+        Replace ///< a link or anything else that is not a file is replaced
     };
 
     UserFile(const QByteArray &path, Links links);
@@ -34,7 +34,7 @@ public:
 
     enum class Result {
         Replaced,
-        Changed, ///< somebody else has written in between; nothing was done
+        Changed, ///< another program has written in between; nothing was done
         Failed ///< the file is as it was; the reason is in errno
     };
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int longestLine = 1024; // bytes; what is longer is read as several lines
+constexpr int longestLine = 1024; // bytes; longer lines are read as several
 
 } // namespace
 

@@ -16,7 +16,7 @@ namespace {
 // Printers whose names contain this take the extended option list.
 const QLatin1String extendedMarker("ORCA");
 
-// One list for all on purpose: from the first such printer on, the presets of every printer carry these options.
+// Deliberately one list for all: from the first such printer on, the presets of every printer contain these options.
 void extendOptionNames(const QString &printer)
 {
     if (printer.contains(extendedMarker))
@@ -188,7 +188,7 @@ QSizeF Preset::getUserPageSize()
 
 void Preset::setName(const QString &name)
 {
-    // The file name is what an empty name shows already.
+    // An empty name already shows the file name.
     if (name == this->name() || name == d->name)
         return;
     d->name = name;
@@ -213,7 +213,7 @@ void Preset::setIndex(int index)
 
 void Preset::Private::loadIfNeeded()
 {
-    // Where this fails, the state stays and the next request tries again.
+    // If this fails, the state is unchanged and the next request tries again.
     if (state == NotLoaded)
         load();
 }
@@ -303,7 +303,7 @@ bool Preset::Private::load()
     return true;
 }
 
-// A list of presets needs their names alone, and the options are by far the most to parse.
+// A list of presets only needs their names, and parsing the options takes by far the longest.
 void Preset::Private::parseOptions()
 {
     const Unparsed script = std::exchange(unparsed, {});
@@ -330,7 +330,7 @@ bool Preset::save(const QStringList &defaults)
         load();
         return false;
     }
-    // A script in the place of one that was never written is somebody else's.
+    // An existing script in place of one that was never written belongs to another program.
     if (d->state == Deleted)
         return !d->isNew && PresetScript::remove(pathName());
     if (d->state != Modified)

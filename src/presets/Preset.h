@@ -58,8 +58,9 @@ public:
      */
     void setUserPageSize(const QSizeF &size);
     /**
-     * Says that the script has yet to be created; the state becomes Modified. The next save() then replaces no script that
-     * another program has made in the meantime, but takes the next free file name: "Preset", "Preset2", "Preset3", ...
+     * Says that the script has yet to be created; the state becomes Modified. The next save() then replaces no script
+     * that another program has made in the meantime, but takes the next free file name: "Preset", "Preset2", "Preset3",
+     * ...
      */
     void setNew();
     bool isNew() const; ///< Whether setNew() was called and no script has been written since.
@@ -102,8 +103,8 @@ public:
     bool clearOptions();
 
     /**
-     * The keywords whose values the script of this preset cannot hold as a printer has them: it holds, or is about to be
-     * given, values of @p options that read back as something else, such as one with a blank or beyond ASCII.
+     * The keywords whose values the script of this preset cannot hold as a printer has them: it holds, or is about to
+     * be given, values of @p options that read back as something else, such as one with a blank or beyond ASCII.
      *
      * @param options the printer's values as an option list.
      * @param defaults the printer's default values as an option list, as for save().

@@ -17,7 +17,7 @@
 
 namespace {
 
-// Made when the library is loaded: what the host does to its environment later does not move the presets.
+// Set when the library is loaded, so that later changes of the host's environment do not move the presets.
 const QByteArray home = qgetenv("HOME") + '/';
 const QByteArray cupsFolder(".cups");
 const QByteArray rootBytes = home + cupsFolder + '/';
@@ -26,11 +26,11 @@ const QString rootText = QString::fromUtf8(rootBytes);
 constexpr mode_t permissionBits = 0777;
 constexpr mode_t executable = 0111;
 constexpr mode_t cupsFolderMode = 0700; // as libcups makes it
-constexpr mode_t folderMode = 0777; // less what the user's umask takes away
+constexpr mode_t folderMode = 0777; // reduced by the umask
 constexpr mode_t fileMode = 0666; // likewise
 
-// What root makes in somebody's home is theirs. Others cannot give files away and need not. By descriptor: what has the
-// name may have been put there by somebody else meanwhile.
+// What root creates in a user's home belongs to the user. Only root can and needs to change the owner. By descriptor: a
+// file of that name may have been replaced meanwhile.
 bool giveTo(const struct stat &owner, int file)
 {
     return geteuid() == 0 && fchownat(file, "", owner.st_uid, owner.st_gid, AT_EMPTY_PATH) == 0;
@@ -42,7 +42,7 @@ bool giveToOwnerOf(int folder, int file)
     return fstat(folder, &status) == 0 && giveTo(status, file);
 }
 
-// Opens a folder that is in another one, whose descriptor is closed; -1 on failure.
+// Opens a folder inside another one, whose descriptor is closed; -1 on failure.
 int descend(int parent, const QByteArray &name, PresetFolder::IfMissing ifMissing, mode_t mode, int flags)
 {
     const bool made = ifMissing == PresetFolder::MakeIt && mkdirat(parent, name.constData(), mode) == 0;
@@ -67,7 +67,7 @@ PresetFolder::PresetFolder(const QString &path, IfMissing ifMissing)
 {
     if (!path.startsWith(rootText))
         return;
-    // Up to here it is the user's own choice where links lead to.
+    // Up to here, the user decides where links lead.
     fd = open(home.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
     if (fd >= 0)
         fd = descend(fd, cupsFolder, ifMissing, cupsFolderMode, 0);
@@ -89,7 +89,7 @@ QByteArray PresetFolder::write(const QByteArray &content, const struct stat *ear
     const QByteArray start = ".new-" + QByteArray::number(QCoreApplication::applicationPid()) + '-';
     QByteArray name;
     int descriptor = -1;
-    // A process of the same number may have left files behind.
+    // A killed process with the same id may have left files.
     for (int i = 0; descriptor < 0; ++i) {
         name = start + QByteArray::number(i);
         descriptor = openat(fd, name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, fileMode);
@@ -124,7 +124,7 @@ bool PresetFolder::replace(const QString &name, const QByteArray &content)
     struct stat earlier = {};
     const bool exists = fstatat(fd, place.constData(), &earlier, AT_SYMLINK_NOFOLLOW) == 0;
     const bool isFile = exists && S_ISREG(earlier.st_mode);
-    // A device, a pipe or a folder is not for us to replace, nor is a file that its user has made read-only.
+    // Do not replace devices, pipes, folders, or files that their user has made read-only.
     if (exists && !isFile && !S_ISLNK(earlier.st_mode))
         return false;
     if (isFile && faccessat(fd, place.constData(), W_OK, AT_EACCESS) != 0)
@@ -145,7 +145,7 @@ PresetFolder::Result PresetFolder::create(const QString &name, const QByteArray 
     const QByteArray temporary = write(content, nullptr);
     if (temporary.isEmpty())
         return Failed;
-    // Neither call replaces anything. Some file systems have the one and some the other.
+    // Neither call replaces an existing file. File systems support one or the other.
     const bool done =
         linkat(fd, temporary.constData(), fd, place.constData(), 0) == 0
         || (errno != EEXIST && renameat2(fd, temporary.constData(), fd, place.constData(), RENAME_NOREPLACE) == 0);

@@ -41,8 +41,8 @@ public:
     /** @{ */
 
     /**
-     * Puts an executable file in the place of the file or link @p name, as a whole or not at all. The permissions and the
-     * owner of an earlier file are kept. Anything else there, such as a folder or a pipe, is left alone.
+     * Puts an executable file in the place of the file or link @p name, as a whole or not at all. The permissions and
+     * the owner of an earlier file are kept. Anything else there, such as a folder or a pipe, is left alone.
      */
     bool replace(const QString &name, const QByteArray &content);
 

@@ -33,7 +33,8 @@ constexpr int ppdhackDecimals = 2;
 constexpr signed char lastControlCharacter = 31;
 constexpr ushort lastAsciiCharacter = 0x7f;
 constexpr ushort lastLatin1Character = 0xff;
-const QLatin1String harmlessMarks("!%+,-./:=@^_"); // beside letters and digits, in what a shell is to take as it is
+// A shell leaves these unchanged, as well as letters and digits.
+const QLatin1String harmlessMarks("!%+,-./:=@^_");
 const QByteArray unicodeMark("-utf8"); // behind the key of a line that holds a whole text
 
 const QStringList extendedOptionNames{
@@ -124,7 +125,7 @@ QByteArray unicodeLine(const QString &key, const QString &text)
     return '#' + key.toLatin1() + unicodeMark + '=' + value + '\n';
 }
 
-// Whether a shell takes the name of a queue for that and nothing more. What Latin-1 lacks becomes "?".
+// Whether a shell takes the name of a queue literally. Characters outside Latin-1 become "?".
 bool isPlain(const QString &queue)
 {
     const QString marks = harmlessMarks;
@@ -133,7 +134,7 @@ bool isPlain(const QString &queue)
     });
 }
 
-// A value as the shell is to see it. Only blanks make for quotes; whatever else means something to a shell is written
+// A value for the shell. Only blanks cause quotes; other characters with a meaning to the shell are written
 // as it is, quotes inside the value included.
 QString shellWord(QString value)
 {
@@ -149,7 +150,7 @@ QString optionItem(const QString &keyword, const QStringList &options, const QSt
 {
     const auto own = PresetScript::valueIndex(options, keyword);
     const auto standard = PresetScript::valueIndex(defaults, keyword);
-    // Without a value of the preset's own the default is the value, which equals the default.
+    // Without a value in the preset the value is the default, which equals the default.
     if (standard >= 0 && (own < 0 || options.at(own) == defaults.at(standard)))
         return removeItem + keyword;
     if (own < 0)
@@ -162,7 +163,7 @@ QString optionItem(const QString &keyword, const QStringList &options, const QSt
 
 // ----- reading -----
 
-// What QByteArray::indexOf() does. That prepares each search for long texts, which takes several times as long as looking
+// Like QByteArray::indexOf(), which prepares each search for long texts. That takes several times longer than searching
 // through a short one.
 QByteArray::size_type positionOf(const QByteArray &text, const QByteArray &data)
 {
@@ -180,7 +181,7 @@ QString valueAt(const QByteArray &data, QByteArray::size_type position, signed c
     return QString::fromLatin1(begin, static_cast<QString::size_type>(end - begin));
 }
 
-// What stands behind an attribute's key, whatever can be read of it.
+// The text after an attribute's key, as far as it can be read.
 QByteArray attributeBytes(const QByteArray &data, const QString &key)
 {
     const QByteArray start = '#' + key.toLatin1() + '=';
@@ -297,7 +298,7 @@ bool PresetScript::exists(const QString &path)
 
 std::optional<QByteArray> PresetScript::read(const QString &path)
 {
-    // Opened first and looked at then: nothing can be put in its place in between. O_NONBLOCK is for pipes.
+    // Opened first and then examined, so that it cannot be replaced in between. O_NONBLOCK is for pipes.
     const int fd = ::open(PresetFolder::localPath(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (fd < 0)
         return std::nullopt;

@@ -75,8 +75,8 @@ QString pathName(const QString &printer, const QString &file);
 /** @{ */
 
 /**
- * The keywords that presets of @p printer carry, in the order of the script's items: one list, shared by all printers, but
- * for those that have their own. The reference holds until the printer is given another one.
+ * The keywords that presets of @p printer carry, in the order of the script's items: one list, shared by all printers,
+ * but for those that have their own. The reference holds until the printer is given another one.
  */
 const QStringList &optionNames(const QString &printer = QString());
 

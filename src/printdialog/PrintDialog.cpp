@@ -80,7 +80,8 @@ void showText(QLabel *label, const QString &text)
 }
 
 // Gives the button the style's icon. In the one size that it shows, and kept for as long as nothing about it changes:
-// without an icon theme, styles decode theirs from files in all sizes, which would be a quarter of what an opening takes.
+// without an icon theme, styles decode theirs from files in all sizes, which would be a quarter of what an opening
+// takes.
 void showStyleIcon(QAbstractButton *button, QStyle::StandardPixmap icon)
 {
     const QStyle *style = button->style();
@@ -406,7 +407,8 @@ void PrintDialog::Private::makeRoomInShortForm()
     q->setFixedSize(shortFormSize.expandedTo(ui.page_Simple->minimumSizeHint()));
 }
 
-// What the scheduler says of its printers may be longer than the form is wide. It gets the room up to the dialog's edge.
+// What the scheduler says of its printers may be longer than the form is wide. It gets the room up to the dialog's
+// edge.
 void PrintDialog::Private::makeRoomInFullForm()
 {
     const int least = shownCharacters * q->fontMetrics().averageCharWidth();

@@ -23,7 +23,8 @@ class QPrinter;
  * host prints. A rejected dialog leaves both as they were.
  *
  * exec() returns 1 when accepted, 0 when rejected and -1 when the user asked for the properties of the printer that the
- * list shows; the CupsSupport and the QPrinter then both have that queue for the time being. exec2() takes care of this.
+ * list shows; the CupsSupport and the QPrinter then both have that queue for the time being. exec2() takes care of
+ * this.
  */
 class PROPERTIESDIALOG_EXPORT PrintDialog : public QDialog
 {
@@ -45,7 +46,7 @@ public:
      * @param cups lists the printers and receives the chosen one. Not owned; must outlive the dialog.
      */
     PrintDialog(QWidget *parent, QPrinter *printer, CupsSupport *cups);
-    ~PrintDialog() override; ///< Leaves the objects that it was given alone.
+    ~PrintDialog() override; ///< Does not delete the objects passed to the constructor.
 
     /** Sets the question of the short form. */
     void setText(const QString &text);
@@ -53,7 +54,7 @@ public:
     /** Beware: true DISABLES the "Print to file" box, false enables it. */
     void setPrintToFileEnabled(bool enabled);
 
-    /** Whether "Print to file" is ticked. The file is the host's to ask for and to write. */
+    /** Whether "Print to file" is ticked. The host asks for the file name and writes the file. */
     bool printToFile() const;
 
     /**
@@ -74,7 +75,7 @@ public:
     void setNumCopies(int copies);
 
     /**
-     * Runs this dialog, and as long as it ends with the wish for the properties, @p propertiesDialog and then this one
+     * Runs this dialog. Whenever the user asks for the properties, runs @p propertiesDialog and then this one
      * again.
      *
      * @param propertiesDialog the dialog behind the Properties button. Not owned. A PrintPropertiesDialog with the same
@@ -86,7 +87,7 @@ public:
     /** Full form only: fills the printer list anew and selects the current printer, to which Cancel returns from now on. */
     void updateForm();
 
-    /** Full form only: shows what is known of the printer at @p index of the list; does nothing when there is none. */
+    /** Full form only: shows the details of the printer at @p index of the list; does nothing if it does not exist. */
     void updateLabels(int index);
 
     /** Closes with result 0. The CupsSupport and the QPrinter have the queues again that they had before. */
@@ -95,7 +96,7 @@ public:
 protected:
     /** Full form only: asks the scheduler for the states of the printers. */
     void showEvent(QShowEvent *event) override;
-    /** Shows the texts anew after a change of language, and makes room for them. */
+    /** Updates the texts after a change of language, and makes room for them. */
     void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:

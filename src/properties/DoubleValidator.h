@@ -7,10 +7,10 @@
 #include <QDoubleValidator>
 
 /**
- * Lets only numbers within the range be typed, with a decimal point in every locale.
+ * Accepts only numbers within the range, with a decimal point in every locale.
  *
- * Its base accepts any text that could still become a valid number, so that an out-of-range one may be typed and is
- * refused only at the end. Here the keystroke itself is refused; what may be continued is the empty text, a lone
+ * The base class accepts any text that could become a valid number, so an out-of-range one may be typed and is rejected
+ * only at the end. Here the keystroke itself is rejected; the only texts to be continued are the empty text, a lone
  * decimal point and, where the range reaches below zero, a lone minus sign.
  */
 class DoubleValidator : public QDoubleValidator

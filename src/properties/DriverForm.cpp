@@ -24,7 +24,7 @@ namespace {
 constexpr double millimetresPerInch = 25.4;
 constexpr double pointsPerInch = 72.0;
 
-const QString leftText = QStringLiteral("\u2013"); // in place of a number that the printer decides
+const QString leftText = QStringLiteral("\u2013"); // instead of a number that the printer decides
 
 struct Row
 {
@@ -187,7 +187,7 @@ void DriverForm::describeEdit(QLineEdit *edit, const char *setting)
     edit->setToolTip(PrintPropertiesDialog::tr("Empty: left to the printer (%1).").arg(leave));
 }
 
-// Above everything else; the form has no row for it, and most printers need none.
+// Above everything else: the form has no row for it because most printers do not need one.
 void DriverForm::showNote()
 {
     if (!note) {

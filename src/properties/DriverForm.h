@@ -20,8 +20,8 @@ class Ui_PrintPropertiesDialog;
 struct LabelSettings;
 
 /**
- * Fits the properties dialog's form to a driver of another make: fields that it lacks are disabled and say why, ranges and
- * lists are the driver's, and what is left to the printer is shown as such. For our own drivers it changes nothing.
+ * Fits the properties dialog's form to a driver of another make: fields that it lacks are disabled and say why, ranges
+ * and lists are the driver's, and what is left to the printer is shown as such. For our own drivers it changes nothing.
  */
 class DriverForm
 {

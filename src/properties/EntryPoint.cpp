@@ -22,8 +22,8 @@ namespace {
 // The dialog of this queue; of the default printer if it is null.
 int runDialog(const char *queue)
 {
-    // Qt would ask the scheduler for all destinations and the PPD file once more, and wait for it without a limit. Nothing
-    // is printed with this printer object: of its queue it only has to know the name.
+    // Qt would request all destinations and the PPD file again and wait without a limit. Nothing
+    // is printed with this printer object, so it only needs the name of the queue.
     std::optional<QPrinter> printer;
     Scheduler::callWithoutScheduler([&printer] { printer.emplace(QPrinter::ScreenResolution); });
     CupsSupport cups;

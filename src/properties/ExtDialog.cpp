@@ -33,7 +33,7 @@ constexpr QRect buttonsPlace(100, 50, 171, 31);
 // The index of " 0.00mm".
 constexpr int zeroIndex = 3;
 
-// The printer dots taken for a quarter millimetre. Deliberately a whole number, so that the offset is one as well; only
+// The printer dots per quarter millimetre. Deliberately a whole number, so that the offset is one too; only
 // a resolution of exactly 203 dpi has the small step.
 int dotsPerStep(const CupsSupport &cups)
 {
@@ -81,7 +81,7 @@ void ExtDialog::changeEvent(QEvent *event)
     }
 }
 
-// Moves the form's widgets apart where their texts need it, and to the other side where one reads from the right.
+// Moves the form's widgets apart if their texts need it, and to the other side for right-to-left languages.
 void ExtDialog::Private::makeRoom(QDialog &dialog) const
 {
     const QSize label = ui.offsetLabel->sizeHint();
@@ -102,7 +102,7 @@ void ExtDialog::Private::makeRoom(QDialog &dialog) const
 }
 
 // The button box is connected to accept() and reject() as well, which come first and end exec(). These two then only
-// repeat the hiding and the result, so that each of the two ways does the whole work when the other one is not taken.
+// repeat the hiding and the result, so that each of the two ways is sufficient by itself.
 
 void ExtDialog::on_buttonBox_accepted()
 {

@@ -16,7 +16,7 @@ class CupsSupport;
  * Lets the user shift the print position in steps of a quarter millimetre, from -0.75 mm to +0.75 mm.
  *
  * exec() returns 1 after OK, and the offset is then already saved as an option of the current printer; 0 after Cancel.
- * That it could not be saved is not reported. Needs a QApplication.
+ * Save failures are not reported. Needs a QApplication.
  */
 class PROPERTIESDIALOG_EXPORT ExtDialog : public QDialog
 {
@@ -28,10 +28,10 @@ public:
      * @param cups the offset of its current printer is shown and changed. Not owned; must outlive the dialog.
      */
     ExtDialog(QWidget *parent, CupsSupport *cups);
-    ~ExtDialog() override; ///< Leaves the objects that it was given alone.
+    ~ExtDialog() override; ///< Does not delete the objects passed to the constructor.
 
 protected:
-    /** Shows the texts anew after a change of language, and makes room for them. */
+    /** Updates the texts after a change of language, and makes room for them. */
     void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:

@@ -8,7 +8,7 @@
 #include <QLayout>
 #include <QWidget>
 
-/** What the dialogs need to know to make room for large fonts and long words in forms of fixed sizes. */
+/** Helps dialogs make room for large fonts and long words in forms of fixed sizes. */
 namespace FormRoom {
 
 /** Pixels; that of 10 points at 100 dpi. The forms' sizes are made for fonts up to this. */
@@ -26,7 +26,7 @@ inline bool isChangedBy(const QEvent &event)
            || event.type() == QEvent::LayoutDirectionChange;
 }
 
-/** Has all layouts ask their widgets again what they need. By themselves they do so only later, and only while shown. */
+/** Makes all layouts ask their widgets for their sizes again. Otherwise they do so later, and only while shown. */
 inline void freshenSizeHints(const QWidget &form)
 {
     const QList<QLayout *> layouts = form.findChildren<QLayout *>();

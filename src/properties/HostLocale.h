@@ -25,8 +25,8 @@ public:
     HostLocale &operator=(const HostLocale &) = delete;
 
     /**
-     * Restores all but the encoding of texts, in which Qt reads file names and key strokes. For the host's other threads,
-     * while this one waits for the user.
+     * Restores all but the encoding of texts, in which Qt reads file names and key strokes. For the host's other
+     * threads, while this one waits for the user.
      */
     void restoreFormats()
     {

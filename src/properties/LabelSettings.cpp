@@ -13,7 +13,7 @@ namespace {
 
 constexpr double millimetresPerInch = 25.4;
 
-// How a value goes over from the option to the form and back.
+// How a value is converted from the option to the form and back.
 
 struct AsItIs
 {
@@ -78,7 +78,7 @@ void forEachSetting(Function function)
     function("OffsetV", &S::offsetV, &C::getOffsetV, &C::setOffsetV, AsItIs());
 }
 
-// What is no number cannot be shown.
+// Only numbers can be shown.
 template<class Value>
 bool isShowable(const Value &)
 {

@@ -17,7 +17,7 @@ struct ModelFamily;
 /**
  * The settings of a label printer in the units of the form, on their way between the printer's options and the fields.
  *
- * A value that is missing here is one that a field cannot show, or does not hold: write() leaves its option alone.
+ * A missing value is one that a field cannot show or does not hold; write() does not change its option.
  */
 struct LabelSettings
 {
@@ -51,16 +51,16 @@ struct LabelSettings
     static constexpr std::array<Command, 4> commands{&LabelSettings::jobStart, &LabelSettings::labelStart,
                                                      &LabelSettings::labelEnd, &LabelSettings::jobEnd};
 
-    /** What a dialog shows that has no printer. */
+    /** The values shown without a printer. */
     static LabelSettings withoutPrinter(const ModelFamily &family);
 
     /** The settings of the current printer; without those that its driver does not have or leaves to the printer. */
     static LabelSettings read(const CupsSupport &cups, const DriverSettings &driver);
 
-    /** Drops what is the same in @p other: write() then leaves these options alone. */
+    /** Removes the values that are equal in @p other, so that write() does not change these options. */
     void forgetSame(const LabelSettings &other);
 
-    /** Stores what is here as options of the current printer, in memory. */
+    /** Stores the values as options of the current printer, in memory. */
     void write(CupsSupport &cups) const;
 };
 

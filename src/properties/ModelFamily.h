@@ -37,7 +37,7 @@ struct ModelFamily
      */
     bool isOffsetGroup;
 
-    /** The family of a queue; one without any marker has a family as well. */
+    /** The family of a queue. Queues without any marker also have a family. */
     static const ModelFamily &of(const QString &queueName);
 
     /** The setting that the stop field holds. */

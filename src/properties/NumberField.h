@@ -23,7 +23,7 @@ void acceptInches(std::initializer_list<QLineEdit *> edits, const ModelFamily::I
 /** Has @p edits accept whole numbers from -@p limit to @p limit only. They share a validator, owned by @p parent. */
 void acceptDots(std::initializer_list<QLineEdit *> edits, int limit, QObject *parent);
 
-/** @name What is shown; nothing for no number, so that what is stored stays */
+/** @name Showing a number; nothing if there is none, so that the stored value is kept */
 /** @{ */
 QString inchesText(std::optional<double> inches);
 QString wholeText(std::optional<int> number);

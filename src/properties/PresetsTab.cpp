@@ -56,8 +56,8 @@ bool PrintPropertiesDialog::updatePresets()
     return refill;
 }
 
-// By identity, for two presets may have one name. One of another collection is found by its name. One that the list does
-// not have, for lack of room or else, counts as its first.
+// By identity, because two presets may have the same name. A preset of another collection is found by its name. One
+// that the list does not have, for lack of room or otherwise, counts as its first.
 int PrintPropertiesDialog::Private::positionOf(Preset *preset, const QComboBox *list) const
 {
     const auto own = static_cast<int>(presets.listedPresets().indexOf(preset));
@@ -107,12 +107,12 @@ void PrintPropertiesDialog::setCurrentPreset(Preset *preset)
     if (preset == d->presets.currentPreset())
         return;
     d->presets.setCurrentPreset(preset);
-    // Other makes' drivers have no such command; their presets carry the page size as an option. And a script in the place
-    // of a preset that is not written yet is somebody else's.
+    // Other makes' drivers have no such command; their presets contain the page size as an option. And a script in
+    // place of a preset that has not been written belongs to another program.
     const bool hasCommand = !d->driver.isForeign() && !preset->isNew();
     const QString line = hasCommand ? DriverCommand::lineIn(preset->pathName()) : QString();
     if (!line.isEmpty()) {
-        // The command changes the PPD file at the scheduler; the next use opens it anew.
+        // The command changes the PPD file at the scheduler; the next use opens it again.
         d->cups->closePpdFile();
         DriverCommand::run(line);
     }
@@ -162,7 +162,7 @@ void PrintPropertiesDialog::on_preset1_currentIndexChanged(int iIndex)
     d->choosePreset(iIndex);
 }
 
-// Says what of the printer's values the preset would not give back, as its script cannot hold them.
+// Tells which of the printer's values the preset would not restore because its script cannot hold them.
 void PrintPropertiesDialog::Private::showPresetNote(Preset *preset)
 {
     QStringList names;
@@ -182,7 +182,7 @@ void PrintPropertiesDialog::Private::showPresetNote(Preset *preset)
     describe(ui.preset1, note);
 }
 
-// The commands are the settings that may be any text.
+// Only user commands can contain any text.
 QString PrintPropertiesDialog::Private::settingName(const QString &keyword) const
 {
     const std::pair<QLatin1String, const QRadioButton *> commandNames[] = {

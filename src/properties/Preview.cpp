@@ -35,10 +35,10 @@ public:
     PictureInterfaces &operator=(const PictureInterfaces &) = delete;
 };
 
-// Where a label of these proportions goes, @p usable being the size of the widget less a pixel on each side.
+// The position of a label of these proportions; @p usable is the size of the widget less one pixel on each side.
 //
 // A tall label scales with the usable width and a wide one with the usable height: the widget is square in the dialog,
-// and there it comes to the same. The margin is the truncated half of what is left over, taken off on both sides, so
+// where this makes no difference. The margin is the truncated half of the remainder, on both sides, so
 // that the label stays centred and an odd pixel goes to the label.
 QRect labelRect(double labelWidth, double labelHeight, const QSize &usable)
 {
@@ -57,7 +57,7 @@ QRect labelRect(double labelWidth, double labelHeight, const QSize &usable)
     return QRect(1, margin + 1, usable.width(), usable.height() - 2 * margin);
 }
 
-// The label in black and white. Where the screen has more pixels than @p size, so has the image, to be sharp there.
+// The label in black and white. On high-resolution screens, the image has more pixels than @p size, to be sharp.
 QImage labelImage(const QString &text, const QSize &size, qreal devicePixelRatio)
 {
     QImage image((QSizeF(size) * devicePixelRatio).toSize(), QImage::Format_Mono);
@@ -71,7 +71,7 @@ QImage labelImage(const QString &text, const QSize &size, qreal devicePixelRatio
 // An arrow of head and shaft, its tip at the origin, pointing left.
 constexpr QPoint arrowPoints[] = {{0, 0}, {10, 10}, {10, 5}, {30, 5}, {30, -5}, {10, -5}, {10, -10}, {0, 0}};
 
-// The arrow of this orientation, at the middle of its edge; empty when it is none.
+// The arrow of this orientation, at the middle of its edge; empty for an invalid orientation.
 //
 // The left and top arrows touch the first pixel of the widget, the right and bottom ones stop two pixels short of the
 // last: @p usable is two pixels smaller than the widget. The arrows are meant to be uneven in this.
@@ -115,7 +115,7 @@ void Preview::paintEvent(QPaintEvent *)
     const QRect target = labelRect(labelWidth, labelHeight, usable);
     QPainter painter(this);
 
-    // A widget or label without area leaves no label to draw.
+    // Without an area of widget or label there is nothing to draw.
     if (!target.isEmpty()) {
         QImage image = labelImage(tr("DL"), target.size(), std::max(1.0, devicePixelRatioF()));
         if (mirror) {

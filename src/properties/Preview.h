@@ -7,7 +7,7 @@
 #include <QWidget>
 
 /**
- * Shows how a label will come out of the printer: a sample text on a label of the right proportions, mirrored or in
+ * Shows how a label will be printed: a sample text on a label of the right proportions, mirrored or in
  * negative, and an arrow at the edge of the widget that stands for the orientation.
  *
  * Whoever changes a member calls update() afterwards.

@@ -93,7 +93,7 @@ QString withOptionNames(const QString &printerName, const DriverSettings &driver
     return printerName;
 }
 
-// Cutting the picture out of its background takes longer than loading the settings, and has the same outcome each time.
+// Cutting the picture out of its background takes longer than loading the settings and always has the same result.
 QIcon maskedIcon()
 {
     const QString file = QStringLiteral(":/b/printer.png");
@@ -197,14 +197,14 @@ void PrintPropertiesDialog::Private::hideUnusedRows()
             false);
 }
 
-// The form's sizes are made for usual fonts and short words. They stay where these fit; nothing is to be cut off.
+// The form's sizes suit usual fonts and short words. They are kept if the texts fit; nothing may be cut off.
 void PrintPropertiesDialog::Private::makeRoom()
 {
     widenFields();
     FormRoom::freshenSizeHints(*q);
     for (QGroupBox *box : {ui.previewGroupBox, ui.orientationGroupBox, ui.effectsGroupBox})
         box->setMinimumSize(box->minimumSize().expandedTo(box->minimumSizeHint()));
-    ui.tabs->updateGeometry(); // its pages do not tell it
+    ui.tabs->updateGeometry(); // its pages do not report their size to it
     const QMargins margins = q->layout()->contentsMargins();
     const int tabsWidth = ui.tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
     q->setFixedSize(q->size().expandedTo(q->minimumSizeHint()).expandedTo(QSize(tabsWidth, 0)));
@@ -225,7 +225,7 @@ void PrintPropertiesDialog::Private::widenFields()
     }
 }
 
-// The texts that stand in place of the form's.
+// The texts that replace the form's.
 void PrintPropertiesDialog::Private::showOwnTexts()
 {
     q->setWindowTitle(QObject::tr("%1 Printing Preferences").arg(printer ? printer->printerName() : QString()));
@@ -253,7 +253,7 @@ void PrintPropertiesDialog::Private::showGapLabels(int mediaType)
     }
 }
 
-// What a screen reader says of the picture, and of the one field that means something else with each choice beside it.
+// What a screen reader says about the preview, and about the field whose meaning depends on the chosen radio button.
 void PrintPropertiesDialog::Private::describeFields()
 {
     static constexpr const char *texts[] = {
@@ -353,7 +353,7 @@ LabelSettings PrintPropertiesDialog::Private::shown() const
     settings.inverse = ui.inverseCheckBox->isChecked();
     settings.speed = driver.isForeign() ? DriverForm::step(ui.speedValue) : ui.speedSlider->value();
     settings.darkness = driver.isForeign() ? DriverForm::step(ui.darknessValue) : ui.darknessSlider->value();
-    // A stored media type that the list does not have stays what it is, as does a cut.
+    // A stored media type or cut that its list does not have is kept.
     if (ui.mediaType->currentIndex() >= 0)
         settings.category = static_cast<CupsSupport::_Category>(ui.mediaType->currentIndex());
     if (const auto fields = gapFieldsOf(ui.mediaType->currentIndex())) {
@@ -419,8 +419,8 @@ bool PrintPropertiesDialog::Private::saveOptions()
     LabelSettings settings = shown();
     const LabelSettings before = std::exchange(loaded, settings);
     const bool isOutOfReach = hasFallbacks || cups->isPpdFileOutOfReach();
-    // Out of reach of the PPD file there is no telling the printer's defaults from the values that stand in for them. And
-    // what another make's driver leaves to the printer must not become a number; its choices are not as fine as the fields.
+    // Without access to the PPD file, the printer's defaults cannot be distinguished from fallbacks. And what another
+    // make's driver leaves to the printer must not become a number; its choices are not as fine as the fields.
     if (isOutOfReach || driver.isForeign())
         settings.forgetSame(before);
     if (!isOutOfReach)
@@ -441,7 +441,7 @@ void PrintPropertiesDialog::Private::savePageSize()
         driver.setUserPageSize(size * pointsPerInch);
 }
 
-// Another make's driver has the choice that is nearest to what was typed.
+// Another make's driver has the choice nearest to the typed size.
 void PrintPropertiesDialog::Private::showStored()
 {
     if (!driver.isForeign())
@@ -628,8 +628,8 @@ void PrintPropertiesDialog::on_horizontalEdit_textChanged(const QString &) { set
 void PrintPropertiesDialog::on_verticalEdit_textChanged(const QString &) { setChanged(true); }
 // clang-format on
 
-// The gap fields double as the black mark fields. A change of the media type fills them from the stored options and so
-// drops what was typed into them.
+// The gap fields are also the black mark fields. A change of the media type fills them from the stored options and thus
+// discards what was typed into them.
 void PrintPropertiesDialog::on_mediaType_currentIndexChanged(int iIndex)
 {
     d->showGapFields(iIndex);
@@ -664,8 +664,8 @@ void PrintPropertiesDialog::Private::showMediaRows(int mediaType)
 
 // ----- user commands -----
 
-// The text of the command edit. Unlike toPlainText() this keeps a no-break space, which would else be lost from a stored
-// command by merely looking at it.
+// The text of the command edit. Unlike toPlainText(), this keeps no-break spaces, which would otherwise be lost from a
+// stored command just by displaying it.
 QString PrintPropertiesDialog::Private::commandText() const
 {
     QString text = ui.commandEdit->document()->toRawText();
@@ -679,8 +679,8 @@ void PrintPropertiesDialog::Private::showCommand()
         ui.commandEdit->setPlainText(commands[commandSlot]);
 }
 
-// The slot changes before the text: the text-changed handler then compares with the new slot's string, finds no difference
-// and marks nothing changed.
+// The slot changes before the text: the text-changed handler then compares with the new slot's string, finds no
+// difference and marks nothing changed.
 void PrintPropertiesDialog::Private::selectCommand(bool isSelected, std::size_t slot)
 {
     if (!isSelected)
@@ -738,10 +738,10 @@ void PrintPropertiesDialog::changeEvent(QEvent *event)
         d->makeRoom();
 }
 
-// All texts but the items of the media type and cut lists, which deliberately stay those that the dialog was opened with.
+// All texts except the items of the media type and cut lists, which deliberately keep the language of the opening.
 void PrintPropertiesDialog::Private::retranslate()
 {
-    // Numbers have no language, and a stored one beyond the slider's range is shown as it is.
+    // Numbers are not translated, and a stored one beyond the slider's range is shown unchanged.
     const QString speed = ui.speedValue->text();
     const QString darkness = ui.darknessValue->text();
     ui.retranslateUi(q);

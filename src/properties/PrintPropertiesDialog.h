@@ -39,7 +39,7 @@ public:
      * Both @p printer and @p cups must outlive the dialog.
      */
     PrintPropertiesDialog(QWidget *parent, QPrinter *printer, CupsSupport *cups);
-    ~PrintPropertiesDialog() override; ///< Leaves the objects that it was given alone.
+    ~PrintPropertiesDialog() override; ///< Does not delete the objects passed to the constructor.
 
     /** Keeps the Enter key in the page size fields from closing the dialog. @return true for that key. */
     bool eventFilter(QObject *object, QEvent *event) override;
@@ -49,8 +49,8 @@ public:
 
     /**
      * Saves what the fields show: into the QPrinter, the user's options file and, when there are changes, the presets.
-     * A field that holds no number is skipped: its option keeps its value. While the printer's PPD
-     * file is out of reach, only fields that the user changed are saved: the others may show fallback values. See lastSaveSucceeded().
+     * A field that holds no number is skipped: its option keeps its value. While the printer's PPD file is out of
+     * reach, only fields that the user changed are saved: the others may show fallback values. See lastSaveSucceeded().
      */
     void saveValues();
 
@@ -111,7 +111,7 @@ public:
 protected:
     /** Loads the settings of the current printer into all fields, and counts them as unchanged. */
     void showEvent(QShowEvent *event) override;
-    /** Shows the texts anew after a change of language, and makes room for them. */
+    /** Updates the texts after a change of language, and makes room for them. */
     void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:

@@ -44,7 +44,7 @@ void PrinterProperties::set(QPrinter &printer, QPageLayout::Orientation orientat
         return;
     const QString custom = QStringLiteral("Custom");
     setEngineProperty(printer, cupsPageSizeProperty, custom);
-    // The size of the sheet as it is, whatever the orientation.
+    // The size of the sheet, regardless of the orientation.
     const QSizeF points = printer.pageLayout().pageSize().size(QPageSize::Point);
     const QString pageSize =
         custom + QStringLiteral(".%1x%2").arg(points.width(), 0, 'f', decimals).arg(points.height(), 0, 'f', decimals);

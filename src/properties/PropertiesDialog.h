@@ -14,8 +14,8 @@ extern "C" {
 /**
  * Opens the properties dialog of the default printer and waits until the user closes it.
  *
- * May be called by any program, from its main thread. If there is no QApplication yet, one is created for the duration of
- * the call, so a host needs no Qt code at all; the host's locale (setlocale()) is afterwards what it was before.
+ * May be called by any program, from its main thread. If there is no QApplication yet, one is created for the duration
+ * of the call, so a host needs no Qt code at all; the host's locale (setlocale()) is afterwards what it was before.
  *
  * Texts are in the user's language unless the host has installed translations of its own.
  *

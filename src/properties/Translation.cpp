@@ -14,7 +14,7 @@
 
 namespace {
 
-// Every catalogue translates this to something else than itself.
+// Every catalogue translates this to a different text.
 constexpr char someText[] = "Page Setup";
 
 bool isTranslated()
@@ -22,7 +22,7 @@ bool isTranslated()
     return QCoreApplication::translate("PrintPropertiesDialog", someText) != QLatin1String(someText);
 }
 
-// Where the library was installed to, then wherever data of programs is looked for.
+// Where the library was installed, then the standard data folders.
 QStringList folders()
 {
     return QStringList(BuildConstants::translationsDir)
@@ -69,7 +69,7 @@ void Translation::loadTextsOfQt()
     }
 }
 
-// Texts that are read from the right are laid out from there. Windows that the host shows already stay as they are.
+// Right-to-left languages mirror the layout. Windows that the host already shows are not changed.
 void Translation::turnAround()
 {
     if (QLocale(translator.language()).textDirection() != Qt::RightToLeft || QGuiApplication::isRightToLeft()

@@ -7,10 +7,10 @@
 #include <QTranslator>
 
 /**
- * The library's texts in the language of the default locale, for as long as this object lives.
+ * Translates the library's texts to the language of the default locale while this object exists.
  *
  * Does nothing if the host has installed a catalogue of these texts itself, or if there is none for the language.
- * With texts that are read from the right, windows run from there as well, unless the host has windows of its own.
+ * For right-to-left languages, windows are mirrored as well, unless the host has visible windows.
  */
 class Translation
 {

@@ -39,7 +39,7 @@ bool xServerAnswers()
     return answers;
 }
 
-// Whether somebody listens on a local socket.
+// Whether a server listens on a local socket.
 bool isListening(const QByteArray &path)
 {
     sockaddr_un address{};
@@ -53,7 +53,8 @@ bool isListening(const QByteArray &path)
     return listening;
 }
 
-// As libwayland: an inherited connection comes first, and a name is one in the folder of the session unless it is a path.
+// As libwayland: an inherited connection comes first, and a name is one in the folder of the session unless it is a
+// path.
 bool compositorAnswers()
 {
     if (qEnvironmentVariableIsSet("WAYLAND_SOCKET"))
@@ -62,7 +63,7 @@ bool compositorAnswers()
     return isListening(name.startsWith('/') ? name : qgetenv("XDG_RUNTIME_DIR") + '/' + name);
 }
 
-// The platforms that need somebody to show their windows. Others are available if their plug-in is.
+// The platforms that need a display server. Others are available if their plug-in is.
 struct DisplayServer
 {
     const char *platform; // variants of it begin with this name: "wayland-egl"
@@ -139,7 +140,7 @@ std::optional<QByteArray> WindowSystem::platforms()
     platforms.erase(std::remove_if(platforms.begin(), platforms.end(), std::not_fn(isUsable)), platforms.end());
     if (platforms.isEmpty())
         return std::nullopt;
-    // Between all of them the desktop's settings decide. A single one has to be named: without that Qt 5 tries X only.
+    // With all of them, the desktop's settings decide. A single one must be named, because otherwise Qt 5 only tries X.
     const bool isAnyGood = chosen.isEmpty() && platforms.size() == int(std::size(displayServers));
     return isAnyGood ? QByteArray() : platforms.join(';');
 }

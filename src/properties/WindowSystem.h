@@ -11,14 +11,14 @@
 /**
  * Where windows can be shown.
  *
- * Qt ends the process, whoever it belongs to, when a QApplication is made and no platform plug-in can be loaded or none
- * of them reaches its display. So that is found out beforehand.
+ * Qt aborts the host's process if a QApplication is created and no platform plug-in can be loaded or none
+ * of them can connect to its display. This is therefore checked first.
  */
 namespace WindowSystem {
 
 /**
- * The platforms that a QApplication can be made with: a value for Qt's option "-platform"; empty if Qt's own choice will do.
- * Nothing if there are none.
+ * The platforms that a QApplication can be made with: a value for Qt's option "-platform"; empty if Qt's own choice
+ * will do. Nothing if there are none.
  *
  * Needs a QCoreApplication, which knows the folders of plug-ins.
  */

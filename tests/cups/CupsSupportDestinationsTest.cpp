@@ -24,8 +24,8 @@ static QByteArrayList extraDefaults;
 // Whether the user has only one destination, the first.
 static bool isOneDestination = false;
 
-// With only a scheduler, libcups flags one destination; destinations found in the network can be flagged too. So the flags
-// are added on the way.
+// With only a scheduler, libcups flags one destination; destinations found in the network can be flagged too. So the
+// flags are added on the way.
 int cupsGetDests2(http_t *http, cups_dest_t **dests)
 {
     static const auto real = reinterpret_cast<decltype(&cupsGetDests2)>(dlsym(RTLD_NEXT, "cupsGetDests2"));

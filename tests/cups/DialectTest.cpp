@@ -11,8 +11,8 @@
 #include <cmath>
 
 /**
- * The label settings of printers of other makes. If one of these fails, a user of such a printer sees or stores something
- * else than the driver does.
+ * The label settings of printers of other makes. If one of these fails, a user of such a printer sees or stores
+ * something else than the driver does.
  */
 class DialectTest : public QObject
 {
@@ -488,7 +488,8 @@ void DialectTest::customPageSize()
     }
 }
 
-// A page size of the user's is stored within the limits of the driver, read by a new process, and gone when it is cleared.
+// A page size of the user's is stored within the limits of the driver, read by a new process, and gone when it is
+// cleared.
 void DialectTest::userPageSize()
 {
     {

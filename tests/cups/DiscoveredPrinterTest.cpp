@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// A user prints on a printer that was discovered on the network and has no queue yet. The scheduler is real and makes the
-// queue; only the record of the discovery is made here.
+// A user prints on a printer that was discovered on the network and has no queue yet. The scheduler is real and makes
+// the queue; only the record of the discovery is made here.
 
 #include "cups/PrintJob.h"
 #include "cups/Scheduler.h"
@@ -28,7 +28,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A port of this machine. Whoever connects waits in vain, as for a printer that hangs; once it is closed, nobody listens.
+// A port of this machine. Whoever connects waits in vain, as for a printer that hangs; once it is closed, nobody
+// listens.
 class Port
 {
 public:

@@ -254,8 +254,8 @@ void OptionsFileTest::valueReadsBack()
     QCOMPARE(saved(cups, "JobStart"), value);
 
     const Options options = freshlyRead({"LP1"});
-    // The PPD file declares a default, which an empty value overrides. It is stored as a blank: other programs would turn it
-    // into "true".
+    // The PPD file declares a default, which an empty value overrides. It is stored as a blank: other programs would
+    // turn it into "true".
     QVERIFY(options.contains("JobStart"));
     QCOMPARE(options.value("JobStart"), value.isEmpty() ? QByteArray(" ") : value);
     QCOMPARE(options.value("Feed"), QByteArray("24"));

@@ -12,8 +12,8 @@
 #include <functional>
 
 /**
- * Label printers of other makes, with the real drivers of CUPS and Debian. If one of these fails, a user sets something in
- * the dialog and the printer does something else.
+ * Label printers of other makes, with the real drivers of CUPS and Debian. If one of these fails, a user sets something
+ * in the dialog and the printer does something else.
  */
 class DriversTest : public QObject
 {
@@ -182,7 +182,8 @@ void DriversTest::printed_data()
         "True");
 }
 
-// What is set in the dialog is what other programs read, what it shows again, and what the printer gets, whoever prints.
+// What is set in the dialog is what other programs read, what it shows again, and what the printer gets, whoever
+// prints.
 void DriversTest::printed()
 {
     QFETCH(QByteArray, queue);

@@ -67,8 +67,8 @@ public:
         host.setProcessEnvironment(environment);
         host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         host.start(E2E_HOST, QStringList());
-        // Without a window manager, nothing gives a new window the keyboard focus, and the server refuses it until the window is
-        // visible.
+        // Without a window manager, nothing gives a new window the keyboard focus, and the server refuses it until the
+        // window is visible.
         waitFor("the dialog", [this] {
             if (state.isEmpty()) {
                 return false;

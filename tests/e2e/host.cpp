@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 //
-// A host that opens the properties dialog, and whose exit status is the dialog's result. Each line on its standard input
-// is answered by a line with the state of the dialog, as JSON: where its widgets are and what they show. It only reports:
-// the dialog must be operated by mouse and keyboard.
+// A host that opens the properties dialog, and whose exit status is the dialog's result. Each line on its standard
+// input is answered by a line with the state of the dialog, as JSON: where its widgets are and what they show. It only
+// reports: the dialog must be operated by mouse and keyboard.
 
 #include <PropertiesDialog/PropertiesDialog.h>
 

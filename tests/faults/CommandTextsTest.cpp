@@ -61,8 +61,8 @@ QChar randomCharacter(QRandomGenerator &random, int alphabet)
     }
 }
 
-// How long the text may get in the options file: a line break is a carriage return's escape sequence with two backslashes,
-// and some characters have a backslash before them.
+// How long the text may get in the options file: a line break is a carriage return's escape sequence with two
+// backslashes, and some characters have a backslash before them.
 int lengthInFile(const QString &text)
 {
     int length = 5;
@@ -86,15 +86,16 @@ QString randomText(QRandomGenerator &random, int room)
     return text;
 }
 
-// All that the edit holds, which is not always what it was given: QPlainTextEdit::toPlainText() makes blanks of no-break
-// spaces.
+// All that the edit holds, which is not always what it was given: QPlainTextEdit::toPlainText() makes blanks of
+// no-break spaces.
 QString heldBy(const QPlainTextEdit *edit)
 {
     QString text = edit->document()->toRawText();
     return text.replace(QChar::ParagraphSeparator, '\n').replace(QChar::LineSeparator, '\n');
 }
 
-// What must come back: Latin-1 without NUL, with a line break at the end; what looks like a stored line break becomes one.
+// What must come back: Latin-1 without NUL, with a line break at the end; what looks like a stored line break becomes
+// one.
 QString expectedOf(const QString &text)
 {
     if (text.isEmpty())

@@ -21,8 +21,8 @@
 #include <unistd.h>
 
 /**
- * What clients find on a socket instead of a scheduler, while this object exists. It runs as a separate process. Some faults are
- * those of something between the client and a real scheduler.
+ * What clients find on a socket instead of a scheduler, while this object exists. It runs as a separate process. Some
+ * faults are those of something between the client and a real scheduler.
  */
 class FaultyScheduler
 {

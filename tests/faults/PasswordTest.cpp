@@ -65,7 +65,8 @@ private:
     QTimer timer;
 };
 
-// Opens the properties dialog, and says for which queue it was and how often the user was asked: PASSWORDS, separated by commas
+// Opens the properties dialog, and says for which queue it was and how often the user was asked: PASSWORDS, separated
+// by commas
 int openDialog(int &argc, char **argv)
 {
     const QApplication app(argc, argv);

@@ -32,8 +32,8 @@ const Scheduler::Limits shortLimits{1500ms, 3000ms};
 // For a scheduler that is known not to answer.
 const Scheduler::Limits shortestLimits{300ms, 900ms};
 
-// The longest that one action of the user may take. The rest is for a machine that is busy; without limits it takes minutes
-// or for ever.
+// The longest that one action of the user may take. The rest is for a machine that is busy; without limits it takes
+// minutes or for ever.
 const qint64 longest = 3000 + 20000;
 
 // ----- actions, in processes of their own; each prints how many milliseconds it took -----

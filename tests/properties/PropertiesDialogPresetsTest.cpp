@@ -107,8 +107,8 @@ QStringList keywordsOf(const QByteArray &script)
     return keywords;
 }
 
-// In a separate process, because a printer of this family changes the library until it is unloaded: creates and saves a preset
-// there and chooses the default settings; then writes the script and what is left of the options.
+// In a separate process, because a printer of this family changes the library until it is unloaded: creates and saves a
+// preset there and chooses the default settings; then writes the script and what is left of the options.
 int workWithExtendedList(int &argc, char **argv)
 {
     const QApplication app(argc, argv);

@@ -62,8 +62,8 @@ inline Result run(const QStringList &command, const Environment &changes = {})
 }
 
 /**
- * Runs @p command in an X server of its own, waits for the window with this title, and presses @p keys in it, as xdotool
- * names them. With several pairs of title and keys, one after the other.
+ * Runs @p command in an X server of its own, waits for the window with this title, and presses @p keys in it, as
+ * xdotool names them. With several pairs of title and keys, one after the other.
  */
 inline Result press(const QStringList &command, const QList<QPair<QString, QString>> &titlesAndKeys,
                     const Environment &changes = {})
