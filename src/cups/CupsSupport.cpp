@@ -292,7 +292,7 @@ int CupsSupport::setDests()
         };
         changes.push_back(std::move(change));
     }
-    const QString reason = OptionsFile::save(changes);
+    const QString reason = OptionsFile::save(std::move(changes));
     Scheduler::setLastError(reason);
     if (!reason.isNull())
         return -1;

@@ -109,7 +109,7 @@ std::vector<QByteArray> OptionsFile::prepare(cups_dest_t *dests, int count)
     return snapshots;
 }
 
-QString OptionsFile::save(const std::vector<OptionsMerge::Change> &changes)
+QString OptionsFile::save(std::vector<OptionsMerge::Change> changes)
 {
     if (changes.empty())
         return {};
@@ -118,6 +118,9 @@ QString OptionsFile::save(const std::vector<OptionsMerge::Change> &changes)
     if (!UserFile::makeFolder(place.folder))
         return systemReason(place.folder);
     const Lock lock(place.folder);
+    const QByteArray home = OptionsPlace::home(circumstances);
+    for (OptionsMerge::Change &change : changes)
+        change.savedEarlier = OptionsMemory::recall(home, change.name, change.instance);
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
         UserFile file(place.file(), UserFile::Links::Follow);
         QByteArray content;
@@ -136,8 +139,8 @@ QString OptionsFile::save(const std::vector<OptionsMerge::Change> &changes)
                 return systemReason(place.file());
         }
         for (const OptionsMerge::Written &written : merged.written)
-            OptionsMemory::remember(OptionsPlace::home(circumstances), written.change->name, written.change->instance,
-                                    written.options, &OptionsSyntax::readWithLibcups);
+            OptionsMemory::remember(home, written.change->name, written.change->instance, written.options,
+                                    &OptionsSyntax::readWithLibcups);
         return {};
     }
     errno = EBUSY;

@@ -38,7 +38,7 @@ std::vector<QByteArray> prepare(cups_dest_t *dests, int count);
  * @return a null string when saved. Else why not, for the user; the file is as it was. libcups cannot read a line break in a
  *         value, or a line of more than 8191 bytes.
  */
-QString save(const std::vector<OptionsMerge::Change> &changes);
+QString save(std::vector<OptionsMerge::Change> changes);
 
 } // namespace OptionsFile
 

@@ -94,16 +94,21 @@ void OptionsMemory::remember(const QByteArray &home, const QByteArray &name, con
         file.replace(text);
 }
 
+OptionArray OptionsMemory::recall(const QByteArray &home, const QByteArray &name, const QByteArray &instance)
+{
+    const QByteArray folder = folderFor(home, name, instance);
+    QByteArray text;
+    if (folder.isEmpty() || !UserFile(folder + fileName, UserFile::Links::Keep).read(text))
+        return {};
+    return fromFileText(text);
+}
+
 void OptionsMemory::restore(const QByteArray &home, cups_dest_t &dest, const OptionsSyntax::Reader &reader)
 {
-    const QByteArray folder = folderFor(home, dest.name, dest.instance);
-    if (folder.isEmpty())
+    const OptionArray saved = recall(home, dest.name, dest.instance);
+    if (saved.size() == 0)
         return;
-    QByteArray text;
-    UserFile file(folder + fileName, UserFile::Links::Keep);
-    if (!file.read(text) || text.isEmpty())
-        return;
-    const OptionArray found = lost(fromFileText(text), OptionArray(dest), reader);
+    const OptionArray found = lost(saved, OptionArray(dest), reader);
     for (const cups_option_t &option : found)
         dest.num_options = cupsAddOption(option.name, option.value, dest.num_options, &dest.options);
 }

@@ -27,10 +27,13 @@ namespace OptionsMemory {
 void remember(const QByteArray &home, const QByteArray &name, const QByteArray &instance, const OptionArray &options,
               const OptionsSyntax::Reader &reader);
 
+/** What remember() keeps for a destination; empty when it keeps nothing. */
+OptionArray recall(const QByteArray &home, const QByteArray &name, const QByteArray &instance);
+
 /** Puts the saved values back into options that were just read. */
 void restore(const QByteArray &home, cups_dest_t &dest, const OptionsSyntax::Reader &reader);
 
-/** The same for any pair of saved and stored options: what of the saved ones is to be put back. */
+/** What of the saved options is to be put back into those that are stored. */
 OptionArray lost(const OptionArray &saved, const OptionArray &stored, const OptionsSyntax::Reader &reader);
 
 } // namespace OptionsMemory

@@ -3,6 +3,8 @@
 
 #include "cups/OptionsMerge.h"
 
+#include "cups/OptionsMemory.h"
+
 #include <QHash>
 
 #include <cerrno>
@@ -181,10 +183,14 @@ OptionsMerge::Result OptionsMerge::merge(const QByteArray &content, const std::v
             options.parse(entry.options.constData());
             head.isDefault = head.isDefault || entry.isDefault;
         }
-        const OptionArray wanted = changed(options, change);
-        if (wanted == options)
+        if (changed(options, change) == options)
             continue;
-        Written written{&change, cleaned(wanted, change)};
+        // What other programs have damaged would be remembered as the new value otherwise.
+        OptionArray restored = options;
+        const OptionArray lost = OptionsMemory::lost(change.savedEarlier, options, reader);
+        for (const cups_option_t &option : lost)
+            restored.set(option.name, option.value);
+        Written written{&change, cleaned(changed(restored, change), change)};
 
         // A line "Dest" for the server's default printer would leave all programs without a default.
         if (earlier.isEmpty() && change.isDefault && !lines.hasDefault)

@@ -27,6 +27,7 @@ struct Change
     bool isDefault = false; ///< for a new line: whether it is the default printer
     OptionArray set;
     QList<QByteArray> removed;
+    OptionArray savedEarlier; ///< see OptionsMemory
 
     /**
      * Whether an option has to be overridden by an empty value, which is then stored as one blank, because other

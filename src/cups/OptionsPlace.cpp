@@ -10,6 +10,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <tuple>
@@ -20,9 +21,10 @@ namespace {
 QByteArray libcupsName()
 {
     const QByteArray hostText = cupsUserAgent();
+    cupsEncryption(); // so that libcups reads client.conf, without which newer ones give no name
     cupsSetUserAgent(nullptr);
     QByteArray name = cupsUserAgent();
-    if (hostText != name)
+    if (hostText != name && !hostText.isEmpty())
         cupsSetUserAgent(hostText.constData());
     return name;
 }
@@ -31,8 +33,16 @@ QByteArray libcupsName()
 
 OptionsPlace::Circumstances OptionsPlace::fromVersion(const QByteArray &name)
 {
+    int version[] = {CUPS_VERSION_MAJOR, CUPS_VERSION_MINOR, CUPS_VERSION_PATCH};
+    int found[] = {0, 0, 0};
+    const int count = std::sscanf(name.constData(), "CUPS/%d.%d.%d", &found[0], &found[1], &found[2]);
+    // How much libcups tells is set in client.conf. As far as it tells nothing else, it is the one that this was built with.
+    if (count > 0 && !std::equal(found, found + count, version))
+        std::copy(found, found + 3, version);
     Circumstances circumstances;
-    std::sscanf(name.constData(), "CUPS/%d.%d.%d", &circumstances.major, &circumstances.minor, &circumstances.patch);
+    circumstances.major = version[0];
+    circumstances.minor = version[1];
+    circumstances.patch = version[2];
     return circumstances;
 }
 

@@ -23,7 +23,10 @@ struct Circumstances
     QByteArray homeOfUser; ///< from the user database, for a process without HOME
 };
 
-/** Only the version, from the name that libcups gives itself: "CUPS/2.4.2 (Linux ...)". */
+/**
+ * Only the version, from the name that libcups gives itself: "CUPS/2.4.2 (Linux ...)". What is not told there is as in the
+ * libcups that this was built with.
+ */
 Circumstances fromVersion(const QByteArray &name);
 
 /** Those of this process, with the libcups that runs, which need not be the one it was built with. */

@@ -212,6 +212,11 @@ void OptionsMemoryTest::merging()
                         "Dest LP1 JobStart=\"A\\\\\\\\\\\\\\\\rB\\\\\\\\\\\\\\\\r\" X=\"\\\\\\\\r\"\n"));
     QCOMPARE(result.written.size(), std::size_t(1));
     QCOMPARE(text(result.written.at(0).options), "JobStart=" + command + "\nX=\\r\n");
+
+    // X was saved with two backslashes, and another program has rewritten the file.
+    changes[0].savedEarlier.set("X", "\\\\r");
+    const OptionsMerge::Result restored = OptionsMerge::merge("Dest LP1 X=\"\\\\\\\\r\"\n", changes, &readLikeNewer);
+    QCOMPARE(text(restored.written.at(0).options), "JobStart=" + command + "\nX=\\\\r\n");
 }
 
 void OptionsMemoryTest::restored_data()

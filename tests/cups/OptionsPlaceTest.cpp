@@ -11,6 +11,19 @@
 using OptionsPlace::Circumstances;
 using Environment = QMap<QByteArray, QByteArray>;
 
+namespace {
+
+QByteArray text(const Circumstances &version)
+{
+    return QByteArray::number(version.major) + '.' + QByteArray::number(version.minor) + '.'
+           + QByteArray::number(version.patch);
+}
+
+const QByteArray built = QByteArray::number(CUPS_VERSION_MAJOR) + '.' + QByteArray::number(CUPS_VERSION_MINOR) + '.'
+                         + QByteArray::number(CUPS_VERSION_PATCH);
+
+} // namespace
+
 class OptionsPlaceTest : public QObject
 {
     Q_OBJECT
@@ -18,6 +31,8 @@ class OptionsPlaceTest : public QObject
 private slots:
     void place_data();
     void place();
+    void version_data();
+    void version();
     void versionOfTheRunningLibrary();
 };
 
@@ -93,6 +108,28 @@ void OptionsPlaceTest::place()
     QCOMPARE(found.isSystemWide, isSystemWide);
 }
 
+void OptionsPlaceTest::version_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("version");
+    QTest::newRow("2.4") << QByteArray("CUPS/9.8.7 (Linux 6.1; x86_64) IPP/2.0") << QByteArray("9.8.7");
+    QTest::newRow("newer") << QByteArray("CUPS/9.8.17 IPP/2.1") << QByteArray("9.8.17");
+    QTest::newRow("beta") << QByteArray("CUPS/9.8b1 IPP/2.1") << QByteArray("9.8.0");
+    QTest::newRow("none") << QByteArray("") << built;
+    QTest::newRow("product only") << QByteArray("CUPS IPP") << built;
+    QTest::newRow("major") << QByteArray("CUPS/" + QByteArray::number(CUPS_VERSION_MAJOR) + " IPP/2") << built;
+    QTest::newRow("minor") << QByteArray("CUPS/" + built.left(built.lastIndexOf('.')) + " IPP/2.1") << built;
+    QTest::newRow("other minor") << QByteArray("CUPS/9.8 IPP/2.1") << QByteArray("9.8.0");
+}
+
+// The administrator decides in client.conf how much libcups tells of its version.
+void OptionsPlaceTest::version()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QByteArray, version);
+    QCOMPARE(text(OptionsPlace::fromVersion(name)), version);
+}
+
 // Also when the host has given libcups a name of its own, which stays.
 void OptionsPlaceTest::versionOfTheRunningLibrary()
 {
@@ -100,9 +137,8 @@ void OptionsPlaceTest::versionOfTheRunningLibrary()
     const Circumstances found = OptionsPlace::current();
     QCOMPARE(QByteArray(cupsUserAgent()), QByteArray("Labels/1.0"));
     cupsSetUserAgent(nullptr);
-    const QByteArray version = "CUPS/" + QByteArray::number(found.major) + '.' + QByteArray::number(found.minor);
-    QVERIFY2(QByteArray(cupsUserAgent()).startsWith(version), cupsUserAgent());
-    QVERIFY(found.major >= 2);
+    const QByteArray start = "CUPS/" + text(found) + ' ';
+    QVERIFY2(QByteArray(cupsUserAgent()).startsWith(start), cupsUserAgent());
 }
 
 QTEST_GUILESS_MAIN(OptionsPlaceTest)

@@ -362,6 +362,7 @@ void SavingFaultsTest::presetScript()
     QCOMPARE(content(scriptPath()), earlierScript);
     QCOMPARE(filesIn(folder() + "/LP1"), QStringList("P.sh"));
 
+    chmod(QFile::encodeName(folder() + "/LP1").constData(), 0700);
     chmod(QFile::encodeName(scriptPath()).constData(), 0700);
     QCOMPARE(inCopy([&] { return preset->save({}) && preset->state() == Preset::Clean ? 0 : 1; }), 0);
     QVERIFY(content(scriptPath()).contains(longValue));
