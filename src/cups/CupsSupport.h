@@ -414,8 +414,8 @@ public:
 private:
     struct Q_DECL_HIDDEN Private;
 
-    cups_dest_t *currentDest() const;
-    void openPpdFile() const;
+    Q_DECL_HIDDEN cups_dest_t *currentDest() const;
+    Q_DECL_HIDDEN void openPpdFile() const;
 
     int currentIndex = 0;
     int destCount = 0;
