@@ -396,12 +396,12 @@ std::vector<Dialect::Choice> Dialect::choices(const CupsSupport &cups, const cha
     return list;
 }
 
-QStringList Dialect::keywords(const CupsSupport &cups) const
+QStringList Dialect::keywords(const CupsSupport &cups, const char *setting) const
 {
     QStringList list;
     for (int i = 0; i < count; ++i) {
         const Counterpart found(cups, settings[i]);
-        if (!found.exists())
+        if (qstrcmp(settings[i].setting, setting) != 0 || !found.exists())
             continue;
         list << QString::fromLatin1(settings[i].keyword);
         for (const DriverValue &value : settings[i].values)
@@ -410,5 +410,13 @@ QStringList Dialect::keywords(const CupsSupport &cups) const
                     list << QString::fromLatin1(condition.keyword);
     }
     list.removeDuplicates();
+    return list;
+}
+
+QStringList Dialect::keywords(const CupsSupport &cups) const
+{
+    QStringList list;
+    for (int i = 0; i < count; ++i)
+        list << keywords(cups, settings[i].setting);
     return list;
 }

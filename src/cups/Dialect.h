@@ -69,6 +69,9 @@ struct Dialect
     /** The values that the PPD file lists for @p setting, in ascending order, without the one that leaves it open. */
     std::vector<Choice> choices(const CupsSupport &cups, const char *setting) const;
 
+    /** The driver's keywords for one setting; empty when the current printer does not have it. */
+    QStringList keywords(const CupsSupport &cups, const char *setting) const;
+
     /** The driver's keywords for all settings that the current printer has, in the order of the table. */
     QStringList keywords(const CupsSupport &cups) const;
 

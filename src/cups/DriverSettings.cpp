@@ -73,6 +73,11 @@ void DriverSettings::leaveToPrinter(const char *setting)
         dialect->leaveToPrinter(cups, setting);
 }
 
+QStringList DriverSettings::keywords(const char *setting) const
+{
+    return dialect ? dialect->keywords(cups, setting) : QStringList(QLatin1String(setting));
+}
+
 QStringList DriverSettings::presetKeywords() const
 {
     if (!dialect)

@@ -65,6 +65,9 @@ public:
     /** Leaves the setting to the printer, where the driver has a choice for that. */
     void leaveToPrinter(const char *setting);
 
+    /** The keywords of the PPD file that a setting is stored under. */
+    QStringList keywords(const char *setting) const;
+
     /**
      * The keywords that a preset of this printer carries: the driver's, the orientation and the page size. Empty when
      * the kind is Own.

@@ -12,6 +12,7 @@
 
 #include <QDialog>
 #include <QLayout>
+#include <QPalette>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -24,6 +25,7 @@ namespace {
 constexpr double millimetresPerInch = 25.4;
 constexpr double pointsPerInch = 72.0;
 
+constexpr QRgb conflictColour = 0xffc01c28; // dark red; readable on light and on dark
 const QString leftText = QStringLiteral("\u2013"); // instead of a number that the printer decides
 
 struct Row
@@ -40,7 +42,9 @@ std::vector<Row> rowsOf(const Ui_PrintPropertiesDialog &ui)
         {"MirrorPrint", {ui.mirroredCheckBox}},
         {"NegativePrint", {ui.inverseCheckBox}},
         {"LabelCategory", {ui.mediaTypeLabel, ui.mediaType}},
-        {"GapSize", {ui.gapSizeLabel, ui.gapSize, ui.gapSizeUnits}}, // of marks as well
+        {"GapSize", {ui.gapSizeLabel, ui.gapSize, ui.gapSizeUnits}},
+        {"MarkSize", {ui.gapSizeLabel, ui.gapSize, ui.gapSizeUnits}},
+        {"MarkOffset", {ui.gapOffsetLabel, ui.gapOffset, ui.gapOffsetUnits}},
         {"GapOffset", {ui.gapOffsetLabel, ui.gapOffset, ui.gapOffsetUnits}},
         {"CutMedia", {ui.cutLabel, ui.cut}},
         {"Feed", {ui.feedLabel, ui.feed, ui.feedUnits}},
@@ -217,6 +221,54 @@ void DriverForm::showStep(QSlider *slider, QLabel *label, const char *setting, i
     slider->setValue(value ? roundHalfUp(*value) : fallback);
     label->setText(value ? stepText(*value) : leftText);
     describeSlider(slider, label, setting);
+}
+
+// ----- conflicts -----
+
+void DriverForm::markConflicts(const std::vector<Conflicts::Pair> &pairs)
+{
+    clearMarks();
+    if (pairs.empty())
+        return;
+    std::vector<Row> rows = rowsOf(ui);
+    rows.push_back({"PageSize", {ui.stockGroupBox}});
+    for (const Conflicts::Pair &pair : pairs) {
+        const QString text =
+            PrintPropertiesDialog::tr("%1 and %2 cannot be used together.").arg(pair.texts[0], pair.texts[1]);
+        for (const Row &row : rows) {
+            const bool isPageSize = std::strcmp(row.setting, "PageSize") == 0;
+            const QStringList keywords =
+                isPageSize ? QStringList(QStringLiteral("PageSize")) : driver.keywords(row.setting);
+            if (keywords.contains(pair.keywords[0]) || keywords.contains(pair.keywords[1]))
+                for (QWidget *widget : row.widgets)
+                    mark(widget, text);
+        }
+    }
+}
+
+// In the colour of warnings, with the tool tip and what a screen reader says.
+void DriverForm::mark(QWidget *widget, const QString &text)
+{
+    const bool isMarked =
+        std::any_of(marked.begin(), marked.end(), [widget](const auto &known) { return known.first == widget; });
+    if (!isMarked)
+        marked.emplace_back(widget, widget->toolTip());
+    QPalette palette = widget->palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+        for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            palette.setColor(group, role, QColor(conflictColour));
+    widget->setPalette(palette);
+    widget->setToolTip(isMarked ? widget->toolTip() + QLatin1Char('\n') + text : text);
+    widget->setAccessibleDescription(widget->toolTip());
+}
+
+void DriverForm::clearMarks()
+{
+    for (const auto &[widget, toolTip] : std::exchange(marked, {})) {
+        widget->setPalette(QPalette());
+        widget->setToolTip(toolTip);
+        widget->setAccessibleDescription(QString());
+    }
 }
 
 std::optional<int> DriverForm::step(const QLabel *label)

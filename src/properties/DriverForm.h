@@ -4,18 +4,21 @@
 #ifndef DRIVERFORM_H
 #define DRIVERFORM_H
 
+#include "cups/Conflicts.h"
 #include "cups/DriverSettings.h"
 
-#include <QSizeF>
 #include <QString>
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 class QComboBox;
 class QDialog;
 class QLabel;
 class QLineEdit;
 class QSlider;
+class QWidget;
 class Ui_PrintPropertiesDialog;
 struct LabelSettings;
 
@@ -44,6 +47,9 @@ public:
     /** Shows the sliders' values as the driver has them: fractions, or that they are left to the printer. */
     void showSteps();
 
+    /** Marks the fields of options that do not go together, and no others. */
+    void markConflicts(const std::vector<Conflicts::Pair> &pairs);
+
     /** The whole number that a slider's label shows; nothing for another one, or when it is left to the printer. */
     static std::optional<int> step(const QLabel *label);
 
@@ -58,11 +64,14 @@ private:
     void describeSlider(QSlider *slider, QLabel *label, const char *setting);
     void describeEdit(QLineEdit *edit, const char *setting);
     void showNote();
+    void mark(QWidget *widget, const QString &text);
+    void clearMarks();
 
     QDialog &dialog;
     Ui_PrintPropertiesDialog &ui;
     const DriverSettings &driver;
     QLabel *note = nullptr; // goes with the dialog
+    std::vector<std::pair<QWidget *, QString>> marked; // with the tool tips that they had before
 };
 
 #endif

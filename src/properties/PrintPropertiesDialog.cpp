@@ -284,6 +284,7 @@ void PrintPropertiesDialog::Private::describe(QWidget *widget, const QString &te
 
 void PrintPropertiesDialog::updateDialog()
 {
+    d->fillingFields = true;
     d->showPageSize();
     d->showFamily();
     LabelSettings settings = LabelSettings::withoutPrinter(d->family);
@@ -296,6 +297,8 @@ void PrintPropertiesDialog::updateDialog()
     d->loaded = d->shown();
     d->hasFallbacks = d->cups && d->cups->isPpdFileOutOfReach();
     updatePreview();
+    d->fillingFields = false;
+    d->markConflicts();
 }
 
 void PrintPropertiesDialog::Private::showPageSize()
@@ -416,28 +419,59 @@ bool PrintPropertiesDialog::lastSaveSucceeded() const
 
 bool PrintPropertiesDialog::Private::saveOptions()
 {
+    storeFields();
+    loaded = shown();
+    loadedPageSize = userPageSize();
+    const bool isStored = cups->setDests() == 0;
+    showStored();
+    return isStored;
+}
+
+// Into the working copy.
+void PrintPropertiesDialog::Private::storeFields()
+{
     LabelSettings settings = shown();
-    const LabelSettings before = std::exchange(loaded, settings);
+    const LabelSettings all = settings;
     const bool isOutOfReach = hasFallbacks || cups->isPpdFileOutOfReach();
     // Without access to the PPD file, the printer's defaults cannot be distinguished from fallbacks. And what another
     // make's driver leaves to the printer must not become a number; its choices are not as fine as the fields.
     if (isOutOfReach || driver.isForeign())
-        settings.forgetSame(before);
+        settings.forgetSame(loaded);
     if (!isOutOfReach)
-        settings.orientation = loaded.orientation; // an option of the job, which no driver has a default for
+        settings.orientation = all.orientation; // an option of the job, which no driver has a default for
     settings.write(*cups);
-    form.leaveToPrinter(driver, before, loaded);
+    form.leaveToPrinter(driver, loaded, all);
     savePageSize();
-    const bool isStored = cups->setDests() == 0;
-    showStored();
-    return isStored;
+}
+
+// What saving would store, without storing it.
+QStringList PrintPropertiesDialog::Private::optionsOfFields()
+{
+    const QStringList before = cups->cupsOptions();
+    storeFields();
+    const QStringList options = cups->cupsOptions();
+    QStringList keywords;
+    for (QStringList::size_type i = 0; i < options.size(); i += 2)
+        keywords << options.at(i);
+    cups->deleteOptions(keywords);
+    cups->setOptions(before);
+    for (QStringList::size_type i = 0; i + 1 < before.size(); i += 2)
+        if (before.at(i + 1).isEmpty()) // which setOptions() takes for a removal
+            cups->setValue(before.at(i).toLatin1().constData(), "");
+    return options;
+}
+
+void PrintPropertiesDialog::Private::markConflicts()
+{
+    if (cups && !fillingFields && Conflicts::arePossible(*cups))
+        form.markConflicts(Conflicts::among(*cups, optionsOfFields()));
 }
 
 // Our own drivers are given the page size by their command.
 void PrintPropertiesDialog::Private::savePageSize()
 {
     const QSizeF size = userPageSize();
-    if (driver.kind() != DriverSettings::Kind::Own && size != std::exchange(loadedPageSize, size))
+    if (driver.kind() != DriverSettings::Kind::Own && size != loadedPageSize)
         driver.setUserPageSize(size * pointsPerInch);
 }
 
@@ -447,9 +481,11 @@ void PrintPropertiesDialog::Private::showStored()
     if (!driver.isForeign())
         return;
     const bool wasChanged = changed;
+    fillingFields = true;
     showPageSize();
     show(LabelSettings::read(*cups, driver));
     loaded = shown();
+    fillingFields = false;
     q->setChanged(wasChanged);
 }
 
@@ -493,6 +529,8 @@ bool PrintPropertiesDialog::Private::saveCurrentSettings(const QSizeF &size, con
 
 void PrintPropertiesDialog::setChanged(bool value)
 {
+    if (value)
+        d->markConflicts();
     if (value == d->changed)
         return;
     d->changed = value;

@@ -60,6 +60,9 @@ struct PrintPropertiesDialog::Private
     void selectCommand(bool isSelected, std::size_t slot);
 
     bool saveOptions();
+    void storeFields();
+    QStringList optionsOfFields();
+    void markConflicts();
     QSizeF userPageSize() const;
     void savePageSize();
     void takePageSize(Preset &preset);
@@ -85,6 +88,7 @@ struct PrintPropertiesDialog::Private
     Preview *preview = nullptr; // goes with the frame that it is in
     QAction *presetNote = nullptr; // goes with the name field that it is in
     bool updatingPresets = false;
+    bool fillingFields = true; // until they are filled for the first time
     bool changed = true;
     bool isSaved = true; // whether the last saving succeeded
     LabelSettings loaded; // what the fields held when they were last loaded or saved

@@ -45,6 +45,9 @@ private slots:
     void familyMarkersAreIgnored();
     void noLabelSettings();
 
+    void conflictsOfAnotherMake();
+    void conflictsOfOurOwn();
+
 private:
     using Action = std::function<void(OpenDialog &)>;
 
@@ -88,6 +91,12 @@ void DriversTest::initTestCase()
         scheduler->addQueue(name, ppds.ppd(name));
     scheduler->addQueue("ql820", ppds.ppd("ptouch:QL-820NWB"));
     scheduler->addQueue("ZED-KERN", ppds.ppd("zebra"));
+    scheduler->addQueue(
+        "own", scheduler->editedPpd(PrivateScheduler::samplePpd("label-203"),
+                                    {{"*DefaultFont: Courier", "*UIConstraints: *Darkness 19 *PrintSpeed 5\n"
+                                                               "*UIConstraints: *PrintSpeed 5 *Darkness 19\n"
+                                                               "*UIConstraints: *PageSize w288h432 *Resolution 203dpi\n"
+                                                               "*DefaultFont: Courier"}}));
 }
 
 void DriversTest::init()
@@ -577,6 +586,52 @@ void DriversTest::noLabelSettings()
 
     OpenDialog zebra{QString("zebra")};
     QVERIFY(!zebra.dialog.findChild<QLabel *>("noLabelSettingsNote"));
+}
+
+// ----- conflicts -----
+
+// Settings that the PPD file does not allow together are marked as soon as they meet, and no longer when they part.
+void DriversTest::conflictsOfAnotherMake()
+{
+    scheduler->setUserOptions("intelbar", {"inCutInterval=2"});
+    OpenDialog open{QString("intelbar")};
+    const QStringList before = open.cups.cupsOptions();
+    open.dialog.show();
+    const QString text = "Print and Cut: Every 2 Labels and Print Mode: Standard cannot be used together.";
+    QCOMPARE(open.widget("cut")->toolTip(), text);
+    QCOMPARE(open.widget("cut")->accessibleDescription(), text);
+    QVERIFY(open.widget("cutLabel")->palette() != open.widget("mediaTypeLabel")->palette());
+    open.list("cut")->setCurrentText("Cut After Page");
+    QCOMPARE(open.widget("cut")->toolTip(), QString());
+    QCOMPARE(open.widget("cutLabel")->palette().color(QPalette::WindowText),
+             open.widget("verticalLabel")->palette().color(QPalette::Active, QPalette::WindowText));
+    open.list("cut")->setCurrentText("No Cut");
+    QCOMPARE(open.widget("cut")->toolTip(), text);
+    QCOMPARE(open.cups.cupsOptions(), before); // nothing is stored by looking
+}
+
+void DriversTest::conflictsOfOurOwn()
+{
+    OpenDialog open{QString("own"), {"PrintSpeed", "5", "JobStart", "^FD#1"}};
+    open.cups.setValue("LabelEnd", "");
+    const QStringList before = open.cups.cupsOptions();
+    open.dialog.show();
+    QCOMPARE(open.widget("darknessSlider")->toolTip(), QString());
+    open.widget<QSlider>("speedSlider")->setRange(1, 5);
+    open.slide("speedSlider", 5);
+    open.slide("darknessSlider", 19);
+    const QString text = "Darkness: 19 and Print Speed: 5 cannot be used together.";
+    QVERIFY(QStringList({text, "Print Speed: 5 and Darkness: 19 cannot be used together."})
+                .contains(open.widget("darknessSlider")->toolTip()));
+    QCOMPARE(open.widget("speedSlider")->toolTip(), open.widget("darknessSlider")->toolTip());
+    QCOMPARE(open.widget("cut")->toolTip(), QString());
+    open.slide("darknessSlider", 18);
+    QCOMPARE(open.widget("darknessSlider")->toolTip(), QString());
+    QCOMPARE(open.cups.cupsOptions(), before);
+    open.slide("darknessSlider", 19);
+    open.click("applyButton"); // the dialog saves what it is told
+    QCOMPARE(storedOptions("own").value("Darkness"), QByteArray("19"));
+    QCOMPARE(storedOptions("own").value("PrintSpeed"), QByteArray("5"));
 }
 
 PROPERTIESDIALOG_TEST_MAIN(DriversTest)
