@@ -3,15 +3,19 @@
 
 // label-printer-properties: the properties dialog for users without a host application.
 
+#include "PrinterList.h"
+
+#include "properties/Translation.h"
+#include "properties/WindowSystem.h"
+
 #include <PropertiesDialog/CupsSupport.h>
 #include <PropertiesDialog/PrintPropertiesDialog.h>
 #include <PropertiesDialog/PropertiesDialog.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLocale>
-#include <QPrinter>
-#include <QTranslator>
+#include <QIcon>
+#include <QMessageBox>
 
 #include <cstdio>
 #include <optional>
@@ -21,12 +25,25 @@ namespace {
 enum ExitStatus {
     saved = 0,
     cancelled = 1,
-    wrongUsage = 2
+    impossible = 2, // wrong usage, no printer, no display
+    unsaved = 3
 };
+
+constexpr char programName[] = "label-printer-properties";
 
 struct Program
 {
     Q_DECLARE_TR_FUNCTIONS(Program)
+};
+
+// What QCommandLineParser says, for our own catalogues: many of Qt's lack some of it, and Qt's may not be installed.
+[[maybe_unused]] constexpr const char *textsOfParser[] = {
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Usage: %1"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "[options]"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Options:"),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown option '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Missing value after '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unexpected value after '%1'."),
 };
 
 void print(FILE *stream, const QString &line)
@@ -36,106 +53,211 @@ void print(FILE *stream, const QString &line)
 
 int complain(const QString &what)
 {
-    print(stderr, QStringLiteral("label-printer-properties: ") + what);
-    return wrongUsage;
+    print(stderr, QLatin1String(programName) + QStringLiteral(": ") + what);
+    return impossible;
 }
 
-// The texts in the user's language, to be kept as long as they are needed.
-class Catalogue
+int complainInWindow(const QString &what)
 {
-public:
-    Catalogue()
-    {
-        if (translator.load(QLocale(), QStringLiteral("propertiesdialog"), QStringLiteral("_"),
-                            QStringLiteral(TRANSLATIONS_DIR)))
-            QCoreApplication::installTranslator(&translator);
-    }
+    QMessageBox::warning(nullptr, Program::tr("Label Printer Properties"), what);
+    return impossible;
+}
 
-    Qt::LayoutDirection direction() const
-    {
-        return translator.isEmpty() ? Qt::LeftToRight : QLocale(translator.language()).textDirection();
-    }
+// ----- the command line -----
 
-private:
-    QTranslator translator;
+struct CommandLine
+{
+    std::optional<int> status; // set if there is nothing more to do
+    bool lists = false;
+    std::optional<QString> queue;
 };
 
-int indexOf(const CupsSupport &cups, const QString &queue)
+CommandLine readCommandLine()
 {
-    for (int i = 0; i < cups.getDestCount(); ++i)
-        if (cups.getQueueName(i) == queue)
-            return i;
-    return -1;
-}
-
-// Handles what needs no window and returns the exit status; or nothing, and the queue to edit, empty for the
-// default one.
-std::optional<int> answerWithoutWindow(int &argc, char **argv, QString *queue)
-{
-    const QCoreApplication application(argc, argv);
-    const Catalogue catalogue;
-    QCoreApplication::setApplicationName(QStringLiteral("label-printer-properties"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(PROGRAM_VERSION));
-
     QCommandLineParser parser;
     parser.setApplicationDescription(Program::tr("Shows and changes the settings of a label printer."));
-    parser.addHelpOption();
-    parser.addVersionOption();
     const QCommandLineOption printer({QStringLiteral("p"), QStringLiteral("printer")},
-                                     Program::tr("The queue, instead of the default one."), Program::tr("NAME"));
+                                     Program::tr("The queue, instead of one chosen from a list."), Program::tr("NAME"));
     const QCommandLineOption list({QStringLiteral("l"), QStringLiteral("list")},
                                   Program::tr("Lists the queues, the default one marked with an asterisk."));
-    parser.addOption(printer);
-    parser.addOption(list);
+    // Not the parser's own, which have no translation in some of Qt's catalogues.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, Program::tr("Shows this help."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
+                                     Program::tr("Shows the version."));
+    parser.addOptions({printer, list, help, version});
 
+    CommandLine found;
     if (!parser.parse(QCoreApplication::arguments()))
-        return complain(parser.errorText());
-    if (!parser.positionalArguments().isEmpty())
-        return complain(Program::tr("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
-    if (parser.isSet(QStringLiteral("help")))
+        found.status = complain(parser.errorText());
+    else if (!parser.positionalArguments().isEmpty())
+        found.status =
+            complain(Program::tr("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
+    else if (parser.isSet(help))
         parser.showHelp(saved);
-    if (parser.isSet(QStringLiteral("version")))
+    else if (parser.isSet(version))
         parser.showVersion();
+    found.lists = parser.isSet(list);
+    if (parser.isSet(printer))
+        found.queue = parser.value(printer);
+    return found;
+}
 
-    if (!parser.isSet(list) && !parser.isSet(printer))
-        return std::nullopt;
+// ----- printers -----
+
+// Why there is nothing to choose from; empty if there is.
+QString lackOfPrinters(const CupsSupport &cups)
+{
+    if (!cups.isSchedulerReachable())
+        return Program::tr("The print service cannot be reached: %1")
+            .arg(QString::fromUtf8(CupsSupport::getCupsError()));
+    return cups.getDestCount() == 0 ? Program::tr("No printers have been set up.") : QString();
+}
+
+// Why the queue cannot be shown; empty if it can.
+QString lackOfQueue(const CupsSupport &cups, const QString &queue)
+{
+    if (cups.getQueueIndex(queue) >= 0)
+        return QString();
+    return Program::tr("there is no printer \"%1\"; --list names those there are").arg(queue);
+}
+
+int listQueues()
+{
     const CupsSupport cups;
-    if (parser.isSet(list)) {
-        for (int i = 0; i < cups.getDestCount(); ++i)
-            print(stdout,
-                  (i == cups.getCurrentIndex() ? QLatin1String("* ") : QLatin1String("  ")) + cups.getQueueName(i));
-        return saved;
+    const QString lack = lackOfPrinters(cups);
+    if (!lack.isEmpty())
+        return complain(lack);
+    const QString defaultQueue = cups.getDefaultQueueName();
+    for (int i = 0; i < cups.getDestCount(); ++i) {
+        const QString queue = cups.getQueueName(i);
+        print(stdout, (queue == defaultQueue ? QLatin1String("* ") : QLatin1String("  ")) + queue);
     }
-    *queue = parser.value(printer);
-    if (indexOf(cups, *queue) < 0)
-        return complain(Program::tr("there is no printer \"%1\"; --list names those there are").arg(*queue));
+    return saved;
+}
+
+// ----- without windows -----
+
+QString lackOfDisplay()
+{
+    QStringList settings;
+    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (!qEnvironmentVariableIsEmpty(variable))
+            settings << QLatin1String(variable) + QLatin1Char('=') + qEnvironmentVariable(variable);
+    return settings.isEmpty() ? Program::tr("no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set")
+                              : Program::tr("no window can be shown with %1").arg(settings.join(QLatin1Char(' ')));
+}
+
+int complainWithoutWindow(const std::optional<QString> &queue)
+{
+    const CupsSupport cups;
+    const QString printers = lackOfPrinters(cups);
+    if (!printers.isEmpty())
+        return complain(printers);
+    const QString named = queue ? lackOfQueue(cups, *queue) : QString();
+    return complain(named.isEmpty() ? lackOfDisplay() : named);
+}
+
+// ----- with windows -----
+
+// Finds the queue whose settings are wanted, with the user's help; or says why there is none and returns the exit status.
+std::optional<int> chooseQueue(QString *queue)
+{
+    CupsSupport cups;
+    const QString lack = lackOfPrinters(cups);
+    if (!lack.isEmpty())
+        return complainInWindow(lack);
+    const QString defaultQueue = cups.getDefaultQueueName();
+    const bool isDefaultUnknown = !defaultQueue.isEmpty() && cups.getQueueIndex(defaultQueue) < 0;
+    if (cups.getDestCount() == 1 && !isDefaultUnknown) {
+        *queue = cups.getQueueName(0);
+        return std::nullopt;
+    }
+    const QString note =
+        isDefaultUnknown ? Program::tr("The default printer \"%1\" does not exist.").arg(defaultQueue) : QString();
+    cups.setCurrentPrinter(-1); // no PPD file is wanted
+    PrinterList list(cups, defaultQueue, note);
+    if (list.exec() != QDialog::Accepted)
+        return isDefaultUnknown ? impossible : cancelled;
+    *queue = list.queue();
     return std::nullopt;
 }
 
-int editProperties(const QString &queue)
+// Complains if there is no such queue.
+std::optional<int> checkQueue(const QString &queue)
 {
-    if (queue.isEmpty())
-        return propertiesDialog();
-    QPrinter printer(QPrinter::ScreenResolution);
-    printer.setPrinterName(queue);
-    CupsSupport cups;
-    cups.setCurrentPrinter(indexOf(cups, queue));
-    PrintPropertiesDialog dialog(nullptr, &printer, &cups);
-    return dialog.exec();
+    const CupsSupport cups;
+    const QString lack = lackOfPrinters(cups);
+    if (!lack.isEmpty())
+        return complainInWindow(lack);
+    const QString lackOfNamed = lackOfQueue(cups, queue);
+    return lackOfNamed.isEmpty() ? std::nullopt : std::optional<int>(complain(lackOfNamed));
+}
+
+// Sees to it that the user learns why the settings could not be saved. The dialog exists only within the library's call.
+class SaveWatcher : public QObject
+{
+public:
+    SaveWatcher() { QCoreApplication::instance()->installEventFilter(this); }
+
+    QString failure; // of the last saving; empty if it succeeded
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        const auto *dialog = qobject_cast<PrintPropertiesDialog *>(object);
+        if (dialog && event->type() == QEvent::Hide)
+            failure = dialog->lastSaveSucceeded() ? QString() : reason();
+        return false;
+    }
+
+private:
+    static QString reason()
+    {
+        const QString ofOptionsFile = QString::fromUtf8(CupsSupport::getCupsError());
+        return ofOptionsFile.isEmpty() ? Program::tr("The presets could not be saved.")
+                                       : Program::tr("The settings could not be saved: %1").arg(ofOptionsFile);
+    }
+};
+
+int editProperties(const std::optional<QString> &named)
+{
+    QString queue = named.value_or(QString());
+    if (const std::optional<int> status = named ? checkQueue(queue) : chooseQueue(&queue))
+        return *status;
+    const SaveWatcher watcher;
+    const int result = propertiesDialogFor(queue.toUtf8().constData());
+    if (!watcher.failure.isEmpty()) {
+        complain(watcher.failure);
+        return unsaved;
+    }
+    return result == QDialog::Accepted ? saved : cancelled;
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    QString queue;
-    if (const std::optional<int> status = answerWithoutWindow(argc, argv, &queue))
-        return *status;
+    CommandLine commandLine;
+    std::optional<QByteArray> platforms;
+    {
+        const QCoreApplication application(argc, argv);
+        const Translation translation(Translation::AllTexts);
+        QCoreApplication::setApplicationName(QLatin1String(programName));
+        QCoreApplication::setApplicationVersion(QStringLiteral(PROGRAM_VERSION));
+        commandLine = readCommandLine();
+        if (commandLine.status)
+            return *commandLine.status;
+        if (commandLine.lists)
+            return listQueues();
+        platforms = WindowSystem::platforms();
+        if (!platforms)
+            return complainWithoutWindow(commandLine.queue);
+    }
 
-    int windowArgc = 1; // the arguments are not Qt's
-    const QApplication application(windowArgc, argv);
-    const Catalogue catalogue;
-    QApplication::setLayoutDirection(catalogue.direction());
-    QApplication::setDesktopFileName(QStringLiteral("label-printer-properties"));
-    return editProperties(queue) == QDialog::Accepted ? saved : cancelled;
+    WindowSystem::Arguments arguments(argv[0], *platforms); // those of the command line are not Qt's
+    const QApplication application(arguments.count(), arguments.values());
+    const Translation translation(Translation::AllTexts);
+    QApplication::setDesktopFileName(QLatin1String(programName));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/b/printer.png")));
+    return editProperties(commandLine.queue);
 }

@@ -4,6 +4,7 @@
 #include "Languages.h"
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
+#include "Programs.h"
 #include "TestMain.h"
 
 #include <PropertiesDialog/PrintDialog.h>
@@ -12,12 +13,16 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
 #include <QPrinter>
 #include <QTabWidget>
 #include <QTimer>
 #include <QXmlStreamReader>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -121,11 +126,23 @@ int callWithoutApplication(int &, char **)
     return propertiesDialog();
 }
 
+// The last entry of the context menu of a field, and the button of a message box.
+void printTextsOfQt(const QDialog &dialog)
+{
+    const std::unique_ptr<QMenu> menu(dialog.findChild<QLineEdit *>("widthEdit")->createStandardContextMenu());
+    const QMessageBox box(QMessageBox::Warning, QString(), QString(), QMessageBox::Cancel);
+    std::printf("%s|%s\n", qUtf8Printable(menu->actions().constLast()->text().section('\t', 0, 0)),
+                qUtf8Printable(box.button(QMessageBox::Cancel)->text()));
+}
+
 // In a process without an application object of its own, the first thing that a new one does is this.
 void closeFirstDialog()
 {
     if (qEnvironmentVariableIsSet("PROPERTIESDIALOG_TEST_CLOSES"))
-        whenOpen(printTexts);
+        whenOpen([](const QDialog &dialog) {
+            printTexts(dialog);
+            printTextsOfQt(dialog);
+        });
 }
 Q_COREAPP_STARTUP_FUNCTION(closeFirstDialog)
 
@@ -154,6 +171,10 @@ private Q_SLOTS:
     void cataloguesOfHostStay();
     void windowsOfHostAreNotTurnedAround();
     void ownApplicationRunsFromTheRight();
+    void ownApplicationTranslatesQt_data();
+    void ownApplicationTranslatesQt();
+    void helpIsTranslated_data() { catalogueIsComplete_data(); }
+    void helpIsTranslated();
 
 private:
     PrivateScheduler scheduler;
@@ -307,6 +328,44 @@ void TranslationsTest::ownApplicationRunsFromTheRight()
 {
     const TestMain::ChildResult result = TestMain::runChild("withoutApplication", {}, inLocale("ar_EG.UTF-8"));
     QCOMPARE(QString::fromUtf8(seen(result, 0)), QString("إعداد الصفحة|كثافة الطباعة|rtl"));
+}
+
+void TranslationsTest::ownApplicationTranslatesQt_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("C") << "C.UTF-8" << QString() << "Select All|Cancel";
+    QTest::newRow("de") << "de_DE.UTF-8" << QString() << "Alles auswählen|Abbrechen";
+    QTest::newRow("pt_BR") << "pt_BR.UTF-8" << QString() << "Selecionar tudo|Cancelar";
+    // The language of our own texts, also where Qt has a catalogue for one that comes before.
+    QTest::newRow("second LANGUAGE") << "en_US.UTF-8"
+                                     << "fi:fr"
+                                     << "Tout sélectionner|Annuler";
+}
+
+// Context menus and message boxes come from Qt.
+void TranslationsTest::ownApplicationTranslatesQt()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, language);
+    QFETCH(QString, expected);
+    const TestMain::ChildResult result = TestMain::runChild("withoutApplication", {}, inLocale(locale, language));
+    QCOMPARE(QString::fromUtf8(seen(result, 1)).remove('&'), expected);
+}
+
+void TranslationsTest::helpIsTranslated()
+{
+    QFETCH(QString, language);
+    const auto helpIn = [](const QString &wanted) {
+        Programs::Environment environment = inLocale("C.UTF-8", wanted);
+        return Programs::run({PROGRAM, "--help"}, environment).output;
+    };
+    const QStringList help = helpIn(language).split('\n');
+    const QStringList english = helpIn("en").split('\n');
+    QVERIFY(english.size() > 5);
+    for (const QString &line : english)
+        QVERIFY2(line.isEmpty() || !help.contains(line), qPrintable(line));
 }
 
 PROPERTIESDIALOG_TEST_MAIN(TranslationsTest)

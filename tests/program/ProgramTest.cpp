@@ -1,27 +1,62 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "OpenDialog.h"
 #include "PrivateScheduler.h"
+#include "Programs.h"
 #include "TestMain.h"
 
-#include <QProcess>
-#include <QProcessEnvironment>
+#include <QDir>
+#include <QFile>
 #include <QTest>
 
 #include <cups/cups.h>
 
+using Programs::Environment;
+using Programs::Result;
+
 namespace {
 
-struct Result
+using TitlesAndKeys = QList<QPair<QString, QString>>;
+
+const QString listTitle = "Label Printer Properties";
+
+QString dialogTitle(const QString &queue)
 {
-    int exitStatus = -1;
-    QString output;
-    QString errors;
+    return queue + " Printing Preferences";
+}
+
+// Another scheduler than the test's for the time of this object, if it is wanted.
+class OtherScheduler
+{
+public:
+    explicit OtherScheduler(bool isWanted = true)
+        : server(qgetenv("CUPS_SERVER"))
+    {
+        if (isWanted)
+            scheduler = std::make_unique<PrivateScheduler>();
+    }
+    ~OtherScheduler()
+    {
+        scheduler.reset();
+        qputenv("CUPS_SERVER", server);
+        cupsSetServer(server.constData());
+    }
+
+    OtherScheduler(const OtherScheduler &) = delete;
+    OtherScheduler &operator=(const OtherScheduler &) = delete;
+
+    PrivateScheduler *operator->() { return scheduler.get(); }
+
+private:
+    const QByteArray server;
+    std::unique_ptr<PrivateScheduler> scheduler;
 };
 
 } // namespace
 
-// If this fails, label-printer-properties opens the wrong printer or returns a wrong exit status.
+// If this fails, label-printer-properties opens the wrong printer, is silent about a lack of printers or displays, or
+// returns a wrong exit status.
 class ProgramTest : public QObject
 {
     Q_OBJECT
@@ -31,13 +66,24 @@ private slots:
     void withoutWindow_data();
     void withoutWindow();
     void listsTheQueues();
+    void listsNothing_data();
+    void listsNothing();
     void opensTheDialog_data();
     void opensTheDialog();
+    void opensTheOnlyQueue();
+    void defaultIsUnknown();
+    void saysThatThereIsNoPrinter_data();
+    void saysThatThereIsNoPrinter();
+    void saysThatThereIsNoDisplay_data();
+    void saysThatThereIsNoDisplay();
     void savesForTheNamedQueue();
+    void saysWhyItCannotSave();
+    void menuEntryIsTranslated_data();
+    void menuEntryIsTranslated();
 
 private:
-    Result run(const QStringList &arguments);
-    Result press(const QStringList &arguments, const QString &key, const QString &title);
+    static Result run(const QStringList &arguments, const Environment &environment = {});
+    static Result press(const QStringList &arguments, const TitlesAndKeys &keys, const Environment &environment = {});
 
     PrivateScheduler scheduler;
 };
@@ -50,40 +96,14 @@ void ProgramTest::initTestCase()
     scheduler.setUserOptions("First/wide", {"Darkness=3"});
 }
 
-Result ProgramTest::run(const QStringList &arguments)
+Result ProgramTest::run(const QStringList &arguments, const Environment &environment)
 {
-    QProcess process;
-    process.start(PROGRAM, arguments);
-    Result result;
-    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
-        result.exitStatus = process.exitCode();
-    result.output = process.readAllStandardOutput();
-    result.errors = process.readAllStandardError();
-    return result;
+    return Programs::run(QStringList{PROGRAM} + arguments, environment);
 }
 
-// Runs the program in its own X server, waits for the window with this title and presses a key in it.
-Result ProgramTest::press(const QStringList &arguments, const QString &key, const QString &title)
+Result ProgramTest::press(const QStringList &arguments, const TitlesAndKeys &keys, const Environment &environment)
 {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove("QT_QPA_PLATFORM");
-    process.setProcessEnvironment(environment);
-    const QString script =
-        QStringLiteral("\"$@\" & program=$!\n"
-                       "window=$(xdotool search --sync --onlyvisible --name \"^$TITLE\\$\") || exit 99\n"
-                       "until xdotool windowfocus --sync $window key $KEY; do sleep 0.1; done\n"
-                       "wait $program");
-    environment.insert("TITLE", title);
-    environment.insert("KEY", key);
-    process.setProcessEnvironment(environment);
-    process.start(WITH_XVFB, QStringList{"bash", "-c", script, "-", PROGRAM} + arguments);
-    Result result;
-    if (process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit)
-        result.exitStatus = process.exitCode();
-    result.output = process.readAllStandardOutput();
-    result.errors = process.readAllStandardError();
-    return result;
+    return Programs::press(QStringList{PROGRAM} + arguments, keys, environment);
 }
 
 void ProgramTest::withoutWindow_data()
@@ -130,32 +150,115 @@ void ProgramTest::listsTheQueues()
     }
 }
 
+void ProgramTest::listsNothing_data()
+{
+    QTest::addColumn<Environment>("environment");
+    QTest::addColumn<QString>("errors");
+    QTest::newRow("no scheduler") << Environment{{"CUPS_SERVER", "/tmp/no-such-folder/cups.sock"}}
+                                  << "label-printer-properties: The print service cannot be reached: ";
+    QTest::newRow("no queue") << Environment{{"EMPTY", "1"}}
+                              << "label-printer-properties: No printers have been set up.\n";
+}
+
+void ProgramTest::listsNothing()
+{
+    QFETCH(Environment, environment);
+    QFETCH(QString, errors);
+    const OtherScheduler empty(environment.contains("EMPTY"));
+    const Result result = run({"--list"}, environment);
+    QCOMPARE(result.exitStatus, 2);
+    QVERIFY2(result.output.isEmpty(), qPrintable(result.output));
+    QVERIFY2(result.errors.startsWith(errors), qPrintable(result.errors));
+}
+
 void ProgramTest::opensTheDialog_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("queue");
+    QTest::addColumn<TitlesAndKeys>("keys");
     QTest::addColumn<int>("exitStatus");
-    QTest::newRow("default, OK") << QStringList() << "Return"
-                                 << "Second" << 0;
-    QTest::newRow("default, cancelled") << QStringList() << "Escape"
-                                        << "Second" << 1;
-    QTest::newRow("named, OK") << QStringList{"-p", "First"} << "Return"
-                               << "First" << 0;
-    QTest::newRow("named, cancelled") << QStringList{"--printer=First"} << "Escape"
-                                      << "First" << 1;
-    QTest::newRow("instance, cancelled") << QStringList{"-p", "First/wide"} << "Escape"
-                                         << "First/wide" << 1;
+    const QStringList none;
+    QTest::newRow("default of the list, OK")
+        << none << TitlesAndKeys{{listTitle, "Return"}, {dialogTitle("Second"), "Return"}} << 0;
+    QTest::newRow("default of the list, cancelled")
+        << none << TitlesAndKeys{{listTitle, "Return"}, {dialogTitle("Second"), "Escape"}} << 1;
+    QTest::newRow("another of the list") << none
+                                         << TitlesAndKeys{{listTitle, "Up Return"},
+                                                          {dialogTitle("First/wide"), "Escape"}}
+                                         << 1;
+    QTest::newRow("list cancelled") << none << TitlesAndKeys{{listTitle, "Escape"}} << 1;
+    QTest::newRow("named, OK") << QStringList{"-p", "First"} << TitlesAndKeys{{dialogTitle("First"), "Return"}} << 0;
+    QTest::newRow("named, cancelled") << QStringList{"--printer=First"}
+                                      << TitlesAndKeys{{dialogTitle("First"), "Escape"}} << 1;
+    QTest::newRow("instance, cancelled") << QStringList{"-p", "First/wide"}
+                                         << TitlesAndKeys{{dialogTitle("First/wide"), "Escape"}} << 1;
 }
 
 void ProgramTest::opensTheDialog()
 {
     QFETCH(QStringList, arguments);
-    QFETCH(QString, key);
-    QFETCH(QString, queue);
+    QFETCH(TitlesAndKeys, keys);
     QFETCH(int, exitStatus);
-    const Result result = press(arguments, key, queue + " Printing Preferences");
+    const Result result = press(arguments, keys);
     QVERIFY2(result.exitStatus == exitStatus, qPrintable(QString::number(result.exitStatus) + result.errors));
+}
+
+// With one printer there is nothing to choose, also when none is the default.
+void ProgramTest::opensTheOnlyQueue()
+{
+    OtherScheduler other;
+    other->addQueue("Only");
+    QCOMPARE(press({}, {{dialogTitle("Only"), "Escape"}}).exitStatus, 1);
+}
+
+// The user's default may have been removed. The user is told, and not shown another printer unasked.
+void ProgramTest::defaultIsUnknown()
+{
+    const Environment environment{{"LPDEST", "Gone"}};
+    QCOMPARE(press({}, {{listTitle, "Escape"}}, environment).exitStatus, 2);
+    // None is selected yet, so that Return alone does nothing.
+    const TitlesAndKeys chosen{{listTitle, "Return Home Return"}, {dialogTitle("First"), "Escape"}};
+    QCOMPARE(press({}, chosen, environment).exitStatus, 1);
+}
+
+void ProgramTest::saysThatThereIsNoPrinter_data()
+{
+    listsNothing_data();
+}
+
+void ProgramTest::saysThatThereIsNoPrinter()
+{
+    QFETCH(Environment, environment);
+    QFETCH(QString, errors);
+    const OtherScheduler empty(environment.contains("EMPTY"));
+    for (const QStringList &arguments : {QStringList(), QStringList{"-p", "First"}}) {
+        QCOMPARE(press(arguments, {{listTitle, "Escape"}}, environment).exitStatus, 2);
+        const Result result = run(arguments, Programs::changed(Programs::noDisplay(), environment));
+        QCOMPARE(result.exitStatus, 2);
+        QVERIFY2(result.errors.startsWith(errors), qPrintable(result.errors));
+    }
+}
+
+void ProgramTest::saysThatThereIsNoDisplay_data()
+{
+    QTest::addColumn<Environment>("environment");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("nothing is set") << Environment() << ": neither DISPLAY nor WAYLAND_DISPLAY is set";
+    QTest::newRow("dead X server") << Environment{{"DISPLAY", ":4711"}} << " with DISPLAY=:4711";
+    QTest::newRow("dead compositor") << Environment{{"WAYLAND_DISPLAY", "wayland-4711"}}
+                                     << " with WAYLAND_DISPLAY=wayland-4711";
+    QTest::newRow("unknown platform") << Environment{{"QT_QPA_PLATFORM", "nonsense"}, {"DISPLAY", ":4711"}}
+                                      << " with DISPLAY=:4711 QT_QPA_PLATFORM=nonsense";
+}
+
+void ProgramTest::saysThatThereIsNoDisplay()
+{
+    QFETCH(Environment, environment);
+    QFETCH(QString, reason);
+    for (const QStringList &arguments : {QStringList(), QStringList{"-p", "First"}}) {
+        const Result result = run(arguments, Programs::changed(Programs::noDisplay(), environment));
+        QCOMPARE(result.exitStatus, 2);
+        QCOMPARE(result.errors, "label-printer-properties: no window can be shown" + reason + '\n');
+    }
 }
 
 void ProgramTest::savesForTheNamedQueue()
@@ -163,18 +266,41 @@ void ProgramTest::savesForTheNamedQueue()
     scheduler.addQueue("Untouched");
     scheduler.setUserOptions("First", {"Darkness=4"});
     scheduler.setUserOptions("Untouched", {"Darkness=5"});
-    QCOMPARE(press({"-p", "First"}, "Return", "First Printing Preferences").exitStatus, 0);
-    cups_dest_t *dests = nullptr;
-    const int count = cupsGetDests(&dests);
-    const auto saved = [&](const char *queue, const char *option) {
-        const cups_dest_t *dest = cupsGetDest(queue, nullptr, count, dests);
-        return QByteArray(cupsGetOption(option, dest->num_options, dest->options));
-    };
-    QCOMPARE(saved("First", "Darkness"), QByteArray("4"));
-    QCOMPARE(saved("First", "orientation-requested"), QByteArray("4")); // what the dialog always saves
-    QCOMPARE(saved("Untouched", "Darkness"), QByteArray("5"));
-    QVERIFY(saved("Untouched", "orientation-requested").isNull());
-    cupsFreeDests(count, dests);
+    QCOMPARE(press({"-p", "First"}, {{dialogTitle("First"), "Return"}}).exitStatus, 0);
+    const Options first = storedOptions("First");
+    QCOMPARE(first.value("Darkness"), QByteArray("4"));
+    QCOMPARE(first.value("orientation-requested"), QByteArray("4")); // what the dialog always saves
+    const Options untouched = storedOptions("Untouched");
+    QCOMPARE(untouched.value("Darkness"), QByteArray("5"));
+    QVERIFY(!untouched.contains("orientation-requested"));
+}
+
+// Where the options file belongs there is a folder that is not empty.
+void ProgramTest::saysWhyItCannotSave()
+{
+    clearHome();
+    QVERIFY(QDir().mkpath(homePath(".cups/lpoptions/folder")));
+    const Result result = press({"-p", "First"}, {{dialogTitle("First"), "Return"}});
+    clearHome();
+    QVERIFY2(result.exitStatus == 3, qPrintable(QString::number(result.exitStatus) + result.errors));
+    const QString beginning = "label-printer-properties: The settings could not be saved: ";
+    QVERIFY2(result.errors.startsWith(beginning) && result.errors.size() > beginning.size() + 1,
+             qPrintable(result.errors));
+}
+
+void ProgramTest::menuEntryIsTranslated_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &catalogue : QDir(TRANSLATIONS_SOURCE_DIR).entryList({"propertiesdialog_*.ts"}))
+        QTest::newRow(qPrintable(catalogue)) << catalogue.section('_', 1).section('.', 0, 0);
+}
+
+void ProgramTest::menuEntryIsTranslated()
+{
+    QFETCH(QString, language);
+    const QByteArray entry = '\n' + fileContent(MENU_ENTRY);
+    for (const char *key : {"Name", "Comment", "Keywords"})
+        QCOMPARE(entry.count(QString("\n%1[%2]=").arg(key, language).toUtf8()), 1);
 }
 
 PROPERTIESDIALOG_TEST_MAIN(ProgramTest)

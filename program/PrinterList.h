@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#ifndef PRINTERLIST_H
+#define PRINTERLIST_H
+
+#include <QDialog>
+#include <QString>
+
+#include <memory>
+
+class CupsSupport;
+namespace Ui {
+class PrinterList;
+}
+
+/** Lets the user choose one of the queues. exec() returns QDialog::Accepted if one was chosen. */
+class PrinterList : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /**
+     * @param cups its queues are listed. Not kept.
+     * @param selected the queue that is selected at first; none if it does not exist.
+     * @param note shown above the list; nothing is if it is empty.
+     */
+    PrinterList(const CupsSupport &cups, const QString &selected, const QString &note);
+    ~PrinterList() override;
+
+    /** The selected queue; empty if none is. */
+    QString queue() const;
+
+private:
+    void addQueue(const CupsSupport &cups, int index);
+    void makeRoom();
+    void enableOk();
+
+    std::unique_ptr<Ui::PrinterList> ui;
+};
+
+#endif
