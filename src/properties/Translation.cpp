@@ -5,10 +5,14 @@
 
 #include "BuildConstants.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QStandardPaths>
+
+#include <dlfcn.h>
 
 #include <algorithm>
 
@@ -22,10 +26,20 @@ bool isTranslated()
     return QCoreApplication::translate("PrintPropertiesDialog", someText) != QLatin1String(someText);
 }
 
-// Where the library was installed, then the standard data folders.
+// The folder relative to the library itself, which may have been moved after installation.
+QString folderOfLibrary()
+{
+    Dl_info library;
+    if (dladdr(dlsym(RTLD_DEFAULT, "propertiesDialog"), &library) == 0)
+        return QString();
+    const QString file = QFileInfo(QFile::decodeName(library.dli_fname)).canonicalFilePath();
+    return QFileInfo(file).path() + QLatin1Char('/') + BuildConstants::translationsFromLibrary;
+}
+
+// Relative to the library, where the build was to be installed, then the standard data folders.
 QStringList folders()
 {
-    return QStringList(BuildConstants::translationsDir)
+    return QStringList{folderOfLibrary(), BuildConstants::translationsDir}
            + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, BuildConstants::translationsSubdir,
                                        QStandardPaths::LocateDirectory);
 }
