@@ -4,12 +4,15 @@
 #include "CupsTest.h"
 #include "TestMain.h"
 
+#include "cups/Scheduler.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 
@@ -17,6 +20,8 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
+
+using namespace std::chrono_literals;
 
 // The destinations that are flagged as default beside the real one, see lastOfSeveralDefaultsWins().
 static QByteArrayList extraDefaults;
@@ -160,6 +165,7 @@ private:
 
 static int askSilentScheduler(int &, char **)
 {
+    Scheduler::setLimits({2s, 4s}); // the usual ones would only take longer
     const QTemporaryDir folder;
     SilentScheduler silent(folder.filePath("s"));
     CupsSupport cups;

@@ -19,7 +19,7 @@ namespace {
 const char *const radios[] = {"jobStartRadioButton", "labelStartRadioButton", "labelEndRadioButton",
                               "jobEndRadioButton"};
 const int commandCount = 4;
-const int queues = 20;
+const int queues = 10; // with more, fetching them takes longer than the dialogs
 const int textsPerRound = queues * commandCount;
 
 // libcups reads lines of the options file up to 8191 bytes. The commands leave room for the other settings.
