@@ -83,7 +83,7 @@ bool Presets::save(const QStringList &defaults)
 
     if (!d->currentPreset)
         return true;
-    // A help for the next run, no part of what is saved: where it cannot be made, nothing is lost.
+    // It only helps the next run: if it cannot be created, nothing is lost.
     const QByteArray target = PresetFolder::localPath(d->currentPreset->pathName());
     if (PresetFolder::linkTarget(linkPathName()) != target)
         PresetFolder(PresetScript::folder(d->printerName), PresetFolder::LeaveIt).link(linkName, target);

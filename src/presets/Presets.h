@@ -33,7 +33,7 @@ public:
     Presets(const Presets &) = delete; ///< Not to be copied.
     Presets &operator=(const Presets &) = delete; ///< Not to be copied.
 
-    /** Lists the folder anew, dropping what is in memory. Pointers to presets become invalid. @return always true. */
+    /** Lists the folder again and drops what is in memory. Pointers to presets become invalid. @return always true. */
     bool load();
 
     /**

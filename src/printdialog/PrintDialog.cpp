@@ -532,7 +532,7 @@ bool PrintDialog::Private::turnToShownPrinter()
 // Undoes what "Use Default" did to the CupsSupport as soon as it was ticked, and what Properties did to both.
 void PrintDialog::Private::turnBack()
 {
-    // Where the queue is gone there is no printer: another one is not to print what the user meant for this one.
+    // If the queue no longer exists, there is no printer: another one must not print what was meant for this one.
     if (currentMoved && cups->getDestCount() > 0)
         cups->setCurrentPrinter(cups->getQueueIndex(initialQueue));
     if (printerBefore)

@@ -84,7 +84,7 @@ public:
      */
     int exec2(QDialog &propertiesDialog);
 
-    /** Full form only: fills the printer list anew and selects the current printer, to which Cancel returns from now on. */
+    /** Full form only: refills the printer list and selects the current printer, to which Cancel then returns. */
     void updateForm();
 
     /** Full form only: shows the details of the printer at @p index of the list; does nothing if it does not exist. */

@@ -84,7 +84,7 @@ public:
     /** @name Presets */
     /** @{ */
 
-    /** Brings both preset lists up to date. @return whether they were filled anew. */
+    /** Brings both preset lists up to date. @return whether they were refilled. */
     bool updatePresets();
 
     /**

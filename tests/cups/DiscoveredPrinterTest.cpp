@@ -162,6 +162,7 @@ private:
 
 } // namespace
 
+// If this fails, printing to a discovered printer that is off freezes the dialog or reports success.
 class DiscoveredPrinterTest : public QObject
 {
     Q_OBJECT

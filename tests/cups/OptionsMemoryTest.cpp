@@ -104,6 +104,7 @@ struct Dest
 Q_DECLARE_METATYPE(Reader)
 Q_DECLARE_METATYPE(OptionArray)
 
+// If this fails, user commands change when other programs rewrite the options file.
 class OptionsMemoryTest : public QObject
 {
     Q_OBJECT

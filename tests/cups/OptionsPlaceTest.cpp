@@ -24,6 +24,7 @@ const QByteArray built = QByteArray::number(CUPS_VERSION_MAJOR) + '.' + QByteArr
 
 } // namespace
 
+// If this fails, settings are saved to a file that CUPS programs do not read.
 class OptionsPlaceTest : public QObject
 {
     Q_OBJECT

@@ -38,7 +38,7 @@ Environment withLibrary(const Environment &changes)
     return Programs::changed(changes, {{"LD_LIBRARY_PATH", LIBRARY_DIR}});
 }
 
-// A Wayland compositor for the time of this object that shows its windows nowhere.
+// A Wayland compositor without a screen that runs while this object exists.
 class Compositor
 {
 public:

@@ -36,7 +36,7 @@ void lpoptions(const QStringList &arguments)
     PrivateScheduler::run("lpoptions", arguments);
 }
 
-// Each of these lets libcups write the whole file anew.
+// Each of these makes libcups rewrite the whole file.
 void rewriteFile(QRandomGenerator &random)
 {
     switch (random.bounded(3)) {
@@ -206,7 +206,7 @@ void changeFromAnotherProcess(quint32 start, int value, Settings &expected)
 
 } // namespace
 
-// What the user has saved is there, whatever other programs save.
+// If this fails, lpoptions or a second dialog loses settings that the user has saved.
 class OtherProgramsTest : public QObject
 {
     Q_OBJECT

@@ -186,6 +186,7 @@ const TestMain::ChildFunction inBackgroundFunction("in-background", inBackground
 
 } // namespace
 
+// If this fails, a print server that requires a password stops the program or asks again and again.
 class PasswordTest : public QObject
 {
     Q_OBJECT

@@ -86,7 +86,7 @@ private:
     bool m_dropped = false;
 };
 
-/** Answers message boxes with Ok and keeps what they showed, for the time of this object. */
+/** While this object exists, answers message boxes with Ok and keeps what they showed. */
 class BoxCloser
 {
 public:

@@ -54,7 +54,7 @@ constexpr int closeEnough = 12; // pixels; less than two letters
 
 } // namespace
 
-// A user who reads the forms: printers can be told apart, nothing is cut without a sign, and Arabic looks right.
+// If this fails, users cannot tell printers apart, texts are cut off without a sign, or Arabic looks wrong.
 class PrintDialogLookTest : public QObject
 {
     Q_OBJECT

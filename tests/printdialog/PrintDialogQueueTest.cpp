@@ -69,7 +69,7 @@ const TestMain::ChildFunction showWithoutAnswerChild("showWithoutAnswer", showWi
 
 } // namespace
 
-// A user of several printers: what they set goes to the printer that they read the name of, and Cancel changes none.
+// If this fails, settings or jobs go to another printer than the one shown, or Cancel changes the printer.
 class PrintDialogQueueTest : public QObject
 {
     Q_OBJECT

@@ -465,7 +465,7 @@ void PrintDialogTest::fullFormIsSetUp()
     QVERIFY(!form.printToFile());
 }
 
-// The layout of the form is taller than the window: what is to be seen has to be in the upper part of it.
+// The layout of the form is taller than the window: everything to be seen must be in its upper part.
 void PrintDialogTest::fullFormIsVisibleAsAWhole()
 {
     dialog->show();

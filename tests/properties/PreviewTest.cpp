@@ -285,7 +285,7 @@ void PreviewTest::effects()
     preview.negative = negative;
     const QImage image = painted(preview);
 
-    // The arrow lies over the label: where it is red, the label is not to be seen.
+    // The arrow covers the label: where it is red, the label is not visible.
     const QImage expected =
         widgetWith(QSize(100, 100), QPoint(1, 1), withEffects(label, leftRight, topBottom, negative));
     for (int y = 0; y < 100; ++y) {
