@@ -101,8 +101,7 @@ struct Destinations
 struct CupsSupport::Private
 {
     bool schedulerReachable = false;
-    std::vector<QByteArray>
-        stored; // the options of each destination as they are in the options file, as far as is known
+    std::vector<OptionsFile::Stored> stored; // of each destination, as far as this object knows
     const Dialect *dialect = nullptr; // of the open PPD file; null when that has our own keywords
 
     static const Dialect *dialectOf(const CupsSupport &cups);
@@ -282,7 +281,9 @@ int CupsSupport::setDests()
 
     std::vector<OptionsMerge::Change> changes;
     for (int i = 0; i < destCount; ++i) {
-        OptionsMerge::Change change = OptionsMerge::changeSince(d->stored[static_cast<std::size_t>(i)], dests[i]);
+        const OptionsFile::Stored &stored = d->stored[static_cast<std::size_t>(i)];
+        OptionsMerge::Change change = OptionsMerge::changeSince(stored.snapshot, dests[i]);
+        change.isDamaged = stored.isDamaged;
         if (change.isEmpty())
             continue;
         // Only the current printer's PPD file is open. For another one the empty value is the safe side.
@@ -297,7 +298,7 @@ int CupsSupport::setDests()
     if (!reason.isNull())
         return -1;
     for (int i = 0; i < destCount; ++i)
-        d->stored[static_cast<std::size_t>(i)] = OptionsMerge::snapshot(dests[i]);
+        d->stored[static_cast<std::size_t>(i)] = {OptionsMerge::snapshot(dests[i]), false};
     return 0;
 }
 

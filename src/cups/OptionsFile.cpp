@@ -95,18 +95,19 @@ QByteArray OptionsFile::path()
     return OptionsPlace::find(OptionsPlace::current()).file();
 }
 
-std::vector<QByteArray> OptionsFile::prepare(cups_dest_t *dests, int count)
+std::vector<OptionsFile::Stored> OptionsFile::prepare(cups_dest_t *dests, int count)
 {
-    std::vector<QByteArray> snapshots;
+    std::vector<Stored> stored;
     const QByteArray home = OptionsPlace::home(OptionsPlace::current());
     for (cups_dest_t *dest = dests; dest != dests + count; ++dest) {
         for (int i = 0; i < dest->num_options; ++i)
             if (!std::strcmp(dest->options[i].value, OptionsMerge::storedEmpty))
                 cupsAddOption(dest->options[i].name, "", dest->num_options, &dest->options);
-        snapshots.push_back(OptionsMerge::snapshot(*dest));
-        OptionsMemory::restore(home, *dest, &OptionsSyntax::readWithLibcups);
+        // What is put back is no change of this user's: who saves something else meanwhile does so with the same in view.
+        const bool isDamaged = OptionsMemory::restore(home, *dest, &OptionsSyntax::readWithLibcups);
+        stored.push_back({OptionsMerge::snapshot(*dest), isDamaged});
     }
-    return snapshots;
+    return stored;
 }
 
 QString OptionsFile::save(std::vector<OptionsMerge::Change> changes)

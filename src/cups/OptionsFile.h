@@ -17,13 +17,18 @@ namespace OptionsFile {
 /** The path of the options file, as the libcups that runs finds it. */
 QByteArray path();
 
+/** What is known of a destination's options in the file. */
+struct Stored
+{
+    QByteArray snapshot; ///< to compare with when saving
+    bool isDamaged = false; ///< the file holds what other programs have made of these options
+};
+
 /**
  * To be called for destinations that libcups has just read: puts back what other programs have damaged, see
  * OptionsMemory, and makes the stored form of an empty value an empty one again.
- *
- * @return the snapshots of the destinations as they stand in the file, to compare with when saving.
  */
-std::vector<QByteArray> prepare(cups_dest_t *dests, int count);
+std::vector<Stored> prepare(cups_dest_t *dests, int count);
 
 /**
  * Saves what was changed. Everything else in the file stays as it is by then: other instances of this library are

@@ -103,12 +103,13 @@ OptionArray OptionsMemory::recall(const QByteArray &home, const QByteArray &name
     return fromFileText(text);
 }
 
-void OptionsMemory::restore(const QByteArray &home, cups_dest_t &dest, const OptionsSyntax::Reader &reader)
+bool OptionsMemory::restore(const QByteArray &home, cups_dest_t &dest, const OptionsSyntax::Reader &reader)
 {
     const OptionArray saved = recall(home, dest.name, dest.instance);
     if (saved.size() == 0)
-        return;
+        return false;
     const OptionArray found = lost(saved, OptionArray(dest), reader);
     for (const cups_option_t &option : found)
         dest.num_options = cupsAddOption(option.name, option.value, dest.num_options, &dest.options);
+    return found.size() > 0;
 }

@@ -30,8 +30,8 @@ void remember(const QByteArray &home, const QByteArray &name, const QByteArray &
 /** What remember() keeps for a destination; empty when it keeps nothing. */
 OptionArray recall(const QByteArray &home, const QByteArray &name, const QByteArray &instance);
 
-/** Puts the saved values back into options that were just read. */
-void restore(const QByteArray &home, cups_dest_t &dest, const OptionsSyntax::Reader &reader);
+/** Puts the saved values back into options that were just read. @return whether any of them was damaged. */
+bool restore(const QByteArray &home, cups_dest_t &dest, const OptionsSyntax::Reader &reader);
 
 /** What of the saved options is to be put back into those that are stored. */
 OptionArray lost(const OptionArray &saved, const OptionArray &stored, const OptionsSyntax::Reader &reader);

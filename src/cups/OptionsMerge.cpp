@@ -148,11 +148,11 @@ QByteArray OptionsMerge::snapshot(const cups_dest_t &dest)
 OptionsMerge::Change OptionsMerge::changeSince(const QByteArray &earlier, const cups_dest_t &dest)
 {
     Change change;
-    if (snapshot(dest) == earlier)
-        return change;
     change.name = dest.name;
     change.instance = dest.instance;
     change.isDefault = dest.is_default != 0;
+    if (snapshot(dest) == earlier)
+        return change;
     const OptionArray before = fromSnapshot(earlier);
     const OptionArray now(dest);
     for (const cups_option_t &option : now)
@@ -183,11 +183,11 @@ OptionsMerge::Result OptionsMerge::merge(const QByteArray &content, const std::v
             options.parse(entry.options.constData());
             head.isDefault = head.isDefault || entry.isDefault;
         }
-        if (changed(options, change) == options)
+        const OptionArray lost = OptionsMemory::lost(change.savedEarlier, options, reader);
+        if (changed(options, change) == options && !(change.isDamaged && lost.size() > 0))
             continue;
         // What other programs have damaged would be remembered as the new value otherwise.
         OptionArray restored = options;
-        const OptionArray lost = OptionsMemory::lost(change.savedEarlier, options, reader);
         for (const cups_option_t &option : lost)
             restored.set(option.name, option.value);
         Written written{&change, cleaned(changed(restored, change), change)};

@@ -35,7 +35,9 @@ struct Change
      */
     std::function<bool(const char *)> isNeededEmpty;
 
-    bool isEmpty() const { return set.size() == 0 && removed.isEmpty(); }
+    bool isDamaged = false; ///< what other programs have damaged is to be written anew, also without another change
+
+    bool isEmpty() const { return set.size() == 0 && removed.isEmpty() && !isDamaged; }
 };
 
 /** What was changed since the snapshot. Options that describe the printer (its state, its place, ...) are left out. */

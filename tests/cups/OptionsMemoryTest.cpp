@@ -218,6 +218,18 @@ void OptionsMemoryTest::merging()
     changes[0].savedEarlier.set("X", "\\\\r");
     const OptionsMerge::Result restored = OptionsMerge::merge("Dest LP1 X=\"\\\\\\\\r\"\n", changes, &readLikeNewer);
     QCOMPARE(text(restored.written.at(0).options), "JobStart=" + command + "\nX=\\\\r\n");
+
+    // Without a change it is put right as well, unless somebody else has changed it since.
+    std::vector<OptionsMerge::Change> damaged(1);
+    damaged[0].name = "LP1";
+    damaged[0].isNeededEmpty = changes[0].isNeededEmpty;
+    damaged[0].savedEarlier.set("X", "\\\\r");
+    QVERIFY(damaged[0].isEmpty());
+    damaged[0].isDamaged = true;
+    QVERIFY(!damaged[0].isEmpty());
+    QCOMPARE(OptionsMerge::merge("Dest LP1 X=\"\\\\\\\\r\"\n", damaged, &readLikeNewer).written.size(), std::size_t(1));
+    const QByteArray changedSince = "Dest LP1 X=other\n";
+    QCOMPARE(OptionsMerge::merge(changedSince, damaged, &readLikeNewer).content, changedSince);
 }
 
 void OptionsMemoryTest::restored_data()
