@@ -7,6 +7,8 @@
 
 #include <QList>
 
+#include <sys/stat.h>
+
 namespace {
 
 // Not a preset, because those end in ".sh".
@@ -15,14 +17,25 @@ const char fileName[] = "/_saved-options";
 // Each rewriting halves the backslashes of a line, so that this many are enough for the longest.
 constexpr int mostRewritings = 16;
 
-// Empty for a name that would lead outside the folder.
+bool isLink(const QByteArray &path)
+{
+    struct stat status = {};
+    return lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
+// Empty where a name or a link would lead out of the folder.
 QByteArray folderFor(const QByteArray &home, const QByteArray &name, const QByteArray &instance)
 {
-    for (const QByteArray &part : {name, instance})
+    QByteArray folder = home + "/.cups";
+    for (const QByteArray &part : {name, instance}) {
         if (part == "." || part == ".." || part.contains('/'))
             return {};
-    const QByteArray folder = home + "/.cups/" + name;
-    return instance.isEmpty() ? folder : folder + '/' + instance;
+        if (!part.isEmpty())
+            folder += '/' + part;
+        if (!part.isEmpty() && isLink(folder))
+            return {};
+    }
+    return folder;
 }
 
 // One option per line, without special characters.

@@ -313,6 +313,15 @@ void OptionsMemoryTest::linkIsNotFollowed()
     OptionsMemory::restore(home(), dest.record, &readLikeNewer);
     QCOMPARE(text(OptionArray(dest.record)), text(options));
     QVERIFY(precious.remove());
+
+    // Nor is a link in the folder's place.
+    QVERIFY(QDir(folder()).removeRecursively());
+    const QString elsewhere = QDir::homePath() + "/elsewhere";
+    QVERIFY(QDir().mkpath(elsewhere) && QFile::link(elsewhere, folder()));
+    OptionsMemory::remember(home(), "LP1", {}, options, &readLikeNewer);
+    OptionsMemory::remember(home(), "LP1", "wide", options, &readLikeNewer);
+    QVERIFY(QDir(elsewhere).isEmpty());
+    QVERIFY(QFile::remove(folder()) && QDir().rmdir(elsewhere));
 }
 
 void OptionsMemoryTest::forgotten()
