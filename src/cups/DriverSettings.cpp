@@ -32,9 +32,15 @@ DriverSettings::Kind kindOf(ppd_file_t *ppd, const Dialect *dialect)
 
 DriverSettings::DriverSettings(CupsSupport &cups_)
     : cups(cups_)
-    , dialect(Dialect::of(cups_.getPpdFile()))
-    , settingsKind(kindOf(cups_.getPpdFile(), dialect))
 {
+    update();
+}
+
+void DriverSettings::update()
+{
+    ppd_file_t *ppd = cups.getPpdFile();
+    dialect = Dialect::of(ppd);
+    settingsKind = kindOf(ppd, dialect);
 }
 
 bool DriverSettings::has(const char *setting) const
@@ -87,7 +93,7 @@ QStringList DriverSettings::presetKeywords() const
 
 std::optional<DriverSettings::PageSizeLimits> DriverSettings::customPageSize() const
 {
-    const ppd_file_t *ppd = cups.getPpdFile();
+    ppd_file_t *ppd = cups.getPpdFile();
     if (!ppd || !ppd->variable_sizes)
         return std::nullopt;
     return PageSizeLimits{QSizeF(ppd->custom_min[0], ppd->custom_min[1]),

@@ -20,7 +20,7 @@ class CupsSupport;
  * and whether it takes page sizes of the user's. The values themselves go through CupsSupport's accessors.
  *
  * Settings are named by our keyword, in the units of CupsSupport's accessors. Points to the printer access object,
- * which has to live longer. What it says holds until another printer becomes current; the PPD file may be reopened.
+ * which has to live longer. What it says holds until another printer becomes current, see update(); the PPD file may be reopened.
  */
 class DriverSettings
 {
@@ -40,6 +40,9 @@ public:
     };
 
     explicit DriverSettings(CupsSupport &cups);
+
+    /** To be called when another printer has become current. */
+    void update();
 
     Kind kind() const { return settingsKind; }
     bool isForeign() const { return settingsKind == Kind::Foreign; }
@@ -88,8 +91,8 @@ public:
 
 private:
     CupsSupport &cups;
-    const Dialect *dialect;
-    Kind settingsKind;
+    const Dialect *dialect = nullptr;
+    Kind settingsKind = Kind::Own;
 };
 
 #endif

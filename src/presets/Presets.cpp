@@ -49,6 +49,12 @@ Presets::~Presets()
     clearPresets();
 }
 
+void Presets::setPrinter(const QString &printer)
+{
+    d->printerName = printer;
+    load();
+}
+
 bool Presets::load()
 {
     clearPresets();

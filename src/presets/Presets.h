@@ -33,6 +33,9 @@ public:
     Presets(const Presets &) = delete; ///< Not to be copied.
     Presets &operator=(const Presets &) = delete; ///< Not to be copied.
 
+    /** Lists the presets of @p printer, another queue, instead; what was not saved is dropped. */
+    void setPrinter(const QString &printer);
+
     /** Lists the folder again and drops what is in memory. Pointers to presets become invalid. @return always true. */
     bool load();
 

@@ -93,6 +93,23 @@ void DriverForm::restrictFields()
     restrictEdits();
 }
 
+void DriverForm::release()
+{
+    clearMarks();
+    for (const Row &row : rowsOf(ui)) {
+        for (QWidget *widget : row.widgets) {
+            widget->setEnabled(true);
+            widget->setToolTip(QString());
+        }
+    }
+    for (QLineEdit *edit : {ui.stop, ui.verticalEdit})
+        edit->setPlaceholderText(QString());
+    ui.stockGroupBox->setEnabled(true);
+    ui.stockGroupBox->setToolTip(QString());
+    delete note;
+    note = nullptr;
+}
+
 // The data of an item is our value; that of the one that leaves the setting to the printer has none.
 void DriverForm::restrictList(QComboBox *list, const char *setting)
 {
@@ -199,6 +216,7 @@ void DriverForm::showNote()
         note->setObjectName(QStringLiteral("noLabelSettingsNote"));
         note->setWordWrap(true);
         dialog.layout()->setMenuBar(note);
+        note->show(); // the dialog may be about to be shown, with all that it had before
     }
     note->setText(PrintPropertiesDialog::tr("The driver of this printer has no label settings. Only the page size and "
                                             "the orientation take effect."));

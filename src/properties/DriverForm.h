@@ -35,6 +35,9 @@ public:
     /** Disables the fields without counterpart, and has lists and edits take only what the driver can do. Once. */
     void restrictFields();
 
+    /** Undoes all of this before another printer's driver is described. */
+    void release();
+
     /** Sets the sliders' ranges. */
     void restrictSliders();
 

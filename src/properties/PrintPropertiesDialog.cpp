@@ -26,6 +26,7 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QTextDocument>
+#include <QValidator>
 
 #include <algorithm>
 #include <initializer_list>
@@ -93,6 +94,12 @@ QString withOptionNames(const QString &printerName, const DriverSettings &driver
     return printerName;
 }
 
+// Another make's printer is of none of the families, whatever its queue is called.
+const ModelFamily &familyOf(const QString &queueName, const DriverSettings &driver)
+{
+    return ModelFamily::of(driver.isForeign() ? QString() : queueName);
+}
+
 // Cutting the picture out of its background takes longer than loading the settings and always has the same result.
 QIcon maskedIcon()
 {
@@ -116,10 +123,11 @@ PrintPropertiesDialog::Private::Private(PrintPropertiesDialog *dialog, QPrinter 
     , printer(printer_)
     , cups(cups_)
     , driver(*cups)
-    , family(ModelFamily::of(driver.isForeign() ? QString() : printer->printerName()))
+    , queueName(printer->printerName())
+    , family(familyOf(queueName, driver))
     , forceCustomStock(probeHostSettings())
     , form(*dialog, ui, driver)
-    , presets(withOptionNames(printer->printerName(), driver))
+    , presets(withOptionNames(queueName, driver))
 {
     createPresets();
 }
@@ -142,29 +150,51 @@ PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer,
     setWindowIcon(maskedIcon());
     d->ui.helpButton->hide();
     d->ui.tabs->setCurrentIndex(0);
-    d->createValidators();
-    d->fillLists();
     d->hideUnusedRows();
-    d->form.restrictFields();
-    d->form.describeFields();
-    on_mediaType_currentIndexChanged(cups->getCategory());
+    d->fitToPrinter();
     d->ui.jobStartRadioButton->setChecked(true);
     setChanged(false);
 }
 
 PrintPropertiesDialog::~PrintPropertiesDialog() = default;
 
+// The host may have turned the QPrinter and the CupsSupport to another queue since the dialog was made.
+void PrintPropertiesDialog::Private::turnToPrinter()
+{
+    queueName = printer->printerName();
+    form.release();
+    driver.update();
+    family = familyOf(queueName, driver);
+    presets.setPrinter(withOptionNames(queueName, driver));
+    createPresets();
+    // What the settings of the other queue may leave as they are.
+    for (QLineEdit *edit : {ui.widthEdit, ui.heightEdit, ui.gapSize, ui.gapOffset})
+        edit->clear();
+    showOwnTexts();
+    fitToPrinter();
+    makeRoom();
+}
+
+void PrintPropertiesDialog::Private::fitToPrinter()
+{
+    createValidators();
+    fillLists();
+    form.restrictFields();
+    form.describeFields();
+    q->on_mediaType_currentIndexChanged(cups->getCategory());
+}
+
 void PrintPropertiesDialog::Private::createPresets()
 {
-    const QString printerName = printer->printerName();
-    presets.addPreset(new Preset(printerName, QString(), cups->cupsOptions(), QStringLiteral("<Current Settings>"),
+    presets.addPreset(new Preset(queueName, QString(), cups->cupsOptions(), QStringLiteral("<Current Settings>"),
                                  QObject::tr("This preset contains this driver's current settings."), 0));
-    presets.addPreset(new Preset(printerName, QString(), QStringList(), QStringLiteral("<Default Settings>"),
+    presets.addPreset(new Preset(queueName, QString(), QStringList(), QStringLiteral("<Default Settings>"),
                                  QObject::tr("This preset contains this driver's original default settings."), 1));
 }
 
 void PrintPropertiesDialog::Private::createValidators()
 {
+    qDeleteAll(q->findChildren<QValidator *>(QString(), Qt::FindDirectChildrenOnly));
     NumberField::acceptInches({ui.widthEdit, ui.heightEdit}, pageSizeRange, q);
     NumberField::acceptInches({ui.gapSize}, family.gapSize, q);
     NumberField::acceptInches({ui.gapOffset}, family.gapOffset, q);
@@ -179,6 +209,8 @@ void PrintPropertiesDialog::Private::createValidators()
 void PrintPropertiesDialog::Private::fillLists()
 {
     const QSignalBlocker blocker(ui.mediaType); // its handler is called once everything is there
+    ui.mediaType->clear();
+    ui.cut->clear();
     ui.mediaType->addItems({PrintPropertiesDialog::tr("Continuous"), PrintPropertiesDialog::tr("Labels With Gaps"),
                             PrintPropertiesDialog::tr("Labels With Marks")});
     ui.cut->addItems({PrintPropertiesDialog::tr("No Cut"), PrintPropertiesDialog::tr("Cut After Job"),
@@ -762,6 +794,8 @@ void PrintPropertiesDialog::showEvent(QShowEvent *event)
 {
     if (event->spontaneous())
         return; // a minimised window that comes back keeps what was typed
+    if (d->printer->printerName() != d->queueName)
+        d->turnToPrinter();
     updateDialog();
     setChanged(false);
 }

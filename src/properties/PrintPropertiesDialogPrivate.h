@@ -31,6 +31,8 @@ struct PrintPropertiesDialog::Private
 {
     Private(PrintPropertiesDialog *dialog, QPrinter *printer_, CupsSupport *cups_);
 
+    void turnToPrinter();
+    void fitToPrinter();
     void createPresets();
     void createValidators();
     void fillLists();
@@ -80,7 +82,8 @@ struct PrintPropertiesDialog::Private
     QPrinter *printer;
     CupsSupport *cups;
     DriverSettings driver;
-    const ModelFamily family;
+    QString queueName; // of the printer that the form was fitted to
+    ModelFamily family;
     const bool forceCustomStock; // the host is set up so that the user page size always applies
     Ui_PrintPropertiesDialog ui;
     DriverForm form;

@@ -155,6 +155,7 @@ void PrintDialogQueueTest::propertiesAreThoseOfTheShownPrinter()
 
     PrintPropertiesDialog properties(nullptr, printer.get(), cups.get());
     QString name;
+    QString title;
     QString resolution;
     const User user({[&](QDialog &print) {
                          if (useDefault)
@@ -165,6 +166,7 @@ void PrintDialogQueueTest::propertiesAreThoseOfTheShownPrinter()
                      },
                      [&](QDialog &shown) {
                          name = printer->printerName();
+                         title = shown.windowTitle();
                          resolution = cups->getDefaultValue("Resolution");
                          childOf<QSlider>(shown, "darknessSlider")->setValue(3);
                          click(shown, "okButton");
@@ -174,6 +176,9 @@ void PrintDialogQueueTest::propertiesAreThoseOfTheShownPrinter()
     QVERIFY(user.left.isEmpty());
 
     QCOMPARE(name, QString("LP1"));
+    QCOMPARE(title, QString("LP1 Printing Preferences"));
+    QVERIFY(QFile::exists(homePath(".cups/LP1/_current.sh")));
+    QVERIFY(!QFile::exists(homePath(".cups/LP-ORCA/_current.sh")));
     QCOMPARE(resolution, QString("203dpi"));
     QCOMPARE(storedOptions("LP1").value("Darkness"), QByteArray("3"));
     QVERIFY(!storedOptions("LP-ORCA").contains("Darkness"));
