@@ -41,7 +41,7 @@ struct Change
 };
 
 /** What was changed since the snapshot. Options that describe the printer (its state, its place, ...) are left out. */
-Change changeSince(const QByteArray &snapshot, const cups_dest_t &dest);
+Change changeSince(const QByteArray &earlier, const cups_dest_t &dest);
 
 /** How an empty value is stored where it is needed. */
 constexpr char storedEmpty[] = " ";
