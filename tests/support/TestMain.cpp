@@ -18,6 +18,7 @@
 #include <cstring>
 #include <tuple>
 
+#include <resolv.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -73,6 +74,14 @@ bool hasSystemWideOptions()
     return std::make_tuple(version[0], version[1], version[2]) >= std::make_tuple(2, 4, 10);
 }
 
+// Lets look-ups of names on this thread be answered at once. QPrinter looks up the name of this machine for each PPD file,
+// which takes long where that name does not resolve; all schedulers here are on local sockets.
+void forgetNameServers()
+{
+    if (res_init() == 0)
+        _res.nscount = 0;
+}
+
 [[noreturn]] void startTests(char **argv, const QByteArray &home, const int (&pipeEnds)[2])
 {
     // It ends with this process.
@@ -86,6 +95,7 @@ bool hasSystemWideOptions()
     // From 2.4.10 on, libcups reads root's options from the system's folder, which is not for tests to write into.
     if (getuid() == 0 && hasSystemWideOptions())
         setenv("CUPS_SERVERROOT", (home + "/.cups").constData(), 1);
+    setenv("RES_OPTIONS", "timeout:1 attempts:1", 1); // lpadmin looks up the name of this machine as well
     for (const char *variable : {"LPDEST", "PRINTER", "CUPS_SERVER", "XDG_CONFIG_HOME", "LANGUAGE"})
         unsetenv(variable);
     execv("/proc/self/exe", argv);
@@ -174,6 +184,7 @@ int TestMain::prepare(int &argc, char **argv)
 {
     if (!qEnvironmentVariableIsSet(homeIsFresh))
         return runTestsInFreshHome(argv);
+    forgetNameServers();
     if (argc < 3 || std::strcmp(argv[1], childArgument) != 0)
         return -1;
     const Function function = childFunctions().value(argv[2]);
