@@ -4,6 +4,7 @@
 #include "cups/CupsSupport.h"
 
 #include "cups/CLocale.h"
+#include "cups/Conflicts.h"
 #include "cups/Dialect.h"
 #include "cups/OptionsFile.h"
 #include "cups/PpdFile.h"
@@ -797,6 +798,24 @@ QStringList CupsSupport::options() const
     QStringList list;
     collectMarkedOptions(list, nullptr);
     return list;
+}
+
+QStringList CupsSupport::conflicts() const
+{
+    QStringList texts;
+    for (const Conflicts::Pair &pair : Conflicts::among(*this, cupsOptions()))
+        texts << pair.texts[0] << pair.texts[1];
+    return texts;
+}
+
+QStringList CupsSupport::conflictResolution() const
+{
+    return Conflicts::resolution(*this, cupsOptions());
+}
+
+QString CupsSupport::optionText(const QString &keyword, const QString &choice) const
+{
+    return Conflicts::text(*this, keyword, choice);
 }
 
 QStringList CupsSupport::cupsOptions() const

@@ -371,6 +371,18 @@ public:
      */
     QStringList options() const;
 
+    /**
+     * The saved options, and PPD defaults, that the constraints of the PPD file do not allow together: a list that
+     * alternates the texts of the two, such as "Print Mode: Cut". Empty if there are none or without a PPD file.
+     */
+    QStringList conflicts() const;
+
+    /** What CUPS proposes to change so that there are no conflicts(), as an option list; empty if it knows nothing. */
+    QStringList conflictResolution() const;
+
+    /** What the user knows an option and its choice by: "Print Mode: Cut"; without a text in the PPD file the names. */
+    QString optionText(const QString &keyword, const QString &choice) const;
+
     /** All saved options of the current destination, as an option list; empty when there is no printer. */
     QStringList cupsOptions() const;
 

@@ -198,7 +198,7 @@ public:
 
     bool isListed() const { return row.conversion == Conversion::Steps || row.conversion == Conversion::Choices; }
 
-    bool isLeft() const { return row.leave && qstrcmp(inForce(row.keyword), row.leave) == 0; }
+    bool isLeft() const { return row.leave && qstrcmp(effective(row.keyword), row.leave) == 0; }
 
     const ppd_choice_t *leaveChoice() const { return row.leave ? choice(row.keyword, row.leave) : nullptr; }
 
@@ -206,7 +206,7 @@ public:
     {
         if (isListed())
             return listedValue();
-        const char *text = inForce(row.keyword);
+        const char *text = effective(row.keyword);
         return text && !isLeft() ? number(text) : std::nullopt;
     }
 
@@ -257,7 +257,7 @@ private:
     }
 
     // The filters pass over choices that the PPD file does not list.
-    const char *inForce(const char *keyword) const
+    const char *effective(const char *keyword) const
     {
         ppd_option_t *found = option(keyword);
         if (!found)
@@ -267,7 +267,10 @@ private:
         return listed ? listed->choice : found->defchoice;
     }
 
-    bool holds(const Condition &condition) const { return qstrcmp(inForce(condition.keyword), condition.choice) == 0; }
+    bool holds(const Condition &condition) const
+    {
+        return qstrcmp(effective(condition.keyword), condition.choice) == 0;
+    }
 
     std::optional<double> listedValue() const
     {

@@ -57,7 +57,7 @@ public:
     static std::optional<int> step(const QLabel *label);
 
     /** Leaves to the printer what the user has emptied, or set so, since @p before was shown. */
-    void leaveToPrinter(DriverSettings &driver, const LabelSettings &before, const LabelSettings &now) const;
+    void leaveToPrinter(DriverSettings &changed, const LabelSettings &before, const LabelSettings &now) const;
 
 private:
     void restrictList(QComboBox *list, const char *setting);

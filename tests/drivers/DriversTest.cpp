@@ -26,6 +26,7 @@ private slots:
 
     void printed_data();
     void printed();
+    void mirrored();
     void nothingTouched_data();
     void nothingTouched();
     void untouchedBesideAChange();
@@ -47,6 +48,7 @@ private slots:
 
     void conflictsOfAnotherMake();
     void conflictsOfOurOwn();
+    void conflictResolution();
 
 private:
     using Action = std::function<void(OpenDialog &)>;
@@ -169,6 +171,13 @@ void DriversTest::printed_data()
     row("zebra", type("verticalEdit", "27"), "zeLabelTop=25", "^LT25", "verticalEdit", "25");
     row("zebra", type("verticalEdit", "0"), "zeLabelTop=0", "^LT0", "verticalEdit", "0");
     row("zebra", type("stop", "-0.07"), "zeTearOffPosition=-15", "~TA-015", "stop", "-0.07");
+    row(
+        "zebra",
+        [](OpenDialog &open) {
+            open.cups.setDirect(true); // the dialog has no field for it, and keeps what a host sets
+            open.slide("speedSlider", 3);
+        },
+        "MediaType=Direct", "^MTD", "speedValue", "3");
     row("zebra", pageSize("3.00", "2.00"), "PageSize=Custom.216.00x144.00", "^PW609", "widthEdit", "3.00");
     row("zebraep2", slide("speedSlider", 4), "zePrintRate=4", "S4\n", "speedValue", "4");
     row("zebraep2", slide("darknessSlider", 20), "Darkness=20", "D10\n", "darknessValue", "20");
@@ -221,11 +230,25 @@ void DriversTest::printed()
     QVERIFY(printedByLp(queue).contains(bytes));
 }
 
+// The picture itself changes.
+void DriversTest::mirrored()
+{
+    OpenDialog open{QString("ql820")};
+    open.dialog.show();
+    open.click("mirroredCheckBox");
+    open.click("applyButton");
+    const QByteArray mirrored = printedByLp("ql820");
+    QCOMPARE(mirrored, printedByLibrary("ql820"));
+    open.click("mirroredCheckBox");
+    open.click("applyButton");
+    QVERIFY(printedByLp("ql820") != mirrored);
+}
+
 void DriversTest::nothingTouched_data()
 {
     QTest::addColumn<QByteArray>("commands"); // none of which is to be sent
     QTest::newRow("zebra") << QByteArray("^PR ~SD ^LT ~TA ^MM ^MT");
-    QTest::newRow("zebraep2") << QByteArray("\nS \nD");
+    QTest::newRow("zebraep2") << QByteArray("\012S \012D");
     QTest::newRow("zebracpl") << QByteArray("SPEED PRESENT-AT");
     QTest::newRow("intelbar") << QByteArray("\033&d");
     QTest::newRow("dymo") << QByteArray("\033c\033 \033d\033 \033f\033");
@@ -632,6 +655,27 @@ void DriversTest::conflictsOfOurOwn()
     open.click("applyButton"); // the dialog saves what it is told
     QCOMPARE(storedOptions("own").value("Darkness"), QByteArray("19"));
     QCOMPARE(storedOptions("own").value("PrintSpeed"), QByteArray("5"));
+}
+
+// What CUPS proposes removes the conflict, and nothing is changed before a host says so.
+void DriversTest::conflictResolution()
+{
+    scheduler->setUserOptions("intelbar", {"inCutInterval=2"});
+    CupsSupport cups;
+    selectQueue(cups, "intelbar");
+    const QStringList before = cups.cupsOptions();
+    QCOMPARE(cups.conflicts(), QStringList({"Print and Cut: Every 2 Labels", "Print Mode: Standard"}));
+    const QStringList proposal = cups.conflictResolution();
+    QVERIFY(!proposal.isEmpty());
+    QCOMPARE(cups.cupsOptions(), before);
+    QCOMPARE(cups.optionText("inPrintMode", "Cut"), QString("Print Mode: Cut"));
+    QCOMPARE(cups.optionText("no-such", "x"), QString("no-such: x"));
+    cups.setOptions(proposal);
+    QCOMPARE(cups.conflicts(), QStringList());
+    QCOMPARE(cups.conflictResolution(), QStringList());
+
+    selectQueue(cups, "zebra");
+    QCOMPARE(cups.conflicts(), QStringList());
 }
 
 PROPERTIESDIALOG_TEST_MAIN(DriversTest)
