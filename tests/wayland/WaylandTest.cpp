@@ -1,0 +1,246 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "OpenDialog.h"
+#include "PrivateScheduler.h"
+#include "TestMain.h"
+
+#include <PropertiesDialog/ExtDialog.h>
+#include <PropertiesDialog/PrintDialog.h>
+
+#include <QListView>
+#include <QProcess>
+#include <QSpinBox>
+#include <QThread>
+
+namespace {
+
+constexpr int screenWidth = 1024;
+constexpr int screenHeight = 768;
+
+void runTool(const QStringList &arguments)
+{
+    if (QProcess::execute("xdotool", arguments) != 0)
+        qFatal("xdotool %s failed", qPrintable(arguments.join(' ')));
+}
+
+// A compositor for Wayland whose screen is a window of the X server. What is pressed there goes to its clients.
+class Compositor
+{
+public:
+    Compositor()
+    {
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        // Ends with us, however that happens.
+        process.start("setpriv",
+                      {"--pdeathsig", "TERM", "weston", "--backend=x11-backend.so", "--shell=kiosk-shell.so",
+                       "--no-config", "--idle-time=0", "--use-pixman", QString("--width=%1").arg(screenWidth),
+                       QString("--height=%1").arg(screenHeight), "--socket=pd-wayland", "--log=/dev/null"});
+        if (!process.waitForStarted())
+            qFatal("weston is not installed");
+        const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + "/pd-wayland";
+        for (int tries = 0; !QFile::exists(socket); ++tries) {
+            if (tries == 600)
+                qFatal("weston does not start");
+            QThread::msleep(100);
+        }
+        // Without a window manager nobody else gives it the keyboard.
+        runTool({"search", "--sync", "--onlyvisible", "--class", "weston", "windowfocus"});
+    }
+    ~Compositor()
+    {
+        process.terminate();
+        process.waitForFinished();
+    }
+
+    Compositor(const Compositor &) = delete;
+    Compositor &operator=(const Compositor &) = delete;
+
+private:
+    QProcess process;
+};
+
+void press(const QString &key)
+{
+    runTool({"key", key});
+}
+
+// Moves the pointer to a place in a widget and clicks. The shell puts every window into the middle of the screen.
+void click(const QWidget *widget, const QPoint &place)
+{
+    const QWidget *window = widget->window();
+    const QPoint corner((screenWidth - window->width()) / 2, (screenHeight - window->height()) / 2);
+    const QPoint screen = corner + widget->mapTo(window, place);
+    // The second movement is one inside the window: the compositor makes nothing of a click before that.
+    for (const int x : {screen.x() - 1, screen.x()}) {
+        runTool({"mousemove", QString::number(x), QString::number(screen.y())});
+        QTest::qWait(50);
+    }
+    runTool({"click", "1"});
+}
+
+void click(const QWidget *widget)
+{
+    click(widget, widget->rect().center());
+}
+
+// Radio buttons and check boxes are clicked at their marks; the rest of their width need not belong to them.
+void clickMark(const QAbstractButton *button)
+{
+    click(button, QPoint(8, button->height() / 2));
+}
+
+} // namespace
+
+// A user of a Wayland desktop works with each dialog, by pointer and by keyboard.
+class WaylandTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+    void propertiesByPointer();
+    void propertiesByKeyboard();
+    void printDialogByPointer();
+    void printDialogByKeyboard();
+    void shortPrintDialog();
+    void offsetDialog();
+
+private:
+    PrivateScheduler scheduler;
+};
+
+void WaylandTest::initTestCase()
+{
+    QVERIFY(QGuiApplication::platformName().startsWith("wayland"));
+    scheduler.addQueue("LP", PrivateScheduler::samplePpd("label-203"), "Label printer");
+    scheduler.addQueue("LP2", PrivateScheduler::samplePpd("label-300"), "Other printer");
+    scheduler.setServerDefault("LP");
+}
+
+void WaylandTest::cleanup()
+{
+    clearHome();
+}
+
+void WaylandTest::propertiesByPointer()
+{
+    OpenDialog t;
+    QTRY_VERIFY(t.dialog.isActiveWindow());
+
+    auto *mirror = t.widget<QCheckBox>("mirroredCheckBox");
+    clickMark(mirror);
+    QTRY_VERIFY(mirror->isChecked());
+
+    // A list opens in a window of its own, and closes with a click beside it. Not with a key: Qt 6.4 hands Return and
+    // Escape on to the dialog.
+    auto *presets = t.widget<QComboBox>("preset0");
+    click(presets);
+    QTRY_VERIFY(presets->view()->isVisible());
+    click(t.widget("previewGroupBox"));
+    QTRY_VERIFY(!presets->view()->isVisible());
+    QVERIFY(t.dialog.isVisible());
+
+    click(t.widget("okButton"));
+    QTRY_VERIFY(!t.dialog.isVisible());
+    QCOMPARE(t.dialog.result(), 1);
+    QCOMPARE(storedOptions("LP").value("MirrorPrint"), QByteArray("True"));
+}
+
+void WaylandTest::propertiesByKeyboard()
+{
+    OpenDialog t;
+    QTRY_VERIFY(t.dialog.isActiveWindow());
+
+    auto *darkness = t.widget<QSlider>("darknessSlider");
+    const int before = darkness->value();
+    for (int steps = 0; !darkness->hasFocus() && steps < 40; ++steps) {
+        const QWidget *focused = QApplication::focusWidget();
+        press("Tab");
+        QTRY_VERIFY(QApplication::focusWidget() != focused);
+    }
+    QVERIFY(darkness->hasFocus());
+    press("Right");
+    QTRY_COMPARE(darkness->value(), before + 1);
+
+    press("Return"); // OK is the default button
+    QTRY_VERIFY(!t.dialog.isVisible());
+    QCOMPARE(t.dialog.result(), 1);
+    QCOMPARE(storedOptions("LP").value("Darkness"), QByteArray::number(before + 1));
+}
+
+void WaylandTest::printDialogByPointer()
+{
+    QPrinter printer;
+    CupsSupport cups;
+    PrintDialog dialog(nullptr, &printer, &cups);
+    dialog.open();
+    QTRY_VERIFY(dialog.isActiveWindow());
+
+    auto *toDefault = dialog.findChild<QCheckBox *>("chkDefaultPrinter");
+    clickMark(toDefault);
+    QTRY_VERIFY(toDefault->isChecked());
+    click(dialog.findChild<QWidget *>("yesButton_2"));
+    QTRY_VERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void WaylandTest::printDialogByKeyboard()
+{
+    QPrinter printer;
+    CupsSupport cups;
+    PrintDialog dialog(nullptr, &printer, &cups);
+    dialog.open();
+    QTRY_VERIFY(dialog.isActiveWindow());
+
+    auto *copies = dialog.findChild<QSpinBox *>("numCopies_2");
+    copies->setFocus();
+    press("Up");
+    QTRY_COMPARE(copies->value(), 2);
+    press("Escape");
+    QTRY_VERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+}
+
+void WaylandTest::shortPrintDialog()
+{
+    PrintDialog dialog(nullptr);
+    dialog.open();
+    QTRY_VERIFY(dialog.isActiveWindow());
+    click(dialog.findChild<QWidget *>("yesButton"));
+    QTRY_VERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void WaylandTest::offsetDialog()
+{
+    CupsSupport cups;
+    ExtDialog dialog(nullptr, &cups);
+    dialog.open();
+    QTRY_VERIFY(dialog.isActiveWindow());
+
+    auto *list = dialog.findChild<QComboBox *>("offset");
+    list->setFocus();
+    list->setCurrentIndex(0);
+    press("Down");
+    QTRY_COMPARE(list->currentIndex(), 1);
+    press("Return");
+    QTRY_VERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+int main(int argc, char **argv)
+{
+    const int exitCode = TestMain::prepare(argc, argv);
+    if (exitCode >= 0)
+        return exitCode;
+    const Compositor compositor;
+    qputenv("WAYLAND_DISPLAY", "pd-wayland");
+    qputenv("QT_QPA_PLATFORM", "wayland");
+    QApplication app(argc, argv);
+    WaylandTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "WaylandTest.moc"
