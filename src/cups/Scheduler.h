@@ -6,10 +6,11 @@
 
 #include <QString>
 
-#include <cups/http.h>
-
 #include <chrono>
 #include <functional>
+
+// libcups' connection. Only src/cups looks inside; the rest of the library includes no header of libcups.
+typedef struct _http_s http_t;
 
 /**
  * Requests to the user's scheduler, with time limits.
