@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int queueColumn = 0;
@@ -65,12 +67,14 @@ void PrinterList::addQueue(const CupsSupport &cups, int index)
         item->setToolTip(column, texts.at(column));
 }
 
-// For all texts, as far as the screen has it.
+// For all texts, as far as the screen has it. Longer ones end with an ellipsis and are in the tool tip.
 void PrinterList::makeRoom()
 {
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize() * 3 / 4;
     QHeaderView *header = ui->printers->header();
     header->resizeSections(QHeaderView::ResizeToContents);
-    const QSize screen = QGuiApplication::primaryScreen()->availableSize() * 3 / 4;
+    for (int column = 0; column < header->count(); ++column)
+        header->resizeSection(column, std::min(header->sectionSize(column), screen.width() / header->count()));
     const int row = ui->printers->sizeHintForRow(0);
     const QSize list(header->length() + 3 * row,
                      header->sizeHint().height() + (ui->printers->topLevelItemCount() + 1) * row);

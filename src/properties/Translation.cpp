@@ -86,6 +86,8 @@ void Translation::loadTextsOfQt()
 // Right-to-left languages mirror the layout. Windows that the host already shows are not changed.
 void Translation::turnAround()
 {
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        return; // there is no layout; the program's command line has texts too
     if (QLocale(translator.language()).textDirection() != Qt::RightToLeft || QGuiApplication::isRightToLeft()
         || !QGuiApplication::topLevelWindows().isEmpty())
         return;
