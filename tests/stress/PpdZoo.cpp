@@ -158,11 +158,15 @@ void PpdZoo::dialog()
     QVERIFY(open.isEnabled("applyButton"));
     open.click("applyButton");
     QVERIFY(!open.isEnabled("applyButton"));
-    QVERIFY(open.cups.getMirror());
-    const Options stored = storedOptions(queue);
-    const Options memory = workingCopy(open.cups);
-    QCOMPARE(stored.value("JobStart"), QByteArray("^XA#1\\\\r"));
-    QVERIFY(stored == memory);
+    // A driver of another make has some of the settings only.
+    QCOMPARE(open.cups.getMirror(), open.isEnabled("mirroredCheckBox"));
+    Options stored = storedOptions(queue);
+    Options memory = workingCopy(open.cups);
+    QCOMPARE(stored.value("JobStart"), open.isEnabled("commandEdit") ? QByteArray("^XA#1\\\\r") : QByteArray());
+    for (Options *options : {&stored, &memory})
+        for (const QByteArray &keyword : options->keys(QByteArray("")))
+            options->remove(keyword); // those of the user are not stored: other programs would make "true" of them
+    QCOMPARE(stored, memory);
 
     open.click("cancelButton");
     QVERIFY(!open.dialog.isVisible());
