@@ -64,6 +64,15 @@ QString stepText(double value)
     return std::abs(value - whole) < 0.05 ? QString::number(whole) : QString::number(value, 'f', 1);
 }
 
+// Number fields have a tool tip of their own.
+void explain(QWidget *widget, const QString &text)
+{
+    if (auto *edit = qobject_cast<QLineEdit *>(widget))
+        NumberField::setNote(edit, text);
+    else
+        widget->setToolTip(text);
+}
+
 QString inches(double points)
 {
     return NumberField::inchesText(points / pointsPerInch);
@@ -99,7 +108,7 @@ void DriverForm::release()
     for (const Row &row : rowsOf(ui)) {
         for (QWidget *widget : row.widgets) {
             widget->setEnabled(true);
-            widget->setToolTip(QString());
+            explain(widget, QString());
         }
     }
     for (QLineEdit *edit : {ui.stop, ui.verticalEdit})
@@ -170,7 +179,7 @@ void DriverForm::describeFields()
     for (const Row &row : rowsOf(ui))
         if (!driver.has(row.setting))
             for (QWidget *widget : row.widgets)
-                widget->setToolTip(PrintPropertiesDialog::tr("The driver of this printer does not have this setting."));
+                explain(widget, PrintPropertiesDialog::tr("The driver of this printer does not have this setting."));
     describeSteps();
     describeEdit(ui.stop, "Stop");
     describeEdit(ui.verticalEdit, "OffsetV");
@@ -205,7 +214,7 @@ void DriverForm::describeEdit(QLineEdit *edit, const char *setting)
     if (leave.isNull())
         return;
     edit->setPlaceholderText(leftText);
-    edit->setToolTip(PrintPropertiesDialog::tr("Empty: left to the printer (%1).").arg(leave));
+    NumberField::setNote(edit, PrintPropertiesDialog::tr("Empty: left to the printer (%1).").arg(leave));
 }
 
 // Above everything else: the form has no row for it because most printers do not need one.
@@ -276,15 +285,22 @@ void DriverForm::mark(QWidget *widget, const QString &text)
         for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
             palette.setColor(group, role, QColor(conflictColour));
     widget->setPalette(palette);
-    widget->setToolTip(isMarked ? widget->toolTip() + QLatin1Char('\n') + text : text);
-    widget->setAccessibleDescription(widget->toolTip());
+    const QString warning = isMarked ? widget->accessibleDescription() + QLatin1Char('\n') + text : text;
+    if (auto *edit = qobject_cast<QLineEdit *>(widget))
+        NumberField::setWarning(edit, warning);
+    else
+        widget->setToolTip(warning);
+    widget->setAccessibleDescription(warning);
 }
 
 void DriverForm::clearMarks()
 {
     for (const auto &[widget, toolTip] : std::exchange(marked, {})) {
         widget->setPalette(QPalette());
-        widget->setToolTip(toolTip);
+        if (auto *edit = qobject_cast<QLineEdit *>(widget))
+            NumberField::setWarning(edit, QString());
+        else
+            widget->setToolTip(toolTip);
         widget->setAccessibleDescription(QString());
     }
 }

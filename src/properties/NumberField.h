@@ -6,36 +6,89 @@
 
 #include "properties/ModelFamily.h"
 
+#include <QObject>
 #include <QString>
 
 #include <initializer_list>
 #include <optional>
 
+class QKeyEvent;
 class QLineEdit;
-class QObject;
+class QValidator;
 
-/** Line edits that hold a number: what they accept, show and hold. Always with a decimal point, whatever the locale. */
-namespace NumberField {
+/**
+ * A line edit that holds a number with a decimal point, whatever the locale.
+ *
+ * Its validator refuses each key that would lead out of the range. Beyond that: a comma that is typed or pasted is a point,
+ * a zero that the range does not allow to stand alone is passed over ("0.5" becomes ".5"), and the tool tip says the range
+ * and the length in millimetres. What is refused is explained at the field.
+ */
+class NumberField : public QObject
+{
+    Q_OBJECT
 
-/** Has @p edits accept lengths in this range only, with two decimals. They share a validator, owned by @p parent. */
-void acceptInches(std::initializer_list<QLineEdit *> edits, const ModelFamily::Inches &range, QObject *parent);
+public:
+    /** Has @p edits accept lengths in this range only, with two decimals. They share a validator, owned by @p parent. */
+    static void acceptInches(std::initializer_list<QLineEdit *> edits, const ModelFamily::Inches &range,
+                             QObject *parent);
 
-/** Has @p edits accept whole numbers from -@p limit to @p limit only. They share a validator, owned by @p parent. */
-void acceptDots(std::initializer_list<QLineEdit *> edits, int limit, QObject *parent);
+    /** Has @p edits accept whole numbers from -@p limit to @p limit only. They share a validator, owned by @p parent. */
+    static void acceptDots(std::initializer_list<QLineEdit *> edits, int limit, QObject *parent);
 
-/** @name Showing a number; nothing if there is none, so that the stored value is kept */
-/** @{ */
-QString inchesText(std::optional<double> inches);
-QString wholeText(std::optional<int> number);
-/** @} */
+    /** Has the tool tip of @p edit, which holds dots, give millimetres. @param resolution in dots per inch. */
+    static void setResolution(QLineEdit *edit, double resolution);
 
-/** @name What @p edit holds */
-/** @{ */
-std::optional<double> number(const QLineEdit *edit);
-std::optional<int> whole(const QLineEdit *edit);
-std::optional<int> rounded(const QLineEdit *edit); ///< A number with a fraction is rounded, halves upward.
-/** @} */
+    /** Adds @p note to the tool tip of @p edit; while that is disabled, the tool tip is the note alone. */
+    static void setNote(QLineEdit *edit, const QString &note);
 
-} // namespace NumberField
+    /** Adds @p warning to the tool tip of @p edit, or takes it away when it is empty. */
+    static void setWarning(QLineEdit *edit, const QString &warning);
+
+    /** The text that takes the most room of those that @p edit accepts; null when it is no number field. */
+    static QString widestText(const QLineEdit *edit);
+
+    /** @name What is shown; nothing for no number, so that what is stored stays */
+    /** @{ */
+    static QString inchesText(std::optional<double> inches);
+    static QString wholeText(std::optional<int> number);
+    /** @} */
+
+    /** @name What @p edit holds */
+    /** @{ */
+    static std::optional<double> number(const QLineEdit *edit);
+    static std::optional<int> whole(const QLineEdit *edit);
+    static std::optional<int> rounded(const QLineEdit *edit); ///< A number with a fraction is rounded, halves upward.
+    /** @} */
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    struct Texts // to be translated
+    {
+        const char *range;
+        const char *length;
+        const char *refusal;
+    };
+    static const Texts inchesTexts;
+    static const Texts dotsTexts;
+
+    explicit NumberField(QLineEdit *edit);
+
+    static NumberField *of(QLineEdit *edit);
+    void accept(QValidator *validator, const Texts &texts, double unitsPerInch);
+    bool pressKey(const QKeyEvent &event);
+    bool passOver(const QKeyEvent &event);
+    bool accepts(QString text) const;
+    void describe();
+    void explainRefusal();
+
+    QLineEdit *const edit;
+    const Texts *texts = nullptr;
+    double unitsPerInch = 0.0; // 0 when not known
+    QString bottom; // as shown
+    QString top;
+    QString note;
+    QString warning;
+};
 
 #endif

@@ -13,6 +13,7 @@
 #include "properties/Preview.h"
 #include "properties/PrinterProperties.h"
 #include "properties/PrintPropertiesDialogPrivate.h"
+#include "properties/WheelGuard.h"
 
 #include <QAction>
 #include <QBitmap>
@@ -24,7 +25,6 @@
 #include <QShowEvent>
 #include <QSignalBlocker>
 #include <QStyle>
-#include <QTabBar>
 #include <QTextDocument>
 #include <QValidator>
 
@@ -37,7 +37,6 @@ namespace {
 
 constexpr double pointsPerInch = 72.0;
 constexpr ModelFamily::Inches pageSizeRange{0.2, 1200.0};
-constexpr int presetListWidth = 180; // pixels; for the names of the built-in presets in a usual font
 constexpr double previewSide = 1200.0; // the preview is square whatever the page size
 
 // The fields of labels with gaps double as those of labels with marks.
@@ -152,6 +151,8 @@ PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer,
     d->ui.tabs->setCurrentIndex(0);
     d->hideUnusedRows();
     d->fitToPrinter();
+    d->makeRoom();
+    new WheelGuard(this);
     d->ui.jobStartRadioButton->setChecked(true);
     setChanged(false);
 }
@@ -200,8 +201,10 @@ void PrintPropertiesDialog::Private::createValidators()
     NumberField::acceptInches({ui.gapOffset}, family.gapOffset, q);
     NumberField::acceptInches({ui.feed}, family.feed, q);
     NumberField::acceptInches({ui.stop}, family.stop, q);
-    NumberField::acceptDots({ui.horizontalEdit, ui.verticalEdit}, family.offsetLimit(cups->getResolution().height()),
-                            q);
+    const QSizeF resolution = cups->getResolution();
+    NumberField::acceptDots({ui.horizontalEdit, ui.verticalEdit}, family.offsetLimit(resolution.height()), q);
+    NumberField::setResolution(ui.horizontalEdit, resolution.width());
+    NumberField::setResolution(ui.verticalEdit, resolution.height());
     for (QLineEdit *edit : {ui.widthEdit, ui.heightEdit})
         edit->installEventFilter(q);
 }
@@ -227,34 +230,6 @@ void PrintPropertiesDialog::Private::hideUnusedRows()
     showAll({ui.printMethodLabel, ui.printMethod, ui.backLabel, ui.back, ui.backUnits, ui.overlapLabel, ui.overlap,
              ui.overlapUnits, ui.start, ui.startLabel, ui.startUnits},
             false);
-}
-
-// The form's sizes suit usual fonts and short words. They are kept if the texts fit; nothing may be cut off.
-void PrintPropertiesDialog::Private::makeRoom()
-{
-    widenFields();
-    FormRoom::freshenSizeHints(*q);
-    for (QGroupBox *box : {ui.previewGroupBox, ui.orientationGroupBox, ui.effectsGroupBox})
-        box->setMinimumSize(box->minimumSize().expandedTo(box->minimumSizeHint()));
-    ui.tabs->updateGeometry(); // its pages do not report their size to it
-    const QMargins margins = q->layout()->contentsMargins();
-    const int tabsWidth = ui.tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
-    q->setFixedSize(q->size().expandedTo(q->minimumSizeHint()).expandedTo(QSize(tabsWidth, 0)));
-}
-
-void PrintPropertiesDialog::Private::widenFields()
-{
-    const bool hasLargeFont = FormRoom::hasLargeFont(*q);
-    if (hasLargeFont)
-        for (QComboBox *list : {ui.preset0, ui.preset1})
-            list->setMinimumWidth(presetListWidth * q->fontMetrics().height() / FormRoom::usualFontHeight);
-    for (QLineEdit *edit : q->findChildren<QLineEdit *>()) {
-        const int frame = edit->minimumSizeHint().width() - edit->fontMetrics().maxWidth();
-        const int needed = edit->fontMetrics().horizontalAdvance(QStringLiteral("0.00")) + frame;
-        if (hasLargeFont)
-            edit->setMaximumWidth(std::max(needed, edit->maximumWidth()));
-        edit->setMinimumWidth(std::min(needed, edit->maximumWidth()));
-    }
 }
 
 // The texts that replace the form's.
@@ -283,6 +258,17 @@ void PrintPropertiesDialog::Private::showGapLabels(int mediaType)
         ui.gapSizeLabel->setText(PrintPropertiesDialog::tr("Black Mark Size"));
         ui.gapOffsetLabel->setText(PrintPropertiesDialog::tr("Black Mark Offset"));
     }
+}
+
+void PrintPropertiesDialog::Private::showWidestGapLabels()
+{
+    showGapLabels(CupsSupport::LabelsWithGaps);
+    const QString size = ui.gapSizeLabel->text();
+    const QString offset = ui.gapOffsetLabel->text();
+    showGapLabels(CupsSupport::LabelsWithMarks);
+    for (const auto &[label, other] : {std::pair(ui.gapSizeLabel, size), std::pair(ui.gapOffsetLabel, offset)})
+        if (label->fontMetrics().horizontalAdvance(other) > label->fontMetrics().horizontalAdvance(label->text()))
+            label->setText(other);
 }
 
 // What a screen reader says about the preview, and about the field whose meaning depends on the chosen radio button.
@@ -335,16 +321,19 @@ void PrintPropertiesDialog::updateDialog()
 
 void PrintPropertiesDialog::Private::showPageSize()
 {
-    const QSizeF ofUser = driver.kind() == DriverSettings::Kind::Own ? QSizeF() : driver.userPageSize();
-    const QSizeF points = !ofUser.isEmpty() ? ofUser : cups ? QSizeF(cups->getDefaultPageSize()) : QSizeF();
-    if (points.width() >= 1 && points.height() >= 1) {
-        ui.widthEdit->setText(NumberField::inchesText(points.width() / pointsPerInch));
-        ui.heightEdit->setText(NumberField::inchesText(points.height() / pointsPerInch));
-    }
+    for (const auto &[edit, text] : pageSizeTexts())
+        edit->setText(text);
     Preset *preset = presets.currentPreset();
     const QSizeF size = preset && !driver.isForeign() ? preset->getUserPageSize() : QSizeF();
-    ui.stockGroupBox->setChecked(forceCustomStock || !ofUser.isEmpty() || (size.width() > 0 && size.height() > 0));
+    ui.stockGroupBox->setChecked(forceCustomStock || !userPageSizeOption().isEmpty()
+                                 || (size.width() > 0 && size.height() > 0));
     loadedPageSize = userPageSize();
+}
+
+// In points. Our own drivers are given the size by their command.
+QSizeF PrintPropertiesDialog::Private::userPageSizeOption() const
+{
+    return driver.kind() == DriverSettings::Kind::Own ? QSizeF() : driver.userPageSize();
 }
 
 void PrintPropertiesDialog::Private::showFamily()
@@ -368,16 +357,53 @@ void PrintPropertiesDialog::Private::show(const LabelSettings &settings)
     ui.cut->setCurrentIndex(settings.cut                         ? ui.cut->findData(*settings.cut)
                             : driver.isLeftToPrinter("CutMedia") ? 0
                                                                  : -1);
-    ui.feed->setText(NumberField::inchesText(settings.feed));
-    ui.back->setText(NumberField::wholeText(settings.back));
-    ui.overlap->setText(NumberField::wholeText(settings.overlap));
-    ui.stop->setText(NumberField::inchesText(settings.*family.stopField()));
+    for (const auto &[edit, text] : numberTexts(settings))
+        edit->setText(text);
     for (std::size_t slot = 0; slot < commands.size(); ++slot)
         commands[slot] = (settings.*LabelSettings::commands[slot]).value_or(QString());
     showCommand();
-    ui.horizontalEdit->setText(NumberField::wholeText(settings.offsetH));
-    ui.verticalEdit->setText(NumberField::wholeText(settings.offsetV));
     form.showSteps();
+}
+
+// The number fields that are filled from settings, and what they show of them.
+QList<QPair<QLineEdit *, QString>> PrintPropertiesDialog::Private::numberTexts(const LabelSettings &settings) const
+{
+    QList<QPair<QLineEdit *, QString>> texts = {
+        {ui.feed, NumberField::inchesText(settings.feed)},
+        {ui.back, NumberField::wholeText(settings.back)},
+        {ui.overlap, NumberField::wholeText(settings.overlap)},
+        {ui.stop, NumberField::inchesText(settings.*family.stopField())},
+        {ui.horizontalEdit, NumberField::wholeText(settings.offsetH)},
+        {ui.verticalEdit, NumberField::wholeText(settings.offsetV)},
+    };
+    if (const auto fields = gapFieldsOf(shownMediaType))
+        texts << qMakePair(ui.gapSize, NumberField::inchesText(settings.*fields->size))
+              << qMakePair(ui.gapOffset, NumberField::inchesText(settings.*fields->offset));
+    return texts;
+}
+
+QList<QPair<QLineEdit *, QString>> PrintPropertiesDialog::Private::pageSizeTexts() const
+{
+    const QSizeF ofUser = userPageSizeOption();
+    const QSizeF points = !ofUser.isEmpty() ? ofUser : cups ? QSizeF(cups->getDefaultPageSize()) : QSizeF();
+    if (points.width() < 1 || points.height() < 1)
+        return {};
+    return {{ui.widthEdit, NumberField::inchesText(points.width() / pointsPerInch)},
+            {ui.heightEdit, NumberField::inchesText(points.height() / pointsPerInch)}};
+}
+
+// A field without a number leaves its option alone, so it may as well show what that is. With other makes' drivers an empty
+// field means something.
+void PrintPropertiesDialog::Private::fillEmptyFields()
+{
+    if (!cups || driver.isForeign())
+        return;
+    const bool wasChanged = changed;
+    for (const auto &[edit, text] : numberTexts(LabelSettings::read(*cups, driver)) + pageSizeTexts())
+        if (!NumberField::number(edit))
+            edit->setText(text);
+    loaded = shown();
+    q->setChanged(wasChanged);
 }
 
 LabelSettings PrintPropertiesDialog::Private::shown() const
@@ -572,6 +598,7 @@ void PrintPropertiesDialog::setChanged(bool value)
 void PrintPropertiesDialog::on_applyButton_clicked()
 {
     saveValues();
+    d->fillEmptyFields();
 }
 
 // The result is set after hiding: the modal loop returns it once control is back there.
@@ -705,9 +732,7 @@ void PrintPropertiesDialog::on_mediaType_currentIndexChanged(int iIndex)
     d->showGapFields(iIndex);
     d->showGapLabels(iIndex);
     d->showMediaRows(iIndex);
-    if (iIndex != d->fittedMediaType)
-        d->makeRoom();
-    d->fittedMediaType = iIndex;
+    d->shownMediaType = iIndex;
     setChanged(true);
 }
 

@@ -12,6 +12,9 @@
 #include "properties/PrintPropertiesDialog.h"
 #include "ui_PrintPropertiesDialog.h"
 
+#include <QHash>
+#include <QList>
+#include <QPair>
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
@@ -39,6 +42,8 @@ struct PrintPropertiesDialog::Private
     void hideUnusedRows();
 
     void makeRoom();
+    QSize neededSize();
+    bool scrollPages();
     void widenFields();
     void describeFields();
     static void describe(QWidget *widget, const QString &text);
@@ -46,12 +51,17 @@ struct PrintPropertiesDialog::Private
     void showOwnTexts();
     void showStopLabel();
     void showGapLabels(int mediaType);
+    void showWidestGapLabels();
 
     void showPageSize();
     void showFamily();
     void show(const LabelSettings &settings);
     LabelSettings shown() const;
     void showStored();
+    QSizeF userPageSizeOption() const;
+    QList<QPair<QLineEdit *, QString>> pageSizeTexts() const;
+    QList<QPair<QLineEdit *, QString>> numberTexts(const LabelSettings &settings) const;
+    void fillEmptyFields();
     void showOrientation(int code);
     void showGapFields(int mediaType);
     void showMediaRows(int mediaType);
@@ -99,7 +109,8 @@ struct PrintPropertiesDialog::Private
     bool hasFallbacks = false; // whether the PPD file was out of reach when the fields were loaded
     std::array<QString, LabelSettings::commands.size()> commands;
     std::size_t commandSlot = commands.size() - 1; // of the command that the edit shows
-    std::optional<int> fittedMediaType; // the one whose rows the dialog's size was last fitted to
+    QHash<const QLineEdit *, int> statedWidths; // the largest that the form allows, which grow only where they have to
+    int shownMediaType = CupsSupport::Continuous; // may be one that the list does not have
 };
 
 #endif

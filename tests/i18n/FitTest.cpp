@@ -18,6 +18,7 @@
 #include <QPushButton>
 
 #include <QScreen>
+#include <QScrollArea>
 #include <QSlider>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -110,6 +111,15 @@ public:
     int examined = 0;
 
 private:
+    // The window, or the page that scrolls down in it.
+    const QWidget *wholeOf(const QWidget *widget) const
+    {
+        for (const auto *area : window->findChildren<QScrollArea *>())
+            if (area->widget()->isAncestorOf(widget) && area->widget()->width() <= area->viewport()->width())
+                return area->widget();
+        return window;
+    }
+
     void examineSize(const QWidget *widget)
     {
         const std::optional<QSize> needed = neededSize(widget);
@@ -119,7 +129,8 @@ private:
         const QSize size = widget->size();
         if (size.width() < needed->width() || size.height() < needed->height())
             faults += nameOf(widget) + " is " + sizeText(size) + ", needs " + sizeText(*needed);
-        if (!window->rect().contains(QRect(widget->mapTo(window, QPoint(0, 0)), size)))
+        const QWidget *whole = wholeOf(widget);
+        if (!whole->rect().contains(QRect(widget->mapTo(whole, QPoint(0, 0)), size)))
             faults += nameOf(widget) + " reaches out of the window";
     }
 

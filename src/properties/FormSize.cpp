@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+// The members of the dialog that give the form the size that it needs.
+
+#include "properties/FormRoom.h"
+#include "properties/NumberField.h"
+#include "properties/PrintPropertiesDialogPrivate.h"
+
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QSize formSize(450, 489);
+constexpr int presetListWidth = 180; // pixels; for the names of the built-in presets in a usual font
+constexpr int titleBarHeight = 40; // pixels; that of the usual window managers, with what they draw around
+
+} // namespace
+
+// The form's sizes are made for usual fonts and short words. They stay where these fit; nothing is to be cut off. What is
+// then higher than the screen scrolls.
+void PrintPropertiesDialog::Private::makeRoom()
+{
+    widenFields();
+    // With the most rows, so that the window stays as it is when the media type changes.
+    showMediaRows(CupsSupport::LabelsWithMarks);
+    showWidestGapLabels();
+    const int available = q->screen()->availableGeometry().height() - titleBarHeight;
+    QSize needed = neededSize();
+    if (needed.height() > available && scrollPages())
+        needed = neededSize();
+    const QSize size = formSize.expandedTo(needed).boundedTo(QSize(QWIDGETSIZE_MAX, available));
+    showMediaRows(shownMediaType);
+    showGapLabels(shownMediaType);
+    q->setFixedSize(size);
+}
+
+QSize PrintPropertiesDialog::Private::neededSize()
+{
+    FormRoom::freshenSizeHints(*q);
+    for (QGroupBox *box : {ui.previewGroupBox, ui.orientationGroupBox, ui.effectsGroupBox})
+        box->setMinimumSize(box->minimumSize().expandedTo(box->minimumSizeHint()));
+    int scrolled = 0;
+    for (QScrollArea *area : ui.tabs->findChildren<QScrollArea *>()) {
+        const QSize page = area->widget()->minimumSizeHint();
+        area->setMinimumWidth(page.width() + area->verticalScrollBar()->sizeHint().width());
+        scrolled = std::max(scrolled, page.height() - area->minimumSizeHint().height());
+    }
+    ui.tabs->updateGeometry(); // its pages do not tell it
+    const QMargins margins = q->layout()->contentsMargins();
+    const int tabsWidth = ui.tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
+    return q->minimumSizeHint().expandedTo(QSize(tabsWidth, 0)) + QSize(0, scrolled);
+}
+
+// What is on a page goes into a scroll area on it. The pages stay, as the form knows them. Returns whether they were changed.
+bool PrintPropertiesDialog::Private::scrollPages()
+{
+    if (ui.tabs->findChild<QScrollArea *>())
+        return false;
+    for (int i = 0; i < ui.tabs->count(); ++i) {
+        QWidget *page = ui.tabs->widget(i);
+        auto *content = new QWidget;
+        content->setLayout(page->layout());
+        auto *area = new QScrollArea(page);
+        area->setFrameShape(QFrame::NoFrame);
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        area->setWidgetResizable(true);
+        area->setFocusPolicy(Qt::NoFocus);
+        area->setWidget(content);
+        area->viewport()->setAutoFillBackground(false);
+        content->setAutoFillBackground(false);
+        auto *layout = new QVBoxLayout(page);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(area);
+    }
+    return true;
+}
+
+void PrintPropertiesDialog::Private::widenFields()
+{
+    const bool hasLargeFont = FormRoom::hasLargeFont(*q);
+    if (hasLargeFont)
+        for (QComboBox *list : {ui.preset0, ui.preset1})
+            list->setMinimumWidth(presetListWidth * q->fontMetrics().height() / FormRoom::usualFontHeight);
+    for (QLineEdit *edit : q->findChildren<QLineEdit *>()) {
+        const QFontMetrics metrics = edit->fontMetrics();
+        const int frame = edit->sizeHint().width() - 17 * metrics.horizontalAdvance(QLatin1Char('x')); // as Qt makes it
+        const int cursor = edit->style()->pixelMetric(QStyle::PM_TextCursorWidth);
+        const int needed = metrics.horizontalAdvance(NumberField::widestText(edit)) + frame + cursor;
+        if (!statedWidths.contains(edit))
+            statedWidths.insert(edit, edit->maximumWidth());
+        edit->setMaximumWidth(std::max(needed, statedWidths.value(edit)));
+        edit->setMinimumWidth(needed);
+        edit->setMinimumHeight(std::max(edit->minimumHeight(), edit->minimumSizeHint().height()));
+    }
+}
