@@ -100,11 +100,11 @@ std::vector<OptionsFile::Stored> OptionsFile::prepare(cups_dest_t *dests, int co
     std::vector<Stored> stored;
     const QByteArray home = OptionsPlace::home(OptionsPlace::current());
     for (cups_dest_t *dest = dests; dest != dests + count; ++dest) {
+        // What is put back is no change of this user's: who saves something else meanwhile does so with the same in view.
+        const bool isDamaged = OptionsMemory::restore(home, *dest, &OptionsSyntax::readWithLibcups);
         for (int i = 0; i < dest->num_options; ++i)
             if (!std::strcmp(dest->options[i].value, OptionsMerge::storedEmpty))
                 cupsAddOption(dest->options[i].name, "", dest->num_options, &dest->options);
-        // What is put back is no change of this user's: who saves something else meanwhile does so with the same in view.
-        const bool isDamaged = OptionsMemory::restore(home, *dest, &OptionsSyntax::readWithLibcups);
         stored.push_back({OptionsMerge::snapshot(*dest), isDamaged});
     }
     return stored;

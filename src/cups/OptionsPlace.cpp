@@ -53,7 +53,7 @@ OptionsPlace::Circumstances OptionsPlace::current()
     circumstances.isRoot = getuid() == 0;
     circumstances.environment = [](const char *variable) { return qgetenv(variable); };
     circumstances.exists = [](const QByteArray &path) { return access(path.constData(), F_OK) == 0; };
-    if (const passwd *user = getpwuid(getuid()))
+    if (const passwd *user = qEnvironmentVariableIsSet("HOME") ? nullptr : getpwuid(getuid()))
         circumstances.homeOfUser = user->pw_dir;
     return circumstances;
 }

@@ -105,6 +105,7 @@ Q_DECLARE_METATYPE(Reader)
 Q_DECLARE_METATYPE(OptionArray)
 
 // If this fails, user commands change when other programs rewrite the options file.
+// If this fails, user commands come back damaged after another program has saved something.
 class OptionsMemoryTest : public QObject
 {
     Q_OBJECT

@@ -217,6 +217,7 @@ private slots:
 
     void emptyCommands_data();
     void emptyCommands();
+    void emptyCommandBehindOneThatIsCut();
     void commandTexts();
     void appliedTextsAndScript();
     void interleavings();
@@ -279,6 +280,23 @@ void OtherProgramsTest::emptyCommands()
     selectQueue(cups, queue);
     for (const char *name : commandNames)
         QCOMPARE(command(cups, name), QString::fromLatin1(cups.getDefaultValue(name)));
+}
+
+// The empty command is lost with the line behind the "#", and put back.
+void OtherProgramsTest::emptyCommandBehindOneThatIsCut()
+{
+    {
+        CupsSupport cups;
+        selectQueue(cups, "LP1");
+        cups.setJobEnd("^FD#1");
+        cups.setJobStart(QString());
+        QCOMPARE(cups.setDests(), 0);
+    }
+    lpoptions({"-p", "LP3", "-o", "copies=2"});
+    CupsSupport cups;
+    selectQueue(cups, "LP1");
+    QCOMPARE(cups.getJobEnd(), QString("^FD#1\n"));
+    QCOMPARE(cups.getJobStart(), QString(""));
 }
 
 void OtherProgramsTest::commandTexts()
