@@ -90,11 +90,6 @@ bool readWhole(UserFile &file, QByteArray &content)
 
 } // namespace
 
-QByteArray OptionsFile::path()
-{
-    return OptionsPlace::find(OptionsPlace::current()).file();
-}
-
 std::vector<OptionsFile::Stored> OptionsFile::prepare(cups_dest_t *dests, int count)
 {
     std::vector<Stored> stored;

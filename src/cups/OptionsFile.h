@@ -14,9 +14,6 @@
 /** The file in which libcups keeps the options and the default printer of a user, or of all users if the user is root. */
 namespace OptionsFile {
 
-/** The path of the options file, as the libcups that runs finds it. */
-QByteArray path();
-
 /** What is known of a destination's options in the file. */
 struct Stored
 {

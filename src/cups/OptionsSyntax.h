@@ -9,7 +9,6 @@
 #include <QByteArray>
 #include <QList>
 
-#include <cstddef>
 #include <functional>
 #include <optional>
 

@@ -14,7 +14,6 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <cstdio>
 
 namespace {
 
