@@ -10,8 +10,8 @@
 #include <PropertiesDialog/PropertiesDialog.h>
 
 #include <QElapsedTimer>
+#include <QPrintEngine>
 #include <QPrinter>
-#include <QPrinterInfo>
 
 #include <cups/cups.h>
 #include <cups/ppd.h>
@@ -74,7 +74,11 @@ void timeParts(std::array<Samples, PartCount> &parts, bool counts)
     {
         CupsSupport cups;
         times[FetchDests] = lap();
-        QPrinter printer(QPrinterInfo::printerInfo(cups.getCurrentQueueName()), QPrinter::ScreenResolution);
+        const QByteArray server = cupsServer();
+        cupsSetServer("/nonexistent"); // Qt does not ask the scheduler
+        QPrinter printer(QPrinter::ScreenResolution);
+        cupsSetServer(server.constData());
+        printer.printEngine()->setProperty(QPrintEngine::PPK_PrinterName, cups.getCurrentQueueName());
         times[MakePrinter] = lap();
         cups.getPpdFile();
         times[OpenPpd] = lap();
@@ -240,10 +244,7 @@ void reportRequests(PrivateScheduler &scheduler)
     QMap<QString, QStringList> requests;
     requests["opening"] = requestsOf(
         scheduler, [] { timeToOpen(); });
-    requests["qt"] = requestsOf(
-        scheduler, [] { timeToQt(); });
-    requests["printer"] = requestsOf(
-        scheduler, [] { const QPrinter printer(QPrinterInfo::printerInfo(queueName(0)), QPrinter::ScreenResolution); });
+    requests["qt"] = requestsOf(scheduler, [] { timeToQt(); });
     requests["dests"] = requestsOf(
         scheduler,
         [] {
@@ -263,29 +264,24 @@ void reportRequests(PrivateScheduler &scheduler)
     names.removeDuplicates();
     names.sort();
 
-    Table table("Requests to the scheduler of one opening",
-                {"request", "opening", "of it QPrinter", "beyond", "cupsGetDests", "cupsGetPPD", "Qt's dialogs",
-                 "opening without PPD file", "what for"});
-    int beyondAll = 0;
+    Table table("Requests to the scheduler of one opening", {"request", "opening", "cupsGetDests", "cupsGetPPD",
+                                                             "Qt's dialogs", "opening without PPD file", "what for"});
     int neededAll = 0;
     for (const QString &name : std::as_const(names)) {
         const auto count = [&](const char *what) { return int(requests[what].count(name)); };
-        const int beyond = count("opening") - count("printer");
-        beyondAll += beyond;
         neededAll += count("dests") + count("ppd");
         QStringList cells{name};
-        for (const int number :
-             {count("opening"), count("printer"), beyond, count("dests"), count("ppd"), count("qt"), count("plain")})
+        for (const int number : {count("opening"), count("dests"), count("ppd"), count("qt"), count("plain")})
             cells << QString::number(number);
         table.addRow(cells << reasonFor(name));
     }
     const QString ppd = "GET /printers/" + queueName(0) + ".ppd";
-    const auto ppdOpenings = requests["opening"].count(ppd) - requests["printer"].count(ppd);
-    table.addRow({"all", QString::number(requests["opening"].size()), QString::number(requests["printer"].size()),
-                  QString::number(beyondAll), QString::number(requests["dests"].size()),
-                  QString::number(requests["ppd"].size()), QString::number(requests["qt"].size()),
-                  QString::number(requests["plain"].size()),
-                  beyondAll <= neededAll && ppdOpenings == 1 ? "no more than needed, the PPD file once" : "TOO MANY"});
+    const int openingAll = int(requests["opening"].size());
+    const bool isMinimal = openingAll <= neededAll && requests["opening"].count(ppd) == 1;
+    QStringList cells{"all"};
+    for (const char *what : {"opening", "dests", "ppd", "qt", "plain"})
+        cells << QString::number(requests[what].size());
+    table.addRow(cells << (isMinimal ? "no more than needed, the PPD file once" : "TOO MANY"));
 }
 
 void program(const Extent &extent)

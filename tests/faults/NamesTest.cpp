@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// On a machine whose own name does not resolve, such as a new container or a label station off line, users wait for no name
-// server: with a scheduler on a local socket no name is looked up.
+// On a machine whose own name does not resolve, such as a new container or a label station off line, users wait for no
+// name server: with a scheduler on a local socket no name is looked up.
 
 #include "CupsMembers.h"
 #include "OpenDialog.h"

@@ -74,8 +74,8 @@ bool hasSystemWideOptions()
     return std::make_tuple(version[0], version[1], version[2]) >= std::make_tuple(2, 4, 10);
 }
 
-// Lets look-ups of names on this thread be answered at once. QPrinter looks up the name of this machine for each PPD file,
-// which takes long where that name does not resolve; all schedulers here are on local sockets.
+// Lets look-ups of names on this thread be answered at once. QPrinter looks up the name of this machine for each PPD
+// file, which takes long where that name does not resolve; all schedulers here are on local sockets.
 void forgetNameServers()
 {
     if (res_init() == 0)
