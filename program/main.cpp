@@ -219,6 +219,32 @@ private:
     }
 };
 
+// Asks once whether to take what CUPS proposes against settings that the printer does not allow together. Returns false if
+// that could not be saved.
+bool settleConflicts(const QString &queue)
+{
+    CupsSupport cups;
+    cups.setCurrentPrinter(cups.getQueueIndex(queue));
+    const QStringList proposal = cups.conflictResolution();
+    if (proposal.isEmpty())
+        return true;
+    const QStringList texts = cups.conflicts();
+    QStringList conflicts;
+    for (int i = 0; i + 1 < texts.size(); i += 2)
+        conflicts << Program::tr("%1 and %2").arg(texts.at(i), texts.at(i + 1));
+    QStringList changes;
+    for (int i = 0; i + 1 < proposal.size(); i += 2)
+        changes << cups.optionText(proposal.at(i), proposal.at(i + 1));
+    const QString question = Program::tr("These settings cannot be used together:") + QLatin1String("\n")
+                             + conflicts.join(QLatin1Char('\n')) + QLatin1String("\n\n")
+                             + Program::tr("Do you want to change them to the following?") + QLatin1String("\n")
+                             + changes.join(QLatin1Char('\n'));
+    if (QMessageBox::question(nullptr, Program::tr("Label Printer Properties"), question) != QMessageBox::Yes)
+        return true;
+    cups.setOptions(proposal);
+    return cups.setDests() == 0;
+}
+
 int editProperties(const std::optional<QString> &named)
 {
     QString queue = named.value_or(QString());
@@ -228,6 +254,11 @@ int editProperties(const std::optional<QString> &named)
     const int result = propertiesDialogFor(queue.toUtf8().constData());
     if (!watcher.failure.isEmpty()) {
         complain(watcher.failure);
+        return unsaved;
+    }
+    if (result == QDialog::Accepted && !settleConflicts(queue)) {
+        complain(
+            Program::tr("The settings could not be saved: %1").arg(QString::fromUtf8(CupsSupport::getCupsError())));
         return unsaved;
     }
     return result == QDialog::Accepted ? saved : cancelled;

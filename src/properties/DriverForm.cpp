@@ -255,6 +255,7 @@ void DriverForm::showStep(QSlider *slider, QLabel *label, const char *setting, i
 void DriverForm::markConflicts(const std::vector<Conflicts::Pair> &pairs)
 {
     clearMarks();
+    describeSteps(); // a slider may have been left to the printer when it was marked
     if (pairs.empty())
         return;
     std::vector<Row> rows = rowsOf(ui);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "DriverPpds.h"
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "Programs.h"
@@ -78,6 +79,8 @@ private slots:
     void saysThatThereIsNoDisplay();
     void savesForTheNamedQueue();
     void saysWhyItCannotSave();
+    void asksAboutConflicts_data();
+    void asksAboutConflicts();
     void menuEntryIsTranslated_data();
     void menuEntryIsTranslated();
 
@@ -286,6 +289,38 @@ void ProgramTest::saysWhyItCannotSave()
     const QString beginning = "label-printer-properties: The settings could not be saved: ";
     QVERIFY2(result.errors.startsWith(beginning) && result.errors.size() > beginning.size() + 1,
              qPrintable(result.errors));
+}
+
+void ProgramTest::asksAboutConflicts_data()
+{
+    QTest::addColumn<QString>("dialogKey");
+    QTest::addColumn<QString>("answerKey"); // none if nothing is to be asked
+    QTest::addColumn<bool>("isChanged");
+    QTest::addColumn<int>("exitStatus");
+    QTest::newRow("taken") << "Return"
+                           << "Return" << true << 0;
+    QTest::newRow("not taken") << "Return"
+                               << "Escape" << false << 0;
+    QTest::newRow("not asked after Cancel") << "Escape" << QString() << false << 1;
+}
+
+// Cutting at an interval needs another mode than this printer's usual one.
+void ProgramTest::asksAboutConflicts()
+{
+    QFETCH(QString, dialogKey);
+    QFETCH(QString, answerKey);
+    DriverPpds ppds;
+    scheduler.addQueue("Cutter", ppds.ppd("intelbar"));
+    scheduler.setUserOptions("Cutter", {"inCutInterval=2"});
+    TitlesAndKeys keys{{dialogTitle("Cutter"), dialogKey}};
+    if (!answerKey.isNull())
+        keys.append({listTitle, answerKey});
+    const Result result = press({"-p", "Cutter"}, keys);
+    const Options stored = storedOptions("Cutter");
+    scheduler.removeQueue("Cutter");
+    QTEST(result.exitStatus, "exitStatus");
+    const bool isAsBefore = stored.value("inCutInterval") == "2" && !stored.contains("inPrintMode");
+    QTEST(!isAsBefore, "isChanged");
 }
 
 void ProgramTest::menuEntryIsTranslated_data()
