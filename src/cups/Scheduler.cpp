@@ -94,8 +94,7 @@ public:
     const QByteArray &serverName() const { return server; }
     bool isLocalSocket() const { return server.startsWith('/'); }
 
-    // Tells libcups on this thread; only what it does not know already, since setting a server drops the rest of its
-    // entry.
+    // Tells libcups on this thread. The server only if it has another one: setting it drops the rest of its entry.
     void adopt() const
     {
         if (server != cupsServer())
@@ -104,8 +103,7 @@ public:
             ippSetPort(port);
         if (encryption != cupsEncryption())
             cupsSetEncryption(encryption);
-        if (user != cupsUser())
-            cupsSetUser(user.constData());
+        cupsSetUser(user.constData()); // unasked, since libcups would read the list of all users to answer
     }
 
 private:
