@@ -45,14 +45,15 @@ PrinterList::PrinterList(const CupsSupport &cups, const QString &selected, const
     : ui(std::make_unique<Ui::PrinterList>())
 {
     ui->setupUi(this);
-    ui->note->setText(note);
-    ui->note->setVisible(!note.isEmpty());
+    showNote(note);
     for (int i = 0; i < cups.getDestCount(); ++i)
         addQueue(cups, i);
     ui->printers->setCurrentItem(ui->printers->topLevelItem(cups.getQueueIndex(selected)));
-    connect(ui->printers, &QTreeWidget::currentItemChanged, this, &PrinterList::enableOk);
+    connect(ui->printers, &QTreeWidget::currentItemChanged, this, &PrinterList::enableButtons);
     connect(ui->printers, &QTreeWidget::itemDoubleClicked, this, &QDialog::accept);
-    enableOk();
+    testLabelButton = ui->buttonBox->addButton(tr("Print &Test Label"), QDialogButtonBox::ActionRole);
+    connect(testLabelButton, &QPushButton::clicked, this, &PrinterList::testLabelWanted);
+    enableButtons();
     makeRoom();
 }
 
@@ -82,9 +83,16 @@ void PrinterList::makeRoom()
     resize(sizeHint().expandedTo(list + QSize(0, 6 * row)).boundedTo(screen));
 }
 
-void PrinterList::enableOk()
+void PrinterList::enableButtons()
 {
-    ui->buttonBox->button(QDialogButtonBox::Ok)->setEnabled(!queue().isEmpty());
+    for (QPushButton *button : {ui->buttonBox->button(QDialogButtonBox::Ok), testLabelButton})
+        button->setEnabled(!queue().isEmpty());
+}
+
+void PrinterList::showNote(const QString &note)
+{
+    ui->note->setText(note);
+    ui->note->setVisible(!note.isEmpty());
 }
 
 QString PrinterList::queue() const

@@ -10,6 +10,7 @@
 #include <memory>
 
 class CupsSupport;
+class QPushButton;
 namespace Ui {
 class PrinterList;
 }
@@ -31,12 +32,20 @@ public:
     /** The selected queue; empty if none is. */
     QString queue() const;
 
+    /** Shows @p note above the list; nothing if it is empty. */
+    void showNote(const QString &note);
+
+Q_SIGNALS:
+    /** The user wants a test label from the selected queue. */
+    void testLabelWanted();
+
 private:
     void addQueue(const CupsSupport &cups, int index);
     void makeRoom();
-    void enableOk();
+    void enableButtons();
 
     std::unique_ptr<Ui::PrinterList> ui;
+    QPushButton *testLabelButton = nullptr; // goes with the button box
 };
 
 #endif

@@ -4,6 +4,7 @@
 // label-printer-properties: the properties dialog for users without a host application.
 
 #include "PrinterList.h"
+#include "TestLabel.h"
 
 #include "properties/Translation.h"
 #include "properties/WindowSystem.h"
@@ -26,7 +27,8 @@ enum ExitStatus {
     saved = 0,
     cancelled = 1,
     impossible = 2, // wrong usage, no printer, no display
-    unsaved = 3
+    unsaved = 3,
+    unprinted = 4
 };
 
 constexpr char programName[] = "label-printer-properties";
@@ -69,6 +71,7 @@ struct CommandLine
 {
     std::optional<int> status; // set if there is nothing more to do
     bool lists = false;
+    bool printsTestLabel = false;
     std::optional<QString> queue;
 };
 
@@ -80,11 +83,14 @@ CommandLine readCommandLine()
                                      Program::tr("The queue, instead of one chosen from a list."), Program::tr("NAME"));
     const QCommandLineOption list({QStringLiteral("l"), QStringLiteral("list")},
                                   Program::tr("Lists the queues, the default one marked with an asterisk."));
+    const QCommandLineOption testLabel(
+        QStringLiteral("test-label"),
+        Program::tr("Prints a label to adjust offsets and darkness by, on the queue or the default one."));
     // Not the parser's own, which have no translation in some of Qt's catalogues.
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, Program::tr("Shows this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      Program::tr("Shows the version."));
-    parser.addOptions({printer, list, help, version});
+    parser.addOptions({printer, list, testLabel, help, version});
 
     CommandLine found;
     if (!parser.parse(QCoreApplication::arguments()))
@@ -97,6 +103,7 @@ CommandLine readCommandLine()
     else if (parser.isSet(version))
         parser.showVersion();
     found.lists = parser.isSet(list);
+    found.printsTestLabel = parser.isSet(testLabel);
     if (parser.isSet(printer))
         found.queue = parser.value(printer);
     return found;
@@ -132,6 +139,47 @@ int listQueues()
         const QString queue = cups.getQueueName(i);
         print(stdout, (queue == defaultQueue ? QLatin1String("* ") : QLatin1String("  ")) + queue);
     }
+    return saved;
+}
+
+// ----- the test label -----
+
+// Prints it on a queue that exists. Returns why it could not be printed; empty if it was.
+QString printTestLabel(CupsSupport &cups, const QString &queue)
+{
+    cups.setCurrentPrinter(cups.getQueueIndex(queue));
+    QString error;
+    if (TestLabel(cups).print(cups, &error) != 0)
+        return QString();
+    return Program::tr("The test label could not be printed: %1").arg(error);
+}
+
+// Needs no display.
+int printTestLabelAndTell(const std::optional<QString> &named, char *program)
+{
+    char option[] = "-platform";
+    char platform[] = "offscreen"; // where fonts come from
+    char *arguments[] = {program, option, platform, nullptr};
+    int count = 3;
+    const QGuiApplication application(count, arguments);
+    const Translation translation(Translation::AllTexts);
+
+    CupsSupport cups;
+    const QString printers = lackOfPrinters(cups);
+    if (!printers.isEmpty())
+        return complain(printers);
+    const QString queue = named.value_or(cups.getDefaultQueueName());
+    if (!named && queue.isEmpty())
+        return complain(Program::tr("there is no default printer; name one with -p"));
+    const QString lack = lackOfQueue(cups, queue);
+    if (!lack.isEmpty())
+        return complain(lack);
+    const QString failure = printTestLabel(cups, queue);
+    if (!failure.isEmpty()) {
+        complain(failure);
+        return unprinted;
+    }
+    print(stdout, Program::tr("The test label was sent to %1.").arg(queue));
     return saved;
 }
 
@@ -176,6 +224,10 @@ std::optional<int> chooseQueue(QString *queue)
         isDefaultUnknown ? Program::tr("The default printer \"%1\" does not exist.").arg(defaultQueue) : QString();
     cups.setCurrentPrinter(-1); // no PPD file is wanted
     PrinterList list(cups, defaultQueue, note);
+    QObject::connect(&list, &PrinterList::testLabelWanted, &list, [&] {
+        const QString failure = printTestLabel(cups, list.queue());
+        list.showNote(failure.isEmpty() ? Program::tr("The test label was sent to %1.").arg(list.queue()) : failure);
+    });
     if (list.exec() != QDialog::Accepted)
         return isDefaultUnknown ? impossible : cancelled;
     *queue = list.queue();
@@ -280,6 +332,12 @@ int main(int argc, char **argv)
             return *commandLine.status;
         if (commandLine.lists)
             return listQueues();
+    }
+    if (commandLine.printsTestLabel)
+        return printTestLabelAndTell(commandLine.queue, argv[0]);
+    {
+        const QCoreApplication application(argc, argv);
+        const Translation translation(Translation::AllTexts);
         platforms = WindowSystem::platforms();
         if (!platforms)
             return complainWithoutWindow(commandLine.queue);

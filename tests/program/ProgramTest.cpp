@@ -72,6 +72,7 @@ private slots:
     void opensTheDialog_data();
     void opensTheDialog();
     void opensTheOnlyQueue();
+    void printsTestLabelFromTheList();
     void defaultIsUnknown();
     void saysThatThereIsNoPrinter_data();
     void saysThatThereIsNoPrinter();
@@ -211,6 +212,15 @@ void ProgramTest::opensTheOnlyQueue()
     OtherScheduler other;
     other->addQueue("Only");
     QCOMPARE(press({}, {{dialogTitle("Only"), "Escape"}}).exitStatus, 1);
+}
+
+void ProgramTest::printsTestLabelFromTheList()
+{
+    // A button that is pressed by its letter acts after a moment.
+    QCOMPARE(press({}, {{listTitle, "Up alt+t sleep 0.5"}, {listTitle, "Escape"}}).exitStatus, 1);
+    const CapturedJob job = scheduler.jobs(1).constFirst();
+    QCOMPARE(job.queue, QString("First"));
+    QVERIFY(job.data.startsWith("%PDF"));
 }
 
 // The user's default may have been removed. The user is told, and not shown another printer unasked.
