@@ -11,6 +11,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QVBoxLayout>
 
@@ -19,8 +20,17 @@
 namespace {
 
 constexpr QSize formSize(450, 489);
-constexpr int presetListWidth = 180; // pixels; for the names of the built-in presets in a usual font
+constexpr int presetListWidth = 160; // pixels; the form's
 constexpr int titleBarHeight = 40; // pixels; that of the usual window managers, with what they draw around
+
+int widthFor(const QString &text, const QComboBox *list)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(list);
+    const int margin = 2 * list->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, list);
+    const QSize content(list->fontMetrics().horizontalAdvance(text) + margin, list->fontMetrics().height());
+    return list->style()->sizeFromContents(QStyle::CT_ComboBox, &option, content, list).width();
+}
 
 } // namespace
 
@@ -85,10 +95,8 @@ bool PrintPropertiesDialog::Private::scrollPages()
 
 void PrintPropertiesDialog::Private::widenFields()
 {
-    const bool hasLargeFont = FormRoom::hasLargeFont(*q);
-    if (hasLargeFont)
-        for (QComboBox *list : {ui.preset0, ui.preset1})
-            list->setMinimumWidth(presetListWidth * q->fontMetrics().height() / FormRoom::usualFontHeight);
+    for (QComboBox *list : {ui.preset0, ui.preset1})
+        list->setMinimumWidth(std::max(presetListWidth, widthFor(QStringLiteral("<Current Settings>"), list)));
     for (QLineEdit *edit : q->findChildren<QLineEdit *>()) {
         const QFontMetrics metrics = edit->fontMetrics();
         const int frame = edit->sizeHint().width() - 17 * metrics.horizontalAdvance(QLatin1Char('x')); // as Qt makes it

@@ -15,6 +15,7 @@
 #include <QScrollArea>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
 #include <QTabWidget>
 #include <QToolTip>
@@ -376,6 +377,12 @@ void NumberFieldTest::everyValueFits()
     open.dialog.show();
     open.widget<QGroupBox>("stockGroupBox")->setChecked(true);
     auto *tabs = open.widget<QTabWidget>("tabs");
+    QStyleOptionComboBox option;
+    const auto *presets = open.list("preset0");
+    option.initFrom(presets);
+    const QRect room =
+        presets->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, presets);
+    QVERIFY(presets->fontMetrics().horizontalAdvance(presets->currentText()) <= room.width());
     const QStringList fields = {"widthEdit", "heightEdit", "gapSize",        "gapOffset",
                                 "feed",      "stop",       "horizontalEdit", "verticalEdit"};
     for (const int mediaType : {0, 2}) {
