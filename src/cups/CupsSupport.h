@@ -268,6 +268,10 @@ public:
     /**
      * @name Label settings
      *
+     * On a queue with a driver of another make that we know, they read and write the driver's keywords instead of those
+     * below: a number becomes the driver's nearest choice, and what the driver does not have is not stored. A setting
+     * that is left to the printer reads as the fallback.
+     *
      * Getters return the stated fallback when the setting is missing or unreadable. Setters store through the setter by
      * keyword and return its result: -1 if there is no printer. Except for setOrientation(), they do not check
      * their input; what the driver allows is in its PPD file.

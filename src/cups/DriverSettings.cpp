@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 // The whole PPD interface is deprecated, but label printers have no other yet.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -36,11 +37,14 @@ DriverSettings::DriverSettings(CupsSupport &cups_)
     update();
 }
 
-void DriverSettings::update()
+bool DriverSettings::update()
 {
     ppd_file_t *ppd = cups.getPpdFile();
-    dialect = Dialect::of(ppd);
-    settingsKind = kindOf(ppd, dialect);
+    if (cups.isPpdFileOutOfReach())
+        return false;
+    const Dialect *dialectBefore = std::exchange(dialect, Dialect::of(ppd));
+    const Kind kindBefore = std::exchange(settingsKind, kindOf(ppd, dialect));
+    return dialect != dialectBefore || settingsKind != kindBefore;
 }
 
 bool DriverSettings::has(const char *setting) const

@@ -20,7 +20,8 @@ class CupsSupport;
  * and whether it takes page sizes of the user's. The values themselves go through CupsSupport's accessors.
  *
  * Settings are named by our keyword, in the units of CupsSupport's accessors. Points to the printer access object,
- * which has to live longer. What it says holds until another printer becomes current, see update(); the PPD file may be reopened.
+ * which has to live longer. What it says holds until another printer becomes current or the printer gets another driver, see
+ * update(); the PPD file may be reopened.
  */
 class DriverSettings
 {
@@ -41,8 +42,12 @@ public:
 
     explicit DriverSettings(CupsSupport &cups);
 
-    /** To be called when another printer has become current. */
-    void update();
+    /**
+     * Looks at the PPD file of the printer that is current now. While that is out of reach, everything stays as it is.
+     *
+     * @return whether the driver is of another kind than before.
+     */
+    bool update();
 
     Kind kind() const { return settingsKind; }
     bool isForeign() const { return settingsKind == Kind::Foreign; }

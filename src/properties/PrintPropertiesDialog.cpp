@@ -819,7 +819,8 @@ void PrintPropertiesDialog::showEvent(QShowEvent *event)
 {
     if (event->spontaneous())
         return; // a minimised window that comes back keeps what was typed
-    if (d->printer->printerName() != d->queueName)
+    // The queue may have got another driver, or its PPD file may have been out of reach.
+    if (d->driver.update() || d->printer->printerName() != d->queueName)
         d->turnToPrinter();
     updateDialog();
     setChanged(false);

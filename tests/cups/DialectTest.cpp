@@ -66,6 +66,12 @@ void DialectTest::initTestCase()
     scheduler->addQueue("own");
     scheduler->addQueue("few", PrivateScheduler::samplePpd("few-options"));
     scheduler->addQueue("raw", QString());
+    scheduler->addQueue("both", scheduler->editedPpd(PrivateScheduler::samplePpd("label-203"),
+                                                     {{"*OpenUI *Back/", "*OpenUI *zePrintRate/"},
+                                                      {"*DefaultBack", "*DefaultzePrintRate"},
+                                                      {"*Back ", "*zePrintRate "},
+                                                      {"AnySetup *Back", "AnySetup *zePrintRate"},
+                                                      {"CloseUI: *Back", "CloseUI: *zePrintRate"}}));
     scheduler->addQueue(
         "driverless", scheduler->editedPpd(PrivateScheduler::samplePpd("few-options"),
                                            {{"*OpenUI *Darkness/Darkness", "*DefaultResolution: 203dpi\n*OpenUI *X/X"},
@@ -149,6 +155,7 @@ void DialectTest::kinds_data()
     const int none = int(DriverSettings::Kind::None);
     QTest::newRow("own") << own;
     QTest::newRow("few") << own;
+    QTest::newRow("both") << own; // a keyword of another make's among ours
     QTest::newRow("raw") << own;
     for (const char *queue : {"zebra", "zebracpl", "zebraep1", "zebraep2", "intelbar", "dymo", "ql820", "ql500",
                               "pt1500", "lw450", "lm450"})

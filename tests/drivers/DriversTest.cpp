@@ -45,6 +45,7 @@ private slots:
     void driverCommandIsNotRun();
     void familyMarkersAreIgnored();
     void noLabelSettings();
+    void queueGetsAnotherDriver();
 
     void conflictsOfAnotherMake();
     void conflictsOfOurOwn();
@@ -609,6 +610,26 @@ void DriversTest::noLabelSettings()
 
     OpenDialog zebra{QString("zebra")};
     QVERIFY(!zebra.dialog.findChild<QLabel *>("noLabelSettingsNote"));
+}
+
+// A host may keep the dialog while the administrator gives the queue another driver.
+void DriversTest::queueGetsAnotherDriver()
+{
+    scheduler->addQueue("changed", PrivateScheduler::samplePpd("label-203"));
+    OpenDialog open{QString("changed")};
+    open.dialog.show();
+    QVERIFY(open.isEnabled("feed"));
+    open.dialog.hide();
+    scheduler->setPpd("changed", ppds.ppd("zebra"));
+    open.cups.closePpdFile();
+    open.dialog.show();
+    QVERIFY(!open.isEnabled("feed"));
+    QCOMPARE(open.widget<QSlider>("speedSlider")->maximum(), 12);
+    open.slide("speedSlider", 7);
+    open.click("applyButton");
+    QCOMPARE(storedOptions("changed").value("zePrintRate"), QByteArray("7"));
+    QVERIFY(fileContent(preset("changed", "_current")).contains(" -ozePrintRate=7"));
+    scheduler->removeQueue("changed");
 }
 
 // ----- conflicts -----
