@@ -8,6 +8,7 @@
 #include <cups/cups.h>
 #include <cups/ppd.h>
 
+#include <sys/socket.h>
 #include <unistd.h>
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -31,13 +32,45 @@ void FakeScheduler::setPpd(const QByteArray &ppd)
     queuePpd = ppd;
 }
 
-// Replace libcups' functions of these names. The connection is refused at once, which the library takes as an
-// invitation to let libcups try.
+// Replace libcups' functions of these names. The connection is none: only functions that are replaced here get it.
 extern "C" {
 
 __attribute__((visibility("default"))) const char *__lsan_default_suppressions();
 
 http_t *httpConnect2(const char *, int, http_addrlist_t *, int, http_encryption_t, int, int, int *)
+{
+    static char connection;
+    return reinterpret_cast<http_t *>(&connection);
+}
+
+void httpClose(http_t *) {}
+
+int httpGetFd(http_t *)
+{
+    return -1;
+}
+
+time_t httpGetActivity(http_t *)
+{
+    return 0;
+}
+
+http_addr_t *httpGetAddress(http_t *)
+{
+    return nullptr;
+}
+
+int httpAddrFamily(http_addr_t *)
+{
+    return AF_LOCAL;
+}
+
+http_state_t httpGetState(http_t *)
+{
+    return HTTP_STATE_WAITING;
+}
+
+const char *cupsGetDefault2(http_t *)
 {
     return nullptr;
 }
@@ -66,16 +99,18 @@ cups_dest_t *cupsGetNamedDest(http_t *, const char *name, const char *)
     return dest;
 }
 
+http_status_t cupsGetFd(http_t *, const char *, int fd)
+{
+    if (queuePpd.isNull())
+        return HTTP_STATUS_NOT_FOUND;
+    FUZZ_CHECK(write(fd, queuePpd.constData(), static_cast<std::size_t>(queuePpd.size())) == queuePpd.size());
+    return HTTP_STATUS_OK;
+}
+
+// Qt asks for the file by itself.
 const char *cupsGetPPD2(http_t *, const char *)
 {
-    static char path[1024];
-    if (queuePpd.isNull())
-        return nullptr;
-    const int fd = cupsTempFd(path, sizeof path);
-    FUZZ_CHECK(fd >= 0
-               && write(fd, queuePpd.constData(), static_cast<std::size_t>(queuePpd.size())) == queuePpd.size());
-    close(fd);
-    return path;
+    return nullptr;
 }
 
 ipp_t *cupsDoRequest(http_t *, ipp_t *request, const char *)
