@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>تعذر حفظ خيارات %1: إما أنها طويلة جدًا أو تحتوي على فاصل أسطر.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>كلمة مرور %1 على %2؟ </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>يتعذر الوصول إلى الطابعة «%1».</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>لم يستجب خادم الطباعة في الوقت المحدد.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>قطع خادم الطباعة الاتصال في منتصف الرد.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation>‎ 0.75مم</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>من ‎%1 إلى ‎%2 بوصة</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>‎%1 بوصة = ‎%2 مم</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>أرقام من ‎%1 إلى ‎%2 فقط، بمنزلتين عشريتين على الأكثر.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>من ‎%1 إلى ‎%2 نقطة</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>‎%1 نقطة = ‎%2 مم</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>أعداد صحيحة من ‎%1 إلى ‎%2 فقط.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>كلمة المرور</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>يطلب خادم الطباعة اسم مستخدم وكلمة مرور.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>لم يُقبل اسم المستخدم أو كلمة المرور. يرجى المحاولة مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>اسم المستخدم:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>كلمة المرور:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ that you can quickly switch between different configurations.</source>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>الاتجاه: %1، معكوس وسلبي</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>لا يوفر برنامج تشغيل هذه الطابعة هذا الإعداد.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>من ‎%1 x %2‎ إلى ‎%3 x %4‎ بوصة.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>لا يقبل برنامج تشغيل هذه الطابعة إلا أحجام الصفحات المدرجة في قائمته.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>متروك للطابعة (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>فارغ: متروك للطابعة (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>لا يوفر برنامج تشغيل هذه الطابعة إعدادات للملصقات. لا يسري سوى حجم الصفحة والاتجاه.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>لا يمكن استخدام %1 مع %2.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>لا يمكن لهذا الإعداد المسبق حفظ الإعدادات الحالية للطابعة: %1. سيؤدي اختياره إلى تغييرها.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>خصائص طابعة الملصقات</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>اختر &amp;طابعة:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>صف الطباعة</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>الوصف</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>المكان</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>لا تقبل المهام</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>خاملة</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>تطبع</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>متوقفة</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>طباعة ملصق ا&amp;ختبار</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>يعرض إعدادات طابعة ملصقات ويغيرها.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>صف الطباعة بدلا من الصف الافتراضي.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ that you can quickly switch between different configurations.</source>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>لا توجد طابعة باسم «%1»؛ الخيار ‎--list‎ يسرد الموجودة</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>خصائص طابعة الملصقات</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>صف الطباعة، بدلًا من اختياره من قائمة.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>يطبع ملصقًا لضبط الإزاحات وكثافة الطباعة، على صف الطباعة المحدد أو الافتراضي.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>يعرض هذه المساعدة.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>يعرض الإصدار.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>يتعذر الوصول إلى خدمة الطباعة: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>لم يتم إعداد أي طابعات.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>تعذرت طباعة ملصق الاختبار: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>لا توجد طابعة افتراضية؛ حدد طابعة بالخيار ‎-p‎</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>أُرسل ملصق الاختبار إلى %1.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>لا يمكن عرض أي نافذة: لم يُعيَّن ‎DISPLAY‎ ولا ‎WAYLAND_DISPLAY‎</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>لا يمكن عرض أي نافذة مع ‎%1‎</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>الطابعة الافتراضية «%1» غير موجودة.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>تعذر حفظ الإعدادات المسبقة.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>تعذر حفظ الإعدادات: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 و %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>لا يمكن استخدام هذه الإعدادات معًا:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>هل تريد تغييرها إلى ما يلي؟</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>الاستخدام: ‎%1‎</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[خيارات]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>الخيارات:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>خيار غير معروف «%1».</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>قيمة مفقودة بعد «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>قيمة غير متوقعة بعد «%1».</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ that you can quickly switch between different configurations.</source>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>تفضيلات الطباعة لـ %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>ملصقات بفجوات</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>ملصقات بعلامات</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>بدون قص</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>قص بعد المهمة</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>قص بعد الصفحة</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>كثافة الطباعة ‎%1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>السرعة ‎%1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>الإزاحة ‎%1 و ‎%2 نقطة</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>الإعدادات الافتراضية</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>‎%1 x %2 مم</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>ملصق اختبار</translation>
     </message>
 </context>
 </TS>

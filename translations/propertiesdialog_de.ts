@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>Die Optionen von %1 können nicht gespeichert werden: Sie sind zu lang oder enthalten einen Zeilenumbruch.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>Passwort für %1 auf %2? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>Der Drucker „%1“ ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>Der Druckserver hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>Der Druckserver hat mitten in einer Antwort abgebrochen.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75mm</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>%1 bis %2 Zoll</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 Zoll = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>Nur Zahlen von %1 bis %2, mit höchstens zwei Nachkommastellen.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>%1 bis %2 Dots</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 Dots = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>Nur ganze Zahlen von %1 bis %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>Der Druckserver verlangt einen Benutzernamen und ein Passwort.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>Sie wurden nicht akzeptiert. Bitte versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Benutzername:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ Namen und wechseln schnell zwischen ihnen.</translation>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>Ausrichtung: %1, gespiegelt und negativ</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>Der Treiber dieses Druckers hat diese Einstellung nicht.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>Von %1 x %2 bis %3 x %4 Zoll.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>Der Treiber dieses Druckers nimmt nur die Seitenformate an, die er auflistet.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>Dem Drucker überlassen (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>Leer: dem Drucker überlassen (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>Der Treiber dieses Druckers hat keine Etiketteneinstellungen. Nur Seitenformat und Ausrichtung sind wirksam.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 und %2 können nicht zusammen verwendet werden.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>Diese Vorgabe kann die aktuellen Einstellungen des Druckers nicht aufnehmen: %1. Ihre Auswahl würde diese ändern.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Einstellungen für Etikettendrucker</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>&amp;Drucker wählen:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Warteschlange</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>Nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Leerlauf</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>&amp;Testetikett drucken</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>Zeigt und ändert die Einstellungen eines Etikettendruckers.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>Die Warteschlange, anstelle der Standard-Warteschlange.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ Namen und wechseln schnell zwischen ihnen.</translation>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>es gibt keinen Drucker „%1“; --list nennt die vorhandenen</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Einstellungen für Etikettendrucker</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>Die Warteschlange, statt einer aus einer Liste gewählten.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>Druckt ein Etikett zum Einstellen von Versatz und Druckdichte, auf der angegebenen oder der Standard-Warteschlange.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Zeigt diese Hilfe.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Zeigt die Version.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>Der Druckdienst ist nicht erreichbar: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>Es sind keine Drucker eingerichtet.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>Das Testetikett konnte nicht gedruckt werden: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>es gibt keinen Standarddrucker; nennen Sie einen mit -p</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>Das Testetikett wurde an %1 gesendet.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>es kann kein Fenster angezeigt werden: Weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>mit %1 kann kein Fenster angezeigt werden</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>Der Standarddrucker „%1“ existiert nicht.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>Die Vorgaben konnten nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>Diese Einstellungen können nicht zusammen verwendet werden:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>Möchten Sie sie wie folgt ändern?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Unbekannte Option „%1“.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Nach „%1“ fehlt der Wert.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Unerwarteter Wert nach „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ Namen und wechseln schnell zwischen ihnen.</translation>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>Druckeinstellungen für %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>Endlos</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>Etiketten mit Lücken</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>Etiketten mit Marken</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>Kein Schnitt</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>Schnitt nach Auftrag</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>Schnitt nach Seite</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>Druckdichte %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Geschwindigkeit %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>Versatz %1, %2 Dots</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Standardeinstellungen</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>Testetikett</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>Les options de %1 ne peuvent pas être enregistrées&#xa0;: elles sont trop longues ou contiennent un saut de ligne.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>Mot de passe pour %1 sur %2&#xa0;? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» est inaccessible.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>Le serveur d’impression n’a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>Le serveur d’impression s’est interrompu au milieu d’une réponse.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -9,7 +32,7 @@
     </message>
     <message>
         <source>Offset:</source>
-        <translation>Décalage :</translation>
+        <translation>Décalage&#xa0;:</translation>
     </message>
     <message>
         <source>-0.75mm</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75mm</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>%1 à %2 pouces</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 pouces = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>Uniquement des nombres de %1 à %2, avec deux décimales au plus.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>%1 à %2 points</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 points = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>Uniquement des nombres entiers de %1 à %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>Le serveur d’impression demande un nom d’utilisateur et un mot de passe.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>Ils n’ont pas été acceptés. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nom d’utilisateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -77,7 +150,7 @@
     </message>
     <message>
         <source>Name:</source>
-        <translation>Nom :</translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Properties</source>
@@ -85,7 +158,7 @@
     </message>
     <message>
         <source>Status:</source>
-        <translation>État :</translation>
+        <translation>État&#xa0;:</translation>
     </message>
     <message>
         <source>Ready</source>
@@ -97,7 +170,7 @@
     </message>
     <message>
         <source>Type:</source>
-        <translation>Type :</translation>
+        <translation>Type&#xa0;:</translation>
     </message>
     <message>
         <source>Vantry</source>
@@ -105,7 +178,7 @@
     </message>
     <message>
         <source>Where:</source>
-        <translation>Lieu :</translation>
+        <translation>Lieu&#xa0;:</translation>
     </message>
     <message>
         <source>Here</source>
@@ -117,7 +190,7 @@
     </message>
     <message>
         <source>Number of Copies:</source>
-        <translation>Nombre de copies :</translation>
+        <translation>Nombre de copies&#xa0;:</translation>
     </message>
     <message>
         <source>OK</source>
@@ -129,7 +202,7 @@
     </message>
     <message>
         <source>Request Print Job Now</source>
-        <translation>Lancer l’impression maintenant ?</translation>
+        <translation>Lancer l’impression maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -147,7 +220,7 @@
     </message>
     <message>
         <source> ?</source>
-        <translation> ?</translation>
+        <translation>&#xa0;?</translation>
     </message>
     <message>
         <source>Printer Change</source>
@@ -170,7 +243,7 @@
     </message>
     <message>
         <source>Width:</source>
-        <translation>Largeur :</translation>
+        <translation>Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>inches</source>
@@ -178,7 +251,7 @@
     </message>
     <message>
         <source>Height:</source>
-        <translation>Hauteur :</translation>
+        <translation>Hauteur&#xa0;:</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -222,7 +295,7 @@
     </message>
     <message>
         <source>Name:</source>
-        <translation>Nom :</translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Manage...</source>
@@ -256,11 +329,11 @@ pour passer rapidement d’une configuration à l’autre.</translation>
     </message>
     <message>
         <source>Preset List:</source>
-        <translation>Liste des préréglages :</translation>
+        <translation>Liste des préréglages&#xa0;:</translation>
     </message>
     <message>
         <source>Description:</source>
-        <translation>Description :</translation>
+        <translation>Description&#xa0;:</translation>
     </message>
     <message>
         <source>New</source>
@@ -284,19 +357,19 @@ pour passer rapidement d’une configuration à l’autre.</translation>
     </message>
     <message>
         <source>MediaType:</source>
-        <translation>Type de support :</translation>
+        <translation>Type de support&#xa0;:</translation>
     </message>
     <message>
         <source>Black Mark Width:</source>
-        <translation>Largeur de la marque noire :</translation>
+        <translation>Largeur de la marque noire&#xa0;:</translation>
     </message>
     <message>
         <source>Black Mark Offset:</source>
-        <translation>Décalage de la marque noire :</translation>
+        <translation>Décalage de la marque noire&#xa0;:</translation>
     </message>
     <message>
         <source>Print Method:</source>
-        <translation>Méthode d’impression :</translation>
+        <translation>Méthode d’impression&#xa0;:</translation>
     </message>
     <message>
         <source>Media Handling</source>
@@ -304,15 +377,15 @@ pour passer rapidement d’une configuration à l’autre.</translation>
     </message>
     <message>
         <source>Cut:</source>
-        <translation>Coupe :</translation>
+        <translation>Coupe&#xa0;:</translation>
     </message>
     <message>
         <source>Feed:</source>
-        <translation>Avance :</translation>
+        <translation>Avance&#xa0;:</translation>
     </message>
     <message>
         <source>Backfeed:</source>
-        <translation>Recul :</translation>
+        <translation>Recul&#xa0;:</translation>
     </message>
     <message>
         <source>dots</source>
@@ -320,7 +393,7 @@ pour passer rapidement d’une configuration à l’autre.</translation>
     </message>
     <message>
         <source>Overlap:</source>
-        <translation>Chevauchement :</translation>
+        <translation>Chevauchement&#xa0;:</translation>
     </message>
     <message>
         <source>Position Adjustments</source>
@@ -328,11 +401,11 @@ pour passer rapidement d’une configuration à l’autre.</translation>
     </message>
     <message>
         <source>Stop Position:</source>
-        <translation>Position d’arrêt :</translation>
+        <translation>Position d’arrêt&#xa0;:</translation>
     </message>
     <message>
         <source>Start Position:</source>
-        <translation>Position de départ :</translation>
+        <translation>Position de départ&#xa0;:</translation>
     </message>
     <message>
         <source>Advanced</source>
@@ -364,11 +437,11 @@ pour passer rapidement d’une configuration à l’autre.</translation>
     </message>
     <message>
         <source>Horizontal Offset:</source>
-        <translation>Décalage horizontal :</translation>
+        <translation>Décalage horizontal&#xa0;:</translation>
     </message>
     <message>
         <source>Vertical Offset:</source>
-        <translation>Décalage vertical :</translation>
+        <translation>Décalage vertical&#xa0;:</translation>
     </message>
     <message>
         <source>About</source>
@@ -478,16 +551,91 @@ pour passer rapidement d’une configuration à l’autre.</translation>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>Orientation : %1, en miroir et en négatif</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>Le pilote de cette imprimante ne propose pas ce réglage.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>De %1 x %2 à %3 x %4 pouces.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>Le pilote de cette imprimante n’accepte que les formats de page de sa liste.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>Laissé au choix de l’imprimante (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>Vide&#xa0;: laissé au choix de l’imprimante (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>Le pilote de cette imprimante n’a pas de réglages d’étiquettes. Seuls le format de page et l’orientation sont pris en compte.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 et %2 ne peuvent pas être utilisés ensemble.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>Ce préréglage ne peut pas contenir les réglages actuels de l’imprimante&#xa0;: %1. Le choisir les modifierait.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Propriétés de l’imprimante d’étiquettes</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>Choisir une &amp;imprimante&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>File d’attente</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>N’accepte pas de tâches</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Inactive</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression en cours</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêtée</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>Imprimer une étiquette de &amp;test</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>Affiche et modifie les réglages d’une imprimante d’étiquettes.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>La file d’attente, au lieu de celle par défaut.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ pour passer rapidement d’une configuration à l’autre.</translation>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>il n’y a pas d’imprimante « %1 » ; --list donne les noms existants</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Propriétés de l’imprimante d’étiquettes</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>La file d’attente, au lieu d’une choisie dans une liste.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>Imprime une étiquette pour régler les décalages et la densité, sur la file d’attente indiquée ou celle par défaut.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Affiche cette aide.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Affiche la version.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>Le service d’impression est inaccessible&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>Aucune imprimante n’est configurée.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>L’étiquette de test n’a pas pu être imprimée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>il n’y a pas d’imprimante par défaut&#xa0;; indiquez-en une avec -p</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>L’étiquette de test a été envoyée à %1.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>impossible d’afficher une fenêtre&#xa0;: ni DISPLAY ni WAYLAND_DISPLAY n’est définie</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>impossible d’afficher une fenêtre avec %1</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>L’imprimante par défaut «&#xa0;%1&#xa0;» n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>Les préréglages n’ont pas pu être enregistrés.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Les réglages n’ont pas pu être enregistrés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>Ces réglages ne peuvent pas être utilisés ensemble&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>Voulez-vous les remplacer par les suivants&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Utilisation&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[options]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Option inconnue «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Valeur manquante après «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valeur inattendue après «&#xa0;%1&#xa0;».</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ pour passer rapidement d’une configuration à l’autre.</translation>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>Préférences d’impression de %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>Continu</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>Étiquettes avec intervalles</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>Étiquettes avec marques</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>Pas de coupe</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>Couper après la tâche</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>Couper après chaque page</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>Densité d’impression %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Vitesse %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>Décalage %1, %2 points</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Réglages par défaut</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>Étiquette de test</translation>
     </message>
 </context>
 </TS>

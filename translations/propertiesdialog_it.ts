@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>Le opzioni di %1 non possono essere salvate: sono troppo lunghe o contengono un’interruzione di riga.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>Password per %1 su %2? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>La stampante «%1» non è raggiungibile.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>Il server di stampa non ha risposto in tempo.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>Il server di stampa si è interrotto nel mezzo di una risposta.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75mm</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>Da %1 a %2 pollici</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 pollici = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>Solo numeri da %1 a %2, con al massimo due decimali.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>Da %1 a %2 punti</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 punti = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>Solo numeri interi da %1 a %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>Il server di stampa richiede un nome utente e una password.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>Non sono stati accettati. Riprovare.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nome utente:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ per passare rapidamente da una configurazione all’altra.</translation>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>Orientamento: %1, speculare e negativo</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>Il driver di questa stampante non ha questa impostazione.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>Da %1 x %2 a %3 x %4 pollici.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>Il driver di questa stampante accetta solo le dimensioni di pagina del suo elenco.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>Lasciato alla stampante (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>Vuoto: lasciato alla stampante (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>Il driver di questa stampante non ha impostazioni per le etichette. Hanno effetto solo la dimensione di pagina e l’orientamento.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 e %2 non possono essere usati insieme.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>Questo profilo non può contenere le impostazioni attuali della stampante: %1. Sceglierlo le cambierebbe.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Proprietà della stampante di etichette</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>Scegli una &amp;stampante:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Coda</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descrizione</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>Non accetta lavori</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Inattiva</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Stampa in corso</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>Stampa etichetta di &amp;prova</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>Mostra e modifica le impostazioni di una stampante di etichette.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>La coda, al posto di quella predefinita.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ per passare rapidamente da una configurazione all’altra.</translation>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>la stampante «%1» non esiste; --list elenca quelle presenti</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Proprietà della stampante di etichette</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>La coda, invece di una scelta da un elenco.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>Stampa un’etichetta per regolare gli offset e la densità, sulla coda indicata o su quella predefinita.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Mostra questo aiuto.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Mostra la versione.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>Il servizio di stampa non è raggiungibile: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>Nessuna stampante è configurata.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>Impossibile stampare l’etichetta di prova: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>non c’è una stampante predefinita; indicarne una con -p</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>L’etichetta di prova è stata inviata a %1.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>impossibile mostrare una finestra: né DISPLAY né WAYLAND_DISPLAY sono impostate</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>impossibile mostrare una finestra con %1</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>La stampante predefinita «%1» non esiste.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>Impossibile salvare i profili.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Impossibile salvare le impostazioni: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>Queste impostazioni non possono essere usate insieme:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>Cambiarle nelle seguenti?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Utilizzo: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opzioni]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opzioni:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opzione sconosciuta «%1».</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Valore mancante dopo «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valore inatteso dopo «%1».</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ per passare rapidamente da una configurazione all’altra.</translation>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>Preferenze di stampa di %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>Continuo</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>Etichette con spazi</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>Etichette con tacche</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>Nessun taglio</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>Taglia dopo il lavoro</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>Taglia dopo ogni pagina</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>Densità di stampa %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Velocità %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>Offset %1, %2 punti</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Impostazioni predefinite</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>Etichetta di prova</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>%1 のオプションを保存できません。長すぎるか、改行が含まれています。</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>%2 での %1 のパスワード? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>プリンター「%1」に接続できません。</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>印刷サーバーから時間内に応答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>印刷サーバーからの応答が途中で切断されました。</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75mm</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>%1 ～ %2 インチ</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 インチ = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>%1 ～ %2 の数値のみ (小数点以下 2 桁まで)。</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>%1 ～ %2 ドット</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 ドット = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>%1 ～ %2 の整数のみ。</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>印刷サーバーがユーザー名とパスワードを要求しています。</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>認証されませんでした。もう一度入力してください。</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>ユーザー名:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ that you can quickly switch between different configurations.</source>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>方向: %1、鏡像、白黒反転</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>このプリンターのドライバーにこの設定はありません。</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>%1 x %2 ～ %3 x %4 インチ。</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>このプリンターのドライバーでは、一覧にある用紙サイズのみ使用できます。</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>プリンターに任せます (%1)。</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>空欄: プリンターに任せます (%1)。</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>このプリンターのドライバーにはラベルの設定がありません。用紙サイズと方向のみ有効です。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 と %2 は同時に使用できません。</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>このプリセットにはプリンターの現在の設定 (%1) を保存できません。選択すると、これらの設定は変更されます。</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>ラベルプリンターのプロパティ</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>プリンターの選択(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>キュー</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>場所</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>ジョブを受け付けていません</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>テストラベルを印刷(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>ラベルプリンターの設定を表示、変更します。</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>デフォルトの代わりに使うキュー。</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ that you can quickly switch between different configurations.</source>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>プリンター「%1」はありません。--list で一覧を表示します</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>ラベルプリンターのプロパティ</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>一覧から選択せずに使用するキュー。</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>オフセットと印刷濃度を調整するためのラベルを、指定したキューまたはデフォルトのキューで印刷します。</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>このヘルプを表示します。</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>バージョンを表示します。</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>印刷サービスに接続できません: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>プリンターが設定されていません。</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>テストラベルを印刷できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>デフォルトのプリンターがありません。-p で指定してください</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>テストラベルを %1 に送信しました。</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>ウィンドウを表示できません: DISPLAY も WAYLAND_DISPLAY も設定されていません</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>%1 ではウィンドウを表示できません</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>デフォルトのプリンター「%1」は存在しません。</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>プリセットを保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>設定を保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 と %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>次の設定は同時に使用できません:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>次のように変更しますか?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>使用法: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[オプション]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>オプション:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>不明なオプション「%1」です。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>「%1」の後に値がありません。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>「%1」の後に予期しない値があります。</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ that you can quickly switch between different configurations.</source>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>%1 の印刷設定</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>連続紙</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>ギャップ付きラベル</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>マーク付きラベル</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>カットしない</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>ジョブ後にカット</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>ページ後にカット</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>印刷濃度 %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>速度 %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>オフセット %1, %2 ドット</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>デフォルト設定</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>テストラベル</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>De opties van %1 kunnen niet worden opgeslagen: ze zijn te lang of bevatten een regeleinde.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>Wachtwoord voor %1 op %2? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>De printer ‘%1’ is niet bereikbaar.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>De afdrukserver heeft niet op tijd geantwoord.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>De afdrukserver heeft een antwoord halverwege afgebroken.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75mm</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>%1 tot %2 inch</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 inch = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>Alleen getallen van %1 tot %2, met hoogstens twee decimalen.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>%1 tot %2 punten</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 punten = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>Alleen gehele getallen van %1 tot %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Wachtwoord</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>De afdrukserver vraagt om een gebruikersnaam en een wachtwoord.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>Ze zijn niet geaccepteerd. Probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Gebruikersnaam:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Wachtwoord:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ om snel tussen configuraties te wisselen.</translation>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>Oriëntatie: %1, gespiegeld en negatief</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>Het stuurprogramma van deze printer heeft deze instelling niet.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>Van %1 x %2 tot %3 x %4 inch.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>Het stuurprogramma van deze printer accepteert alleen de paginaformaten uit zijn lijst.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>Aan de printer overgelaten (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>Leeg: aan de printer overgelaten (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>Het stuurprogramma van deze printer heeft geen etiketinstellingen. Alleen het paginaformaat en de oriëntatie hebben effect.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 en %2 kunnen niet samen worden gebruikt.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>Dit profiel kan de huidige instellingen van de printer niet bevatten: %1. Als u het kiest, worden ze gewijzigd.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Eigenschappen van labelprinter</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>Kies een &amp;printer:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Wachtrij</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschrijving</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Locatie</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>Accepteert geen taken</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Inactief</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Bezig met afdrukken</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Gestopt</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>&amp;Testetiket afdrukken</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>Toont en wijzigt de instellingen van een labelprinter.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>De wachtrij, in plaats van de standaardwachtrij.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ om snel tussen configuraties te wisselen.</translation>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>er is geen printer ‘%1’; --list noemt de aanwezige</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Eigenschappen van labelprinter</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>De wachtrij, in plaats van een uit een lijst gekozen wachtrij.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>Drukt een etiket af om verschuivingen en dichtheid mee in te stellen, op de opgegeven wachtrij of de standaardwachtrij.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Toont deze hulp.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Toont de versie.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>De afdrukdienst is niet bereikbaar: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>Er zijn geen printers ingesteld.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>Het testetiket kon niet worden afgedrukt: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>er is geen standaardprinter; geef er een op met -p</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>Het testetiket is naar %1 verzonden.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>er kan geen venster worden getoond: DISPLAY noch WAYLAND_DISPLAY is ingesteld</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>met %1 kan geen venster worden getoond</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>De standaardprinter ‘%1’ bestaat niet.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>De profielen konden niet worden opgeslagen.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>De instellingen konden niet worden opgeslagen: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>Deze instellingen kunnen niet samen worden gebruikt:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>Wilt u ze wijzigen in de volgende?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Gebruik: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opties]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opties:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Onbekende optie ‘%1’.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Ontbrekende waarde na ‘%1’.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Onverwachte waarde na ‘%1’.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ om snel tussen configuraties te wisselen.</translation>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>Afdrukvoorkeuren voor %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>Doorlopend</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>Etiketten met tussenruimte</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>Etiketten met markeringen</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>Niet snijden</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>Snijden na taak</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>Snijden na pagina</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>Afdrukdichtheid %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Snelheid %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>Verschuiving %1, %2 punten</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Standaardinstellingen</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>Testetiket</translation>
     </message>
 </context>
 </TS>

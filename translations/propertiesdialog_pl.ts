@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>Nie można zapisać opcji %1: są za długie albo zawierają znak końca wiersza.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>Hasło dla %1 na %2? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>Nie można połączyć się z drukarką „%1”.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>Serwer druku nie odpowiedział na czas.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>Serwer druku przerwał połączenie w trakcie odpowiedzi.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75mm</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>Od %1 do %2 cali</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 cali = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>Tylko liczby od %1 do %2, najwyżej z dwoma miejscami po przecinku.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>Od %1 do %2 punktów</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 punktów = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>Tylko liczby całkowite od %1 do %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Hasło</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>Serwer druku wymaga podania nazwy użytkownika i hasła.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>Podane dane nie zostały przyjęte. Spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nazwa użytkownika:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Hasło:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ aby szybko przełączać się między konfiguracjami.</translation>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>Orientacja: %1, odbicie lustrzane i negatyw</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>Sterownik tej drukarki nie ma tego ustawienia.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>Od %1 x %2 do %3 x %4 cali.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>Sterownik tej drukarki przyjmuje tylko rozmiary stron ze swojej listy.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>Decyduje drukarka (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>Puste: decyduje drukarka (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>Sterownik tej drukarki nie ma ustawień etykiet. Działają tylko rozmiar strony i orientacja.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 i %2 nie mogą być używane razem.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>Ten profil nie może przechować bieżących ustawień drukarki: %1. Wybranie go zmieniłoby je.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Właściwości drukarki etykiet</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>Wybierz &amp;drukarkę:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Kolejka</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Opis</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Położenie</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>Nie przyjmuje zadań</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Bezczynna</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drukuje</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Zatrzymana</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>Drukuj etykietę &amp;testową</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>Pokazuje i zmienia ustawienia drukarki etykiet.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>Kolejka, zamiast domyślnej.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ aby szybko przełączać się między konfiguracjami.</translation>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>nie ma drukarki „%1”; --list wypisuje istniejące</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Właściwości drukarki etykiet</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>Kolejka, zamiast wybieranej z listy.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>Drukuje etykietę do regulacji przesunięć i gęstości druku, w podanej lub domyślnej kolejce.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Pokazuje tę pomoc.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Pokazuje wersję.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>Nie można połączyć się z usługą drukowania: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>Nie skonfigurowano żadnych drukarek.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>Nie udało się wydrukować etykiety testowej: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>brak drukarki domyślnej; podaj drukarkę opcją -p</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>Etykieta testowa została wysłana do %1.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>nie można wyświetlić okna: nie ustawiono DISPLAY ani WAYLAND_DISPLAY</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>nie można wyświetlić okna przy %1</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>Drukarka domyślna „%1” nie istnieje.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>Nie udało się zapisać profili.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Nie udało się zapisać ustawień: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 i %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>Tych ustawień nie można używać razem:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>Czy zmienić je na następujące?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Użycie: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opcje]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opcje:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Nieznana opcja „%1”.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Brak wartości po „%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Nieoczekiwana wartość po „%1”.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ aby szybko przełączać się między konfiguracjami.</translation>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>Preferencje drukowania: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>Ciągły</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>Etykiety z przerwami</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>Etykiety ze znacznikami</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>Bez cięcia</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>Cięcie po zadaniu</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>Cięcie po stronie</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>Gęstość druku %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Prędkość %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>Przesunięcie %1, %2 punktów</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Ustawienia domyślne</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>Etykieta testowa</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>As opções de %1 não podem ser salvas: são longas demais ou contêm uma quebra de linha.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>Senha para %1 em %2? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>Não é possível acessar a impressora “%1”.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>O servidor de impressão não respondeu a tempo.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>O servidor de impressão interrompeu uma resposta no meio.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75mm</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>De %1 a %2 polegadas</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 polegadas = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>Somente números de %1 a %2, com no máximo duas casas decimais.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>De %1 a %2 pontos</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 pontos = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>Somente números inteiros de %1 a %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Senha</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>O servidor de impressão pede um nome de usuário e uma senha.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>Eles não foram aceitos. Tente novamente.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nome de usuário:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Senha:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ para alternar rapidamente entre configurações diferentes.</translation>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>Orientação: %1, espelhado e em negativo</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>O driver desta impressora não tem esta configuração.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>De %1 x %2 a %3 x %4 polegadas.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>O driver desta impressora aceita somente os tamanhos de página da sua lista.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>Definido pela impressora (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>Vazio: definido pela impressora (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>O driver desta impressora não tem configurações de etiqueta. Somente o tamanho de página e a orientação têm efeito.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 e %2 não podem ser usados juntos.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>Esta predefinição não pode conter as configurações atuais da impressora: %1. Escolhê-la as alteraria.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Propriedades da impressora de etiquetas</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>Escolha uma &amp;impressora:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Fila</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descrição</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Localização</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>Não aceita trabalhos</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Ociosa</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprimindo</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Parada</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>Imprimir etiqueta de &amp;teste</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>Mostra e altera as configurações de uma impressora de etiquetas.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>A fila, em vez da padrão.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ para alternar rapidamente entre configurações diferentes.</translation>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>não existe a impressora “%1”; --list mostra as existentes</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Propriedades da impressora de etiquetas</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>A fila, em vez de uma escolhida em uma lista.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>Imprime uma etiqueta para ajustar os deslocamentos e a densidade, na fila indicada ou na padrão.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Mostra esta ajuda.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Mostra a versão.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>Não é possível acessar o serviço de impressão: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>Nenhuma impressora foi configurada.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>Não foi possível imprimir a etiqueta de teste: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>não há impressora padrão; indique uma com -p</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>A etiqueta de teste foi enviada para %1.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>não é possível mostrar uma janela: nem DISPLAY nem WAYLAND_DISPLAY estão definidas</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>não é possível mostrar uma janela com %1</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>A impressora padrão “%1” não existe.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>Não foi possível salvar as predefinições.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Não foi possível salvar as configurações: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>Estas configurações não podem ser usadas juntas:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>Deseja alterá-las para as seguintes?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opções]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opções:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Opção desconhecida “%1”.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Falta um valor após “%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Valor inesperado após “%1”.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ para alternar rapidamente entre configurações diferentes.</translation>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>Preferências de impressão de %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>Contínua</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>Etiquetas com espaços</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>Etiquetas com marcas</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>Sem corte</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>Cortar após o trabalho</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>Cortar após cada página</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>Densidade de impressão %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Velocidade %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>Deslocamento %1, %2 pontos</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Configurações padrão</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>Etiqueta de teste</translation>
     </message>
 </context>
 </TS>

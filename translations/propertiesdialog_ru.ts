@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>Не удаётся сохранить параметры %1: они слишком длинные или содержат перевод строки.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>Пароль пользователя %1 на %2? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>Нет связи с принтером «%1».</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>Сервер печати не ответил вовремя.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>Сервер печати прервал соединение, не закончив ответ.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75мм</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>От %1 до %2 дюйма</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 дюйма = %2 мм</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>Только числа от %1 до %2, не более двух знаков после запятой.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>От %1 до %2 точек</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 точек = %2 мм</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>Только целые числа от %1 до %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>Сервер печати запрашивает имя пользователя и пароль.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>Имя пользователя или пароль не приняты. Повторите попытку.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Имя пользователя:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Пароль:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ that you can quickly switch between different configurations.</source>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>Ориентация: %1, зеркально, негатив</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>В драйвере этого принтера нет такого параметра.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>От %1 x %2 до %3 x %4 дюйма.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>Драйвер этого принтера принимает только размеры страниц из своего списка.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>На усмотрение принтера (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>Пусто: на усмотрение принтера (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>В драйвере этого принтера нет параметров этикеток. Действуют только размер страницы и ориентация.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 и %2 нельзя использовать вместе.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>Этот набор не может хранить текущие параметры принтера: %1. При его выборе они изменятся.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Свойства принтера этикеток</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>Выберите &amp;принтер:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Очередь</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Описание</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Расположение</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>Не принимает задания</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Ожидание</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Печать</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Остановлен</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>Напечатать про&amp;бную этикетку</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>Показывает и изменяет параметры принтера этикеток.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>Очередь печати вместо очереди по умолчанию.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ that you can quickly switch between different configurations.</source>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>принтера «%1» нет; --list перечисляет имеющиеся</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Свойства принтера этикеток</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>Очередь печати вместо выбираемой из списка.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>Печатает в указанной очереди или в очереди по умолчанию этикетку для настройки смещений и плотности печати.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Показывает эту справку.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Показывает версию.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>Нет связи со службой печати: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>Ни один принтер не настроен.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>Не удалось напечатать пробную этикетку: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>нет принтера по умолчанию; укажите принтер с помощью -p</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>Пробная этикетка отправлена на %1.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>не удаётся показать окно: не заданы ни DISPLAY, ни WAYLAND_DISPLAY</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>не удаётся показать окно при %1</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>Принтер по умолчанию «%1» не существует.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>Не удалось сохранить наборы.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Не удалось сохранить параметры: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 и %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>Эти параметры нельзя использовать вместе:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>Изменить их на следующие?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Использование: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[параметры]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметры:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Неизвестный параметр «%1».</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Пропущено значение после «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Неожиданное значение после «%1».</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ that you can quickly switch between different configurations.</source>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>Настройка печати: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>Непрерывный</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>Этикетки с промежутками</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>Этикетки с метками</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>Не отрезать</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>Отрезать после задания</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>Отрезать после страницы</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>Плотность печати %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Скорость %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>Смещение %1, %2 точек</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Параметры по умолчанию</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 мм</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>Пробная этикетка</translation>
     </message>
 </context>
 </TS>

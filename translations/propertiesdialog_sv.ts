@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="sv" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>Alternativen för %1 kan inte sparas: de är för långa eller innehåller en radbrytning.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>Lösenord för %1 på %2? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>Skrivaren ”%1” kan inte nås.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>Utskriftsservern svarade inte i tid.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>Utskriftsservern avbröt mitt i ett svar.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75mm</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>%1 till %2 tum</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 tum = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>Endast tal från %1 till %2, med högst två decimaler.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>%1 till %2 punkter</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 punkter = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>Endast heltal från %1 till %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Lösenord</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>Utskriftsservern begär ett användarnamn och ett lösenord.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>De godtogs inte. Försök igen.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Användarnamn:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Lösenord:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ så att du snabbt kan växla mellan dem.</translation>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>Orientering: %1, spegelvänd och negativ</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>Skrivarens drivrutin har inte den här inställningen.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>Från %1 x %2 till %3 x %4 tum.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>Skrivarens drivrutin godtar endast de sidstorlekar som den listar.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>Överlåts åt skrivaren (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>Tomt: överlåts åt skrivaren (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>Skrivarens drivrutin har inga etikettinställningar. Endast sidstorleken och orienteringen har effekt.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 och %2 kan inte användas tillsammans.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>Den här förinställningen kan inte innehålla skrivarens nuvarande inställningar: %1. De skulle ändras om du väljer den.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Egenskaper för etikettskrivare</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>Välj en &amp;skrivare:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Kö</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beskrivning</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Plats</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>Tar inte emot jobb</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Overksam</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Skriver ut</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Stoppad</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>Skriv ut &amp;testetikett</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>Visar och ändrar inställningarna för en etikettskrivare.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>Kön, i stället för standardkön.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ så att du snabbt kan växla mellan dem.</translation>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>det finns ingen skrivare ”%1”; --list visar de som finns</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Egenskaper för etikettskrivare</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>Kön, i stället för en som väljs i en lista.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>Skriver ut en etikett för att justera förskjutningar och svärta, på den angivna kön eller standardkön.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Visar den här hjälpen.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Visar versionen.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>Utskriftstjänsten kan inte nås: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>Inga skrivare har konfigurerats.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>Testetiketten kunde inte skrivas ut: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>det finns ingen standardskrivare; ange en med -p</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>Testetiketten har skickats till %1.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>inget fönster kan visas: varken DISPLAY eller WAYLAND_DISPLAY är satt</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>inget fönster kan visas med %1</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>Standardskrivaren ”%1” finns inte.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>Förinställningarna kunde inte sparas.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Inställningarna kunde inte sparas: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 och %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>De här inställningarna kan inte användas tillsammans:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>Vill du ändra dem till följande?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Användning: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[flaggor]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Flaggor:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Okänd flagga ”%1”.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Värde saknas efter ”%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Oväntat värde efter ”%1”.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ så att du snabbt kan växla mellan dem.</translation>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>Utskriftsinställningar för %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>Löpande</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>Etiketter med mellanrum</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>Etiketter med märken</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>Ingen klippning</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>Klipp efter jobb</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>Klipp efter sida</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>Svärta %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Hastighet %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>Förskjutning %1, %2 punkter</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Standardinställningar</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>Testetikett</translation>
     </message>
 </context>
 </TS>

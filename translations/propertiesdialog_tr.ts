@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>%1 seçenekleri kaydedilemiyor: çok uzunlar veya satır sonu içeriyorlar.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>%1 için %2 üzerindeki parola? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>&quot;%1&quot; yazıcısına ulaşılamıyor.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>Yazdırma sunucusu zamanında yanıt vermedi.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>Yazdırma sunucusu yanıtın ortasında bağlantıyı kesti.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75mm</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>%1 ile %2 inç arası</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 inç = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>Yalnızca %1 ile %2 arasında, en fazla iki ondalık basamaklı sayılar.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>%1 ile %2 nokta arası</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 nokta = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>Yalnızca %1 ile %2 arasındaki tam sayılar.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Parola</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>Yazdırma sunucusu bir kullanıcı adı ve parola istiyor.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>Girilenler kabul edilmedi. Lütfen yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Kullanıcı adı:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Parola:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ yapılandırmalar arasında hızla geçiş yapmanızı sağlar.</translation>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>Yönelim: %1, aynalanmış ve negatif</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>Bu yazıcının sürücüsünde bu ayar yok.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>%1 x %2 ile %3 x %4 inç arası.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>Bu yazıcının sürücüsü yalnızca kendi listesindeki sayfa boyutlarını kabul eder.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>Yazıcıya bırakılır (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>Boş: yazıcıya bırakılır (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>Bu yazıcının sürücüsünde etiket ayarları yok. Yalnızca sayfa boyutu ve yönelim etkili olur.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 ve %2 birlikte kullanılamaz.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>Bu ön ayar, yazıcının geçerli ayarlarını saklayamaz: %1. Seçilirse bu ayarlar değişir.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Etiket Yazıcısı Özellikleri</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>Bir &amp;yazıcı seçin:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Kuyruk</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Açıklama</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Konum</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Durum</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>İş kabul etmiyor</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Boşta</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Yazdırıyor</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Durduruldu</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>&amp;Test Etiketi Yazdır</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>Bir etiket yazıcısının ayarlarını gösterir ve değiştirir.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>Varsayılan yerine kullanılacak kuyruk.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ yapılandırmalar arasında hızla geçiş yapmanızı sağlar.</translation>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>&quot;%1&quot; adlı yazıcı yok; --list var olanları gösterir</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Etiket Yazıcısı Özellikleri</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>Listeden seçilen yerine kullanılacak kuyruk.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>Belirtilen kuyrukta veya varsayılan kuyrukta, kaydırmaları ve baskı yoğunluğunu ayarlamak için bir etiket yazdırır.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Bu yardımı gösterir.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Sürümü gösterir.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>Yazdırma hizmetine ulaşılamıyor: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>Hiçbir yazıcı kurulmamış.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>Test etiketi yazdırılamadı: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>varsayılan yazıcı yok; -p ile bir yazıcı belirtin</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>Test etiketi %1 kuyruğuna gönderildi.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>pencere gösterilemiyor: ne DISPLAY ne de WAYLAND_DISPLAY ayarlanmış</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>%1 ile pencere gösterilemiyor</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>Varsayılan yazıcı &quot;%1&quot; mevcut değil.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>Ön ayarlar kaydedilemedi.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Ayarlar kaydedilemedi: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 ve %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>Bu ayarlar birlikte kullanılamaz:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>Aşağıdakilerle değiştirilsin mi?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Kullanım: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[seçenekler]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Seçenekler:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Bilinmeyen seçenek &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; sonrasında değer eksik.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>&quot;%1&quot; sonrasında beklenmeyen değer.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ yapılandırmalar arasında hızla geçiş yapmanızı sağlar.</translation>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>%1 Yazdırma Tercihleri</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>Sürekli</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>Boşluklu Etiketler</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>İşaretli Etiketler</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>Kesme Yok</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>İşten Sonra Kes</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>Sayfadan Sonra Kes</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>Baskı Yoğunluğu %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Hız %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>Kaydırma %1, %2 nokta</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Varsayılan ayarlar</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>Test etiketi</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="uk" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>Не вдалося зберегти параметри %1: вони надто довгі або містять символ розриву рядка.</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>Пароль користувача %1 на %2? </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>Немає зв’язку з принтером «%1».</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>Сервер друку не відповів вчасно.</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>Сервер друку перервав з’єднання посеред відповіді.</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75мм</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>Від %1 до %2 дюйма</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 дюйма = %2 мм</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>Лише числа від %1 до %2, щонайбільше з двома знаками після коми.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>Від %1 до %2 точок</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 точок = %2 мм</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>Лише цілі числа від %1 до %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>Сервер друку просить вказати ім’я користувача і пароль.</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>Ім’я користувача або пароль не прийнято. Повторіть спробу.</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Ім’я користувача:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Пароль:</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ that you can quickly switch between different configurations.</source>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>Орієнтація: %1, дзеркально, негатив</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>У драйвері цього принтера немає такого параметра.</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>Від %1 x %2 до %3 x %4 дюйма.</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>Драйвер цього принтера приймає лише розміри сторінок зі свого списку.</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>На розсуд принтера (%1).</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>Порожньо: на розсуд принтера (%1).</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>У драйвері цього принтера немає параметрів етикеток. Діють лише розмір сторінки та орієнтація.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 і %2 не можна використовувати разом.</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>Цей набір не може зберігати поточні параметри принтера: %1. Якщо його вибрати, їх буде змінено.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Властивості принтера етикеток</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>Виберіть &amp;принтер:</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Черга</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Опис</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Розташування</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Стан</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>Не приймає завдання</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Бездіяльний</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Друк</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Зупинено</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>Надрукувати &amp;тестову етикетку</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>Показує та змінює параметри принтера етикеток.</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>Черга друку замість типової.</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ that you can quickly switch between different configurations.</source>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>принтера «%1» немає; --list показує наявні</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>Властивості принтера етикеток</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>Черга друку замість вибраної зі списку.</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>Друкує у вказаній або типовій черзі етикетку для коригування зміщень і щільності друку.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Показує цю довідку.</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>Показує версію.</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>Немає зв’язку зі службою друку: %1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>Не налаштовано жодного принтера.</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>Не вдалося надрукувати тестову етикетку: %1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>немає типового принтера; вкажіть принтер за допомогою -p</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>Тестову етикетку надіслано на %1.</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>неможливо показати вікно: не встановлено ні DISPLAY, ні WAYLAND_DISPLAY</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>неможливо показати вікно з %1</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>Типового принтера «%1» не існує.</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>Не вдалося зберегти набори.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Не вдалося зберегти параметри: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 і %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>Ці параметри не можна використовувати разом:</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>Змінити їх на такі?</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Використання: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[параметри]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметри:</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>Невідомий параметр «%1».</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>Пропущено значення після «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>Неочікуване значення після «%1».</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ that you can quickly switch between different configurations.</source>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>Параметри друку: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>Безперервний</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>Етикетки з проміжками</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>Етикетки з мітками</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>Не відрізати</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>Відрізати після завдання</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>Відрізати після сторінки</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>Щільність друку %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Швидкість %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>Зміщення %1, %2 точок</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Типові параметри</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 мм</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>Тестова етикетка</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>CupsSupport</name>
+    <message>
+        <source>The options of %1 cannot be stored: they are too long, or hold a line break.</source>
+        <translation>无法存储 %1 的选项：选项过长或包含换行符。</translation>
+    </message>
+    <message>
+        <source>Password for %1 on %2? </source>
+        <translation>%1 在 %2 上的密码？ </translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached.</source>
+        <translation>无法连接打印机“%1”。</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time.</source>
+        <translation>打印服务器未及时响应。</translation>
+    </message>
+    <message>
+        <source>The print server broke off in the middle of an answer.</source>
+        <translation>打印服务器在应答过程中断开了连接。</translation>
+    </message>
+</context>
+<context>
     <name>ExtDialog</name>
     <message>
         <source>Select Extended Print Offset</source>
@@ -38,6 +61,56 @@
     <message>
         <source> 0.75mm</source>
         <translation> 0.75mm</translation>
+    </message>
+</context>
+<context>
+    <name>NumberField</name>
+    <message>
+        <source>%1 to %2 inches</source>
+        <translation>%1 到 %2 英寸</translation>
+    </message>
+    <message>
+        <source>%1 inches = %2 mm</source>
+        <translation>%1 英寸 = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only numbers from %1 to %2, with two decimals at most.</source>
+        <translation>只能是 %1 到 %2 之间的数字，最多两位小数。</translation>
+    </message>
+    <message>
+        <source>%1 to %2 dots</source>
+        <translation>%1 到 %2 点</translation>
+    </message>
+    <message>
+        <source>%1 dots = %2 mm</source>
+        <translation>%1 点 = %2 mm</translation>
+    </message>
+    <message>
+        <source>Only whole numbers from %1 to %2.</source>
+        <translation>只能是 %1 到 %2 之间的整数。</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>The print server asks for a user name and a password.</source>
+        <translation>打印服务器要求提供用户名和密码。</translation>
+    </message>
+    <message>
+        <source>They were not accepted. Please try again.</source>
+        <translation>用户名或密码未被接受。请重试。</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>用户名：</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>密码：</translation>
     </message>
 </context>
 <context>
@@ -478,16 +551,91 @@ that you can quickly switch between different configurations.</source>
         <source>Orientation: %1, mirrored and negative</source>
         <translation>方向：%1，镜像并反色</translation>
     </message>
+    <message>
+        <source>The driver of this printer does not have this setting.</source>
+        <translation>此打印机的驱动程序没有该设置。</translation>
+    </message>
+    <message>
+        <source>From %1 x %2 to %3 x %4 inches.</source>
+        <translation>%1 x %2 到 %3 x %4 英寸。</translation>
+    </message>
+    <message>
+        <source>The driver of this printer accepts only the page sizes that it lists.</source>
+        <translation>此打印机的驱动程序只接受其列出的页面大小。</translation>
+    </message>
+    <message>
+        <source>Left to the printer (%1).</source>
+        <translation>由打印机决定（%1）。</translation>
+    </message>
+    <message>
+        <source>Empty: left to the printer (%1).</source>
+        <translation>留空：由打印机决定（%1）。</translation>
+    </message>
+    <message>
+        <source>The driver of this printer has no label settings. Only the page size and the orientation take effect.</source>
+        <translation>此打印机的驱动程序没有标签设置。只有页面大小和方向有效。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot be used together.</source>
+        <translation>%1 和 %2 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>This preset cannot hold the printer&apos;s present settings: %1. Choosing it would change them.</source>
+        <translation>此预设无法保存打印机的当前设置：%1。选择此预设会更改这些设置。</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>标签打印机属性</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;printer:</source>
+        <translation>选择打印机(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>队列</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>不接受作业</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>空闲</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>正在打印</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Label</source>
+        <translation>打印测试标签(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
     <message>
         <source>Shows and changes the settings of a label printer.</source>
         <translation>显示和更改标签打印机的设置。</translation>
-    </message>
-    <message>
-        <source>The queue, instead of the default one.</source>
-        <translation>使用的队列，代替默认队列。</translation>
     </message>
     <message>
         <source>NAME</source>
@@ -505,6 +653,105 @@ that you can quickly switch between different configurations.</source>
         <source>there is no printer &quot;%1&quot;; --list names those there are</source>
         <translation>没有打印机“%1”；--list 会列出现有的打印机</translation>
     </message>
+    <message>
+        <source>Label Printer Properties</source>
+        <translation>标签打印机属性</translation>
+    </message>
+    <message>
+        <source>The queue, instead of one chosen from a list.</source>
+        <translation>要使用的队列，而不从列表中选择。</translation>
+    </message>
+    <message>
+        <source>Prints a label to adjust offsets and darkness by, on the queue or the default one.</source>
+        <translation>在指定队列或默认队列上打印一张标签，用于调整偏移和打印浓度。</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>The print service cannot be reached: %1</source>
+        <translation>无法连接打印服务：%1</translation>
+    </message>
+    <message>
+        <source>No printers have been set up.</source>
+        <translation>尚未设置任何打印机。</translation>
+    </message>
+    <message>
+        <source>The test label could not be printed: %1</source>
+        <translation>无法打印测试标签：%1</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -p</source>
+        <translation>没有默认打印机；请用 -p 指定一台</translation>
+    </message>
+    <message>
+        <source>The test label was sent to %1.</source>
+        <translation>测试标签已发送到 %1。</translation>
+    </message>
+    <message>
+        <source>no window can be shown: neither DISPLAY nor WAYLAND_DISPLAY is set</source>
+        <translation>无法显示窗口：DISPLAY 和 WAYLAND_DISPLAY 均未设置</translation>
+    </message>
+    <message>
+        <source>no window can be shown with %1</source>
+        <translation>使用 %1 无法显示窗口</translation>
+    </message>
+    <message>
+        <source>The default printer &quot;%1&quot; does not exist.</source>
+        <translation>默认打印机“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>The presets could not be saved.</source>
+        <translation>无法保存预设。</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>无法保存设置：%1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>这些设置不能同时使用：</translation>
+    </message>
+    <message>
+        <source>Do you want to change them to the following?</source>
+        <translation>要将它们更改为以下设置吗？</translation>
+    </message>
+</context>
+<context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[选项]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>选项：</translation>
+    </message>
+    <message>
+        <source>Unknown option &apos;%1&apos;.</source>
+        <translation>未知选项“%1”。</translation>
+    </message>
+    <message>
+        <source>Missing value after &apos;%1&apos;.</source>
+        <translation>“%1”后缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after &apos;%1&apos;.</source>
+        <translation>“%1”后有意外的值。</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -519,6 +766,57 @@ that you can quickly switch between different configurations.</source>
     <message>
         <source>%1 Printing Preferences</source>
         <translation>%1 打印首选项</translation>
+    </message>
+</context>
+<context>
+    <name>TestLabel</name>
+    <message>
+        <source>Continuous</source>
+        <translation>连续纸</translation>
+    </message>
+    <message>
+        <source>Labels With Gaps</source>
+        <translation>间隙标签</translation>
+    </message>
+    <message>
+        <source>Labels With Marks</source>
+        <translation>黑标标签</translation>
+    </message>
+    <message>
+        <source>No Cut</source>
+        <translation>不切纸</translation>
+    </message>
+    <message>
+        <source>Cut After Job</source>
+        <translation>作业后切纸</translation>
+    </message>
+    <message>
+        <source>Cut After Page</source>
+        <translation>每页后切纸</translation>
+    </message>
+    <message>
+        <source>Darkness %1</source>
+        <translation>打印浓度 %1</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>速度 %1</translation>
+    </message>
+    <message>
+        <source>Offset %1, %2 dots</source>
+        <translation>偏移 %1, %2 点</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>默认设置</translation>
+    </message>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>Test label</source>
+        <translation>测试标签</translation>
     </message>
 </context>
 </TS>
