@@ -376,7 +376,8 @@ void PresetScriptTest::optionOrder()
     QStringList defaults;
     QByteArray items;
     bool removed = false;
-    for (const QString &keyword : PresetScript::optionNames()) {
+    const QStringList keywords = PresetScript::optionNames();
+    for (const QString &keyword : keywords) {
         options = QStringList{keyword, "7"} + options;
         defaults = QStringList{keyword, removed ? "7" : "8"} + defaults;
         items += (removed ? " -r" + keyword : " -o" + keyword + "=7").toLatin1();
