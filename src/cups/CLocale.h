@@ -7,7 +7,7 @@
 #include <locale.h>
 
 /**
- * Puts the C locale in force for this thread while it lives.
+ * Sets the C locale for this thread while it lives.
  *
  * The application object has set the user's locale for the process, in which printf() writes "1,5" and scanf() reads 1
  * from "1.5". What is stored for the printer is written and read with a point everywhere. The process' locale is the

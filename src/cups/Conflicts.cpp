@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <utility>
 
-// The PPD interface is deprecated as a whole; label printers have nothing else yet.
+// The whole PPD interface is deprecated, but label printers have no other yet.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace {

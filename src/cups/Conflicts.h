@@ -15,7 +15,7 @@ class CupsSupport;
 /** Options that the constraints of the current printer's PPD file do not allow together. */
 namespace Conflicts {
 
-/** Two options that do not go together, by keyword and by the texts that the user knows them and their choices by. */
+/** Two conflicting options: their keywords, and the texts that users know them and their choices by. */
 struct Pair
 {
     std::array<QString, 2> keywords;
@@ -31,7 +31,7 @@ std::vector<Pair> among(const CupsSupport &cups, const QStringList &options);
 /** The options, as an option list, that CUPS proposes to change so that @p options have no conflict; may be empty. */
 QStringList resolution(const CupsSupport &cups, const QStringList &options);
 
-/** What the user knows an option and its choice by: "Print Mode: Cut". */
+/** The text that users know an option and its choice by: "Print Mode: Cut". */
 QString text(const CupsSupport &cups, const QString &keyword, const QString &choice);
 
 } // namespace Conflicts

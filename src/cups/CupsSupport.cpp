@@ -220,7 +220,7 @@ QString CupsSupport::getDefaultQueueName() const
     for (int i = destCount - 1; i >= 0; --i)
         if (dests[i].is_default)
             return getQueueName(i);
-    // Not one of the destinations: named by the environment, or none at all.
+    // Not a destination: the environment names it, or there is none.
     const auto name = std::make_shared<std::string>();
     const bool isAnswered = Scheduler::ask([name](http_t *http) {
         if (const char *found = cupsGetDefault2(http))
@@ -305,7 +305,7 @@ int CupsSupport::setDests()
 
 namespace {
 
-// What one printer's part of an answer says of its state, by the names of the options that hold it in a destination.
+// The state of one printer from an answer, by the names of a destination's options for it.
 struct PrinterState
 {
     QByteArray printer;

@@ -123,9 +123,8 @@ public:
     ppd_file_t *getPpdFile() const;
 
     /**
-     * Whether the current printer may have a PPD file that cannot be had now: the scheduler did not send it. Values
-     * that are missing then may be in that file. False when the file is open, and when the scheduler said that there is
-     * none.
+     * Whether the current printer may have a PPD file that the scheduler did not send. Missing values may then be in
+     * that file. False when the file is open, and when the scheduler said that it does not exist.
      */
     bool isPpdFileOutOfReach() const;
 
@@ -136,32 +135,32 @@ public:
     void closePpdFile();
 
     /**
-     * Saves what was changed of any destination since it was read or saved to the options file that libcups reads,
-     * usually $HOME/.cups/lpoptions. All else in the file stays as it is by then, whoever has written it. Without a
-     * change nothing is written. The scheduler is not asked.
+     * Merges what was changed since the last reading or saving, for all destinations, into the options file that
+     * libcups reads, usually $HOME/.cups/lpoptions. Everything else in the file is kept, also what other programs have
+     * written meanwhile. Without a change nothing is written. The scheduler is not asked.
      *
      * Options of the current printer that equal the default of its PPD file are dropped first, in a single pass: of two
      * such options in a row only the first one goes.
      *
      * The file is replaced atomically and reads back as it was in memory.
      *
-     * @return 0 when saved, -1 when there is no printer or the file could not be written; then the earlier file stands and
-     *         getCupsError() says why.
+     * @return 0 when saved, -1 when there is no printer or the file could not be written; the file is then unchanged
+     *         and getCupsError() says why.
      */
     int setDests();
 
     /**
-     * Asks the scheduler how all printers are now, with one request: "printer-state" and "printer-state-reasons" are up
-     * to date afterwards. Everything else stays as it is, unsaved settings included.
+     * Fetches the states of all printers ("printer-state" and "printer-state-reasons") with one request. Everything
+     * else is kept, including unsaved settings.
      *
      * @return false when the scheduler did not answer; the states then stay as they were.
      */
     bool updatePrinterStates();
 
     /**
-     * Calls @p function, which has Qt ask the scheduler, as QPrinter::setPrinterName() does, and waits for it. It runs
-     * on a thread on which Qt gets the password that the user has entered. Qt waits without a limit: where the
-     * scheduler has just left a request unanswered, @p function is not called.
+     * Calls @p function, in which Qt sends requests to the scheduler, as in QPrinter::setPrinterName(), and waits for
+     * it. It runs on a thread on which Qt gets the password that the user has entered. Because Qt waits without a
+     * limit, @p function is not called if the scheduler has just left a request unanswered.
      *
      * @return whether it was called.
      */
@@ -268,9 +267,9 @@ public:
     /**
      * @name Label settings
      *
-     * On a queue with a driver of another make that we know, they read and write the driver's keywords instead of those
-     * below: a number becomes the driver's nearest choice, and what the driver does not have is not stored. A setting
-     * that is left to the printer reads as the fallback.
+     * On a queue with a known driver of another make, they use the driver's keywords instead of those below: a number
+     * becomes the driver's nearest choice, and settings that the driver does not have are not stored. The fallback is
+     * returned for a setting that is left to the printer.
      *
      * Getters return the stated fallback when the setting is missing or unreadable. Setters store through the setter by
      * keyword and return its result: -1 if there is no printer. Except for setOrientation(), they do not check
@@ -382,10 +381,12 @@ public:
      */
     QStringList conflicts() const;
 
-    /** What CUPS proposes to change so that there are no conflicts(), as an option list; empty if it knows nothing. */
+    /** The changes that CUPS proposes to resolve the conflicts(), as an option list; empty if it has no proposal. */
     QStringList conflictResolution() const;
 
-    /** What the user knows an option and its choice by: "Print Mode: Cut"; without a text in the PPD file the names. */
+    /**
+     * The text that users know an option and its choice by, such as "Print Mode: Cut"; the keywords if there is none.
+     */
     QString optionText(const QString &keyword, const QString &choice) const;
 
     /** All saved options of the current destination, as an option list; empty when there is no printer. */

@@ -25,7 +25,7 @@ enum class Conversion {
     Number, // the number that a choice begins with, in our unit
     Dots, // the same; ours is in millimetres, the driver's in dots of the vertical resolution
     MillimetresPerSecond, // the same; ours is in inches per second
-    Steps, // value by value; other numbers go to the nearest
+    Steps, // value by value; other numbers become the nearest
     Choices // value by value, and no others
 };
 
@@ -35,8 +35,8 @@ struct Condition
     const char *choice;
 };
 
-// One of our values, and the driver's choices that it stands for. A PPD file has to have the first keyword; the second
-// condition counts where it has that keyword as well.
+// One of our values and the driver's choices for it. The PPD file must have the first keyword; the second condition
+// only applies if the PPD file has its keyword too.
 struct DriverValue
 {
     double value;

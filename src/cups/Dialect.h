@@ -15,8 +15,8 @@ struct DriverSetting;
 typedef struct ppd_file_s ppd_file_t;
 
 /**
- * What a driver of another make calls our label settings: which of its keywords stands for a setting, and how values
- * are converted. Each dialect is one table in Dialect.cpp.
+ * The names of our label settings in a driver of another make: its keyword for each setting, and how values are
+ * converted. Each dialect is one table in Dialect.cpp.
  *
  * Settings are named by our keyword ("Darkness", "PrintSpeed", "CutMedia") and have our units, as in CupsSupport's
  * accessors; flags are 0 and 1. Values are read from and written to the working copy of the current printer.
@@ -43,7 +43,7 @@ struct Dialect
     bool has(const CupsSupport &cups, const char *setting) const;
 
     /**
-     * What is in force for @p setting: the saved choice or, where none is saved or the PPD file does not list it, the
+     * The value in force for @p setting: the saved choice or, if none is saved or the PPD file does not list it, the
      * default, as for the driver.
      *
      * @return nothing when the driver does not have the setting, leaves it to the printer, or is at a choice that has no
@@ -58,12 +58,12 @@ struct Dialect
     QString leaveText(const CupsSupport &cups, const char *setting) const;
 
     /**
-     * Stores @p value as the driver's nearest choice. Stores nothing where the driver does not have the setting, or
-     * does not have this value of one that is no quantity, such as the media type.
+     * Stores @p value as the driver's nearest choice. Stores nothing if the driver does not have the setting, or if the
+     * setting is not a quantity (the media type, for example) and the driver does not have this value.
      */
     void setValue(CupsSupport &cups, const char *setting, double value) const;
 
-    /** Stores the choice that leaves @p setting to the printer, where there is one. */
+    /** Stores the choice that leaves @p setting to the printer, if it exists. */
     void leaveToPrinter(CupsSupport &cups, const char *setting) const;
 
     /** The values that the PPD file lists for @p setting, in ascending order, without the one that leaves it open. */

@@ -16,12 +16,12 @@
 class CupsSupport;
 
 /**
- * What the driver of the current printer can do, for the dialog: which label settings it has and within which bounds,
- * and whether it takes page sizes of the user's. The values themselves go through CupsSupport's accessors.
+ * What the driver of the current printer can do, for the dialog: its label settings and their bounds, and whether it
+ * accepts user-defined page sizes. Values are read and written with CupsSupport's accessors.
  *
- * Settings are named by our keyword, in the units of CupsSupport's accessors. Points to the printer access object,
- * which has to live longer. What it says holds until another printer becomes current or the printer gets another driver, see
- * update(); the PPD file may be reopened.
+ * Settings are named by our keyword, in the units of CupsSupport's accessors. Points to the CupsSupport, which must
+ * outlive it. Valid until another printer becomes current or the printer gets another driver, see update(); the PPD
+ * file may be reopened.
  */
 class DriverSettings
 {
@@ -30,7 +30,7 @@ public:
     enum class Kind {
         Own, ///< ours, or there is no PPD file: every setting is taken to exist, with any value
         Foreign, ///< those of a label printer of another make, see Dialect
-        None ///< no label settings at all, as for an office printer or a driverless queue
+        None ///< no label settings: an office printer or a driverless queue
     };
 
     /** Width and height in points. */
@@ -43,9 +43,9 @@ public:
     explicit DriverSettings(CupsSupport &cups);
 
     /**
-     * Looks at the PPD file of the printer that is current now. While that is out of reach, everything stays as it is.
+     * Examines the PPD file of the current printer. Changes nothing while the file is out of reach.
      *
-     * @return whether the driver is of another kind than before.
+     * @return whether the kind of the driver has changed.
      */
     bool update();
 
@@ -55,7 +55,7 @@ public:
     /** Whether the driver has this setting; true for everything unless the kind is Foreign. */
     bool has(const char *setting) const;
 
-    /** The values that the driver has, in ascending order; empty when there are no bounds known. */
+    /** The values that the driver has, in ascending order; empty when no bounds are known. */
     std::vector<Dialect::Choice> choices(const char *setting) const;
 
     /** The value in force; nothing when it is left to the printer or the kind is not Foreign. */
@@ -70,7 +70,7 @@ public:
     /** The driver's text for leaving the setting to the printer; null when there is no such choice. */
     QString leaveText(const char *setting) const;
 
-    /** Leaves the setting to the printer, where the driver has a choice for that. */
+    /** Leaves the setting to the printer, if the driver has a choice for that. */
     void leaveToPrinter(const char *setting);
 
     /** The keywords of the PPD file that a setting is stored under. */
@@ -82,15 +82,15 @@ public:
      */
     QStringList presetKeywords() const;
 
-    /** What page sizes of the user's the PPD file allows; nothing when it allows none or there is no PPD file. */
+    /** The user-defined page sizes that the PPD file allows; nothing when it allows none or there is no PPD file. */
     std::optional<PageSizeLimits> customPageSize() const;
 
-    /** The saved page size in points, where it is one of the user's ("Custom.WxH"); empty otherwise. */
+    /** The saved page size in points, if it is user-defined ("Custom.WxH"); empty otherwise. */
     QSizeF userPageSize() const;
 
     /**
-     * Stores a page size of the user's, in points, brought within the limits. An empty size removes the one that is
-     * stored; a page size by name stays. Does nothing where the PPD file allows none.
+     * Stores a user-defined page size, in points, brought within the limits. An empty size removes the stored one; a
+     * page size by name stays. Does nothing if the PPD file does not allow user-defined sizes.
      */
     void setUserPageSize(const QSizeF &points);
 

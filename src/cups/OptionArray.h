@@ -40,7 +40,7 @@ public:
 
     void set(const char *name, const char *value) { count = cupsAddOption(name, value, count, &options); }
     void remove(const char *name) { count = cupsRemoveOption(name, count, &options); }
-    /** Adds options as they stand in a line of the options file. */
+    /** Adds the options of a line of the options file. */
     void parse(const char *text) { count = cupsParseOptions(text, count, &options); }
 
     /** Null when there is no such option. */

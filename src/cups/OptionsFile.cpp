@@ -95,7 +95,8 @@ std::vector<OptionsFile::Stored> OptionsFile::prepare(cups_dest_t *dests, int co
     std::vector<Stored> stored;
     const QByteArray home = OptionsPlace::home(OptionsPlace::current());
     for (cups_dest_t *dest = dests; dest != dests + count; ++dest) {
-        // What is put back is no change of this user's: who saves something else meanwhile does so with the same in view.
+        // Restored values do not count as the user's changes: whoever saves something else meanwhile sees the same
+        // values.
         const bool isDamaged = OptionsMemory::restore(home, *dest, &OptionsSyntax::readWithLibcups);
         for (int i = 0; i < dest->num_options; ++i)
             if (!std::strcmp(dest->options[i].value, OptionsMerge::storedEmpty))

@@ -22,23 +22,22 @@ struct Stored
 };
 
 /**
- * To be called for destinations that libcups has just read: puts back what other programs have damaged, see
- * OptionsMemory, and makes the stored form of an empty value an empty one again.
+ * Call this for destinations that libcups has just read. Restores what other programs have damaged, see OptionsMemory,
+ * and replaces the stored form of an empty value by an empty value.
  */
 std::vector<Stored> prepare(cups_dest_t *dests, int count);
 
 /**
- * Saves what was changed. Everything else in the file stays as it is by then: other instances of this library are
- * locked out meanwhile, and what another program writes meanwhile is read again. If these changes are in the file
- * already, nothing is written.
+ * Merges the changes into the file. Other instances of this library are locked out meanwhile, and if another program
+ * writes meanwhile, its file is read again. If the file already has these changes, nothing is written.
  *
- * cupsSetDests() would not do: it writes all options of all destinations as this process once read them, truncates the
- * file and writes it in place, drops the lines of queues that the scheduler does not list at the moment, and writes
- * some values in a form that libcups reads back as something else. Here the file is replaced as a whole or not at all,
- * and each line is read back before that.
+ * cupsSetDests() is not used because it writes all options of all destinations as this process once read them,
+ * truncates the file and writes it in place, drops the lines of queues that the scheduler does not list at the moment,
+ * and writes some values in a form that libcups reads back as something else. Here the file is replaced atomically, and
+ * each line is read back first.
  *
- * @return a null string when saved. Else why not, for the user; the file is as it was. libcups cannot read a line break in a
- *         value, or a line of more than 8191 bytes.
+ * @return a null string when saved; otherwise the reason, for the user, and the file is unchanged. libcups cannot read
+ *         a line break in a value, or a line of more than 8191 bytes.
  */
 QString save(std::vector<OptionsMerge::Change> changes);
 

@@ -23,7 +23,7 @@ OptionArray fromSnapshot(const QByteArray &snapshot)
     return options;
 }
 
-// libcups' own table of these is not public, but its encoder goes by it.
+// libcups' table of these is not public, but its encoder uses it.
 bool isPrinterAttribute(const cups_option_t &option)
 {
     const std::unique_ptr<ipp_t, decltype(&ippDelete)> encoded(ippNew(), &ippDelete);

@@ -35,7 +35,7 @@ struct Change
      */
     std::function<bool(const char *)> isNeededEmpty;
 
-    bool isDamaged = false; ///< what other programs have damaged is to be written anew, also without another change
+    bool isDamaged = false; ///< other programs have damaged it, so it is written even without another change
 
     bool isEmpty() const { return set.size() == 0 && removed.isEmpty() && !isDamaged; }
 };

@@ -36,7 +36,8 @@ OptionsPlace::Circumstances OptionsPlace::fromVersion(const QByteArray &name)
     int version[] = {CUPS_VERSION_MAJOR, CUPS_VERSION_MINOR, CUPS_VERSION_PATCH};
     int found[] = {0, 0, 0};
     const int count = std::sscanf(name.constData(), "CUPS/%d.%d.%d", &found[0], &found[1], &found[2]);
-    // How much libcups tells is set in client.conf. As far as it tells nothing else, it is the one that this was built with.
+    // client.conf decides how much of its version libcups tells. The rest is taken from the version that this was built
+    // with.
     if (count > 0 && !std::equal(found, found + count, version))
         std::copy(found, found + 3, version);
     Circumstances circumstances;

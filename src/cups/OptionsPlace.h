@@ -11,7 +11,7 @@
 /** Where libcups keeps the options file, which depends on its version. All paths are as the system has them, in bytes. */
 namespace OptionsPlace {
 
-/** What decides about the place. */
+/** What the place depends on. */
 struct Circumstances
 {
     int major = 0; ///< the version of libcups
@@ -24,12 +24,12 @@ struct Circumstances
 };
 
 /**
- * Only the version, from the name that libcups gives itself: "CUPS/2.4.2 (Linux ...)". What is not told there is as in the
+ * Only the version, from the name that libcups gives itself: "CUPS/2.4.2 (Linux ...)". Missing numbers are those of the
  * libcups that this was built with.
  */
 Circumstances fromVersion(const QByteArray &name);
 
-/** Those of this process, with the libcups that runs, which need not be the one it was built with. */
+/** Those of this process and of the libcups that runs, which may differ from the one that this was built with. */
 Circumstances current();
 
 struct Place

@@ -17,9 +17,9 @@
  *
  *     Dest|Default NAME[/INSTANCE] OPTION=VALUE OPTION=VALUE ...
  *
- * How libcups reads a line depends on its version: from 2.4.17 on it takes backslashes before "\", "#", "n" and "r"
- * apart before it looks for options, and then once more in the values. So what is written is always checked by reading
- * it with the libcups that runs.
+ * How libcups reads a line depends on its version: from 2.4.17 on, it resolves backslashes before "\", "#", "n" and "r"
+ * before it looks for options, and then again in the values. Each line that is written is therefore first read with the
+ * libcups that runs.
  */
 namespace OptionsSyntax {
 
@@ -66,7 +66,7 @@ QList<Piece> pieces(const QByteArray &content);
  * The line, without a line break, from which libcups reads these options for the destination; null when there is none,
  * because it would be too long or a value holds a line break. entry.options and entry.number do not matter.
  *
- * Options with a "#" stand last.
+ * Options with a "#" are last.
  */
 QByteArray compose(const Entry &entry, const OptionArray &options, const Reader &reader);
 

@@ -6,17 +6,16 @@
 
 typedef struct ppd_file_s ppd_file_t;
 
-/** The PPD file of a queue as the scheduler has it. */
+/** The PPD file of a queue. */
 namespace PpdFile {
 
 /**
  * Fetches and opens the PPD file of @p queue.
  *
- * cupsGetPPD() does that as well, but looks the name of this machine up, which takes long where it has none, reads from
- * a connection of its own, which cannot be shut down, and takes a part of the file for the whole.
+ * cupsGetPPD() is not used because it looks up the name of this machine, which takes long if it does not resolve, reads
+ * from its own connection, which cannot be shut down, and accepts an incomplete file.
  *
- * @param isAbsent set to whether the scheduler answered that there is none for this user; then it need not be asked
- *        again.
+ * @param isAbsent set to whether the scheduler answered that this user gets none; it need not be asked again then.
  * @return the file, to be closed with ppdClose(); null when there is none or it could not be fetched completely.
  */
 ppd_file_t *fetch(const char *queue, bool *isAbsent);

@@ -15,8 +15,8 @@ namespace PrintJob {
 /**
  * Submits files as one job.
  *
- * cupsPrintFiles() does that as well, but when it is given up on the way it goes on by itself later, and a job comes
- * out that the user was told had failed.
+ * cupsPrintFiles() is not used because it continues after it was given up: a job would be printed after the user was
+ * told that it failed.
  *
  * @param title in UTF-8.
  * @param options an option list, which overrides the options of the destination.

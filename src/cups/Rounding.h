@@ -11,8 +11,8 @@
 /**
  * The nearest whole number, halves upward: 2.5 gives 3, -2.5 gives -2, -0.5 gives 0.
  *
- * qRound() will not do: Qt 6 rounds negative halves away from zero, and what is stored for the printer must not depend
- * on the Qt it was built with. Numbers that no int can hold give the nearest that it can, no number at all gives 0.
+ * qRound() is not used because Qt 6 rounds negative halves away from zero, and what is stored for the printer must not
+ * depend on the Qt version. Numbers out of range give the nearest int, and not-a-number gives 0.
  */
 inline int roundHalfUp(double value)
 {

@@ -42,7 +42,7 @@ constexpr Milliseconds watchInterval = 100ms;
 constexpr Milliseconds shutDownInterval = 200ms;
 constexpr int shutDowns = 6;
 
-// Answers that take no longer than this do not count, however many requests follow each other.
+// Answers that take no longer than this do not count, however many there are.
 constexpr Milliseconds quickAnswer = 250ms;
 // Requests separated by a longer pause belong to different actions of the user.
 constexpr Milliseconds pauseBetweenActions = 1s;
@@ -113,7 +113,7 @@ private:
     const http_encryption_t encryption;
 };
 
-// What the user entered, as libcups' callback wants it.
+// What the user entered, for libcups' callback.
 class KnownPassword
 {
 public:
@@ -127,11 +127,11 @@ public:
 
     bool isKnown() const { return !user.isNull(); }
 
-    // Whether an answer was wanted that was not there, or was refused.
+    // Whether an answer was needed that was missing or refused.
     bool isMissed() const { return missed; }
 
-    // Makes libcups on this thread ask this object. By itself it would ask on the terminal, where a process in the
-    // background is stopped.
+    // Makes libcups ask this object on this thread. Otherwise it would ask on the terminal, which stops a background
+    // process.
     void giveToLibcups() { cupsSetPasswordCB2(answer, this); }
 
 private:
@@ -215,7 +215,7 @@ void run(const std::shared_ptr<Request> &request, const Work &work, const Identi
     }
     const ipp_status_t status = cupsLastError();
     const QByteArray message = cupsLastErrorString();
-    httpClose(http); // which may wait as well, when the connection is encrypted
+    httpClose(http); // which may wait too, if the connection is encrypted
     const std::lock_guard lock(request->mutex);
     request->status = status;
     request->message = message;
@@ -223,7 +223,7 @@ void run(const std::shared_ptr<Request> &request, const Work &work, const Identi
     request->changed.notify_one();
 }
 
-// A thread that receives no signals for the host. None if the system has no more threads.
+// A thread that does not receive the host's signals. Nothing if the system has no more threads.
 std::optional<std::thread> startThread(const std::function<void()> &function)
 {
     sigset_t all;
@@ -240,8 +240,8 @@ std::optional<std::thread> startThread(const std::function<void()> &function)
     return thread;
 }
 
-// Calls the function on a thread where libcups is prepared for it, and waits. On this thread, unprepared, if the system
-// has no more threads.
+// Calls the function on a thread on which libcups is prepared, and waits. If the system has no more threads, calls it
+// on this thread.
 void callOnThread(const std::function<void()> &prepare, const std::function<void()> &function)
 {
     std::optional<std::thread> thread = startThread([&] {
@@ -251,16 +251,16 @@ void callOnThread(const std::function<void()> &prepare, const std::function<void
     thread ? thread->join() : function();
 }
 
-// Lets look-ups of names on this thread, which is about to end, be answered at once. For each PPD file cupsGetPPD()
-// looks up the name of this machine, of which a scheduler on a local socket has no use; it takes long where no name
-// server answers.
+// Makes look-ups of names on this thread, which is about to end, fail immediately. cupsGetPPD() looks up the name of
+// this machine for each PPD file, which takes long if no name server answers and is useless with a scheduler on a local
+// socket.
 void forgetNameServers()
 {
     if (res_init() == 0)
         _res.nscount = 0;
 }
 
-// Waits until the request has ended, or nothing came for too long, or its time is up.
+// Waits until the request has ended or a time limit is reached.
 bool endsInTime(Request &request, std::unique_lock<std::mutex> &lock, Milliseconds altogether)
 {
     const Clock::time_point start = Clock::now();
@@ -312,7 +312,7 @@ Outcome converse(const Work &work, Milliseconds altogether)
     const auto request = std::make_shared<Request>(identity.serverName());
     http_t *http = nullptr;
     if (identity.isLocalSocket()) {
-        // Without a name to look up this takes no time, and where nobody listens no thread is needed.
+        // Without a name to look up, this takes no time; if nobody listens, no thread is needed.
         http = connect(nullptr);
         if (!http) {
             errorText = cupsLastErrorString();
@@ -333,7 +333,7 @@ Outcome converse(const Work &work, Milliseconds altogether)
         rememberTimeOut();
         return Outcome::NotAnswered;
     }
-    // After a success libcups' text is about whatever the system last complained of.
+    // After a success, libcups' text is about an unrelated earlier error.
     const bool isSuccess = request->status < IPP_STATUS_REDIRECTION_OTHER_SITE;
     errorText = isSuccess ? QByteArray(ippErrorString(IPP_STATUS_OK)) : request->message;
     if (request->password.isMissed())
@@ -341,7 +341,7 @@ Outcome converse(const Work &work, Milliseconds altogether)
     return request->isConnected ? Outcome::Answered : Outcome::NotAnswered;
 }
 
-// Has the work done, as often as the user enters a password for it. One that the user declines is an answer, too.
+// Does the work, again each time the user has entered a password. It counts as answered if the user declines.
 bool converseWithUser(const std::function<Outcome()> &converseOnce)
 {
     for (int tries = 0;; ++tries) {

@@ -9,7 +9,7 @@
 #include <chrono>
 #include <functional>
 
-// libcups' connection. Only src/cups looks inside; the rest of the library includes no header of libcups.
+// libcups' connection. Only src/cups includes headers of libcups.
 typedef struct _http_s http_t;
 
 /**
@@ -19,9 +19,8 @@ typedef struct _http_s http_t;
  * middle of an answer or sends it byte by byte. Each request therefore runs on a thread of its own, whose connection is
  * shut down when its time is up.
  *
- * The thread also keeps the host's libcups as it is: libcups has a server, a default connection and a password callback
- * for each thread, and no call that returns the callback, so what is replaced on the host's thread could not be put
- * back.
+ * The thread also protects the host's settings: libcups has a server, a default connection and a password callback for
+ * each thread. As no call returns the callback, one replaced on the host's thread could not be restored.
  *
  * To be used from the GUI thread only.
  */
@@ -32,40 +31,40 @@ using Milliseconds = std::chrono::milliseconds;
 /** Time limits. */
 struct Limits
 {
-    Milliseconds withoutProgress{5000}; ///< not a byte; also, for how long it is then left alone
-    Milliseconds altogether{15000}; ///< all requests of one action of the user
-    Milliseconds toReachPrinter{9000}; ///< until it knows a printer that was discovered on the network
+    Milliseconds withoutProgress{5000}; ///< without a byte; also how long no request is sent afterwards
+    Milliseconds altogether{15000}; ///< for all requests of one user action
+    Milliseconds toReachPrinter{9000}; ///< until the scheduler has reached a printer that was discovered on the network
 };
 
 /**
- * What to do with the connection, from its beginning: it is done again when the user has entered a password. It runs on
- * another thread, which may go on for a while after the request was given up: it has to own all that it touches, and
- * may use libcups alone.
+ * What to do with the connection. It is repeated from the beginning after the user has entered a password. It runs on
+ * another thread, which may continue after the request was given up: it must own everything it uses, and may only call
+ * libcups.
  */
 using Work = std::function<void(http_t *)>;
 
 /**
- * Has @p work done, asking the user for a password when the scheduler wants one. Returns whether it ended in time;
- * false also without a scheduler, and a moment after a time-out.
+ * Does @p work and asks the user for a password if the scheduler wants one. Returns whether it ended in time; false
+ * also if the scheduler cannot be reached or isLeftAlone().
  */
 bool ask(const Work &work);
 
 /** The same for a job whose documents have @p size bytes; sending them may take longer than other requests. */
 bool askToPrint(const Work &work, qint64 size);
 
-/** For @p work of several steps: whether somebody still waits for it, so that the next step makes sense. */
+/** For @p work of several steps: whether it has not been given up. */
 bool isWaitedFor();
 
-/** Whether a request was not answered in time a moment ago, so that the scheduler is not asked now. */
+/** Whether no requests are sent because one was not answered in time a moment ago. */
 bool isLeftAlone();
 
-/** Does not ask the scheduler for a moment, because it broke off in the middle of an answer. */
+/** Sends no requests for a moment, because the scheduler broke off an answer. */
 void leaveAlone();
 
 /** Why the last request failed, as a text for the user; valid until the next request. */
 const char *lastError();
 
-/** Replaces what libcups said of the last request. */
+/** Replaces lastError(). */
 void setLastError(const QString &text);
 
 /**
@@ -75,9 +74,9 @@ void setLastError(const QString &text);
 void callWithoutScheduler(const std::function<void()> &function);
 
 /**
- * Calls @p function, which makes Qt use libcups, on a thread of its own, where a scheduler that wants a password gets
- * what the user entered for us. Qt itself would ask for each of its requests. Qt's requests have no time limit: to be
- * called only when the scheduler has just answered.
+ * Calls @p function, which makes Qt use libcups, on a thread of its own, on which a scheduler that wants a password
+ * gets what the user entered before. Qt itself would ask for each of its requests. Qt's requests have no time limit:
+ * only call this when the scheduler has just answered.
  */
 void callWithScheduler(const std::function<void()> &function);
 

@@ -87,7 +87,7 @@ UserFile::~UserFile()
         close(folderFd);
 }
 
-// A path for Qt, which would replace the bytes in the folder's that are no text in the user's encoding.
+// A path for Qt, which would replace bytes that are not valid text in the user's encoding.
 QByteArray UserFile::pathWithoutLinks() const
 {
     return "/proc/self/fd/" + QByteArray::number(folderFd) + '/' + name;

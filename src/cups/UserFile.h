@@ -25,8 +25,7 @@ public:
     UserFile &operator=(const UserFile &) = delete;
 
     /**
-     * Reads the file; one that does not exist is empty. @return false when it cannot be read or is no regular file. The
-     * reason is in errno.
+     * Reads the file; a missing one is empty. @return false when it cannot be read or is not a regular file; see errno.
      */
     bool read(QByteArray &content);
 
@@ -40,15 +39,15 @@ public:
 
     /**
      * Replaces the file in one step, provided that it still holds what read() found. Keeps its mode, owner and access
-     * control list; a new file gets @p newMode, or the usual mode for 0, and belongs to whom the folder belongs if the
-     * superuser writes it. Where the folder cannot be written but the file can, it is written in place.
+     * control list; a new file gets @p newMode, or the usual mode for 0; if root creates it, it belongs to the owner of
+     * the folder. If the folder cannot be written but the file can, it is written in place.
      */
     Result replace(const QByteArray &content, mode_t newMode = 0);
 
     bool remove();
 
     /**
-     * Makes a folder and those above it, each with mode 0700 and of the same owner as the folder that it is made in.
+     * Creates a folder and those above it, each with mode 0700 and the owner of the folder that it is in.
      */
     static bool makeFolder(const QByteArray &path);
 
