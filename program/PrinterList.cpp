@@ -68,7 +68,7 @@ void PrinterList::addQueue(const CupsSupport &cups, int index)
         item->setToolTip(column, texts.at(column));
 }
 
-// For all texts, as far as the screen has it. Longer ones end with an ellipsis and are in the tool tip.
+// Room for all texts, within the screen. Longer ones end with an ellipsis and have a tool tip.
 void PrinterList::makeRoom()
 {
     const QSize screen = QGuiApplication::primaryScreen()->availableSize() * 3 / 4;

@@ -24,7 +24,7 @@ public:
     /**
      * @param cups its queues are listed. Not kept.
      * @param selected the queue that is selected at first; none if it does not exist.
-     * @param note shown above the list; nothing is if it is empty.
+     * @param note shown above the list, if it is not empty.
      */
     PrinterList(const CupsSupport &cups, const QString &selected, const QString &note);
     ~PrinterList() override;
@@ -32,7 +32,7 @@ public:
     /** The selected queue; empty if none is. */
     QString queue() const;
 
-    /** Shows @p note above the list; nothing if it is empty. */
+    /** Shows @p note above the list, if it is not empty. */
     void showNote(const QString &note);
 
 Q_SIGNALS:

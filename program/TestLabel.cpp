@@ -140,7 +140,7 @@ void drawDarknessBars(QPainter &painter, const QRectF &area, double dot)
     painter.fillRect(QRectF(area.right() - column, area.top(), column, area.height()), Qt::black);
 }
 
-// The size at which all lines fit, but not one that cannot be read: lines are cut, and the last ones left out, before that.
+// The size at which all lines fit, but always readable: otherwise lines are cut and the last ones left out.
 double fittingSize(const QSizeF &area, const QStringList &lines)
 {
     const double high = std::min(largestText, area.height() / (leading * double(lines.size())));
@@ -191,7 +191,7 @@ double angleOf(CupsSupport::_CupsOrientation orientation)
     }
 }
 
-// What the dialog calls these, in its order.
+// The settings with the dialog's names, in its order.
 QString mediaText(int category)
 {
     const QStringList texts{Texts::tr("Continuous"), Texts::tr("Labels With Gaps"), Texts::tr("Labels With Marks")};
@@ -204,7 +204,7 @@ QString cutText(int cut)
     return texts.value(cut / 2);
 }
 
-// What is adjusted by this label comes first.
+// The settings that this label helps to adjust come first.
 QStringList ownSettings(const CupsSupport &cups)
 {
     return {Texts::tr("Darkness %1").arg(cups.getDarkness()), Texts::tr("Speed %1").arg(cups.getSpeed()),
@@ -212,7 +212,7 @@ QStringList ownSettings(const CupsSupport &cups)
             mediaText(cups.getCategory()), cutText(cups.getCut())};
 }
 
-// A driver of another make has other settings; those that differ from its defaults are shown in its own words.
+// The settings of another make's driver that differ from its defaults, with the driver's names.
 QStringList driverSettings(const CupsSupport &cups)
 {
     QStringList lines;

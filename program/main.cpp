@@ -111,7 +111,7 @@ CommandLine readCommandLine()
 
 // ----- printers -----
 
-// Why there is nothing to choose from; empty if there is.
+// Why no printer can be chosen; empty if one can.
 QString lackOfPrinters(const CupsSupport &cups)
 {
     if (!cups.isSchedulerReachable())
@@ -207,7 +207,7 @@ int complainWithoutWindow(const std::optional<QString> &queue)
 
 // ----- with windows -----
 
-// Finds the queue whose settings are wanted, with the user's help; or says why there is none and returns the exit status.
+// Lets the user choose the queue. Returns the exit status if none was chosen.
 std::optional<int> chooseQueue(QString *queue)
 {
     CupsSupport cups;
@@ -245,7 +245,7 @@ std::optional<int> checkQueue(const QString &queue)
     return lackOfNamed.isEmpty() ? std::nullopt : std::optional<int>(complain(lackOfNamed));
 }
 
-// Sees to it that the user learns why the settings could not be saved. The dialog exists only within the library's call.
+// Remembers why the settings could not be saved, because the dialog exists only during the library's call.
 class SaveWatcher : public QObject
 {
 public:
@@ -271,8 +271,8 @@ private:
     }
 };
 
-// Asks once whether to take what CUPS proposes against settings that the printer does not allow together. Returns false if
-// that could not be saved.
+// Asks once whether to apply what CUPS proposes to resolve conflicting settings. Returns false if that could not be
+// saved.
 bool settleConflicts(const QString &queue)
 {
     CupsSupport cups;

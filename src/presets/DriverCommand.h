@@ -7,7 +7,7 @@
 #include <QLatin1String>
 #include <QString>
 
-/** The driver's command that carries a user page size to the queue's PPD file; a preset's script has it as a line. */
+/** The driver's command that writes a user page size to the queue's PPD file; a line of a preset's script. */
 namespace DriverCommand {
 
 constexpr QLatin1String name("ppdhack");
@@ -18,8 +18,7 @@ QString lineIn(const QString &scriptPath);
 /**
  * Runs the command and waits for it.
  *
- * A preset may come from anywhere. Its command is the driver's and no other: found on the PATH, run directly and never
- * through a shell.
+ * A preset may come from anywhere, so only the driver's command is run: found on the PATH, and without a shell.
  */
 void run(const QString &line);
 

@@ -23,7 +23,7 @@ void extendOptionNames(const QString &printer)
         PresetScript::useExtendedOptionNames();
 }
 
-// The value of a keyword, which is the default where the options do not set it.
+// The value of a keyword; the default if the options do not set it.
 QString valueOf(const QString &keyword, const QStringList &options, const QStringList &defaults)
 {
     const auto index = PresetScript::valueIndex(options, keyword);

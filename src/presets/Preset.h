@@ -54,13 +54,12 @@ public:
     _State state() const; ///< How memory and the script compare; see _State.
     void setState(_State state); ///< Modified or Deleted asks for something at the next save().
     /**
-     * Sets the user page size, in inches. Where width and height are above 0 the script carries it; keeps the state.
+     * Sets the user page size, in inches. The script contains it if width and height are above 0. Keeps the state.
      */
     void setUserPageSize(const QSizeF &size);
     /**
-     * Says that the script has yet to be created; the state becomes Modified. The next save() then replaces no script
-     * that another program has made in the meantime, but takes the next free file name: "Preset", "Preset2", "Preset3",
-     * ...
+     * Marks the preset as new; the state becomes Modified. The next save() does not replace a script that another
+     * program has created meanwhile, but uses the next free file name: "Preset", "Preset2", "Preset3", ...
      */
     void setNew();
     bool isNew() const; ///< Whether setNew() was called and no script has been written since.
@@ -96,15 +95,15 @@ public:
     bool setOptions(const QStringList &list);
 
     /**
-     * Drops all option values. A preset that has not been read is not read first.
+     * Drops all option values, without reading the script.
      *
      * @return false, without change, for a deleted preset and for one that is known to have none.
      */
     bool clearOptions();
 
     /**
-     * The keywords whose values the script of this preset cannot hold as a printer has them: it holds, or is about to
-     * be given, values of @p options that read back as something else, such as one with a blank or beyond ASCII.
+     * The keywords of this preset whose values in @p options a script cannot hold: they read back as something else,
+     * such as a value with a blank or beyond ASCII.
      *
      * @param options the printer's values as an option list.
      * @param defaults the printer's default values as an option list, as for save().

@@ -13,8 +13,8 @@ struct stat;
 /**
  * A folder below $HOME/.cups, held open, and the files in it.
  *
- * Whatever lies there, nothing outside the folder is created, changed or removed: no link below $HOME/.cups is followed
- * on the way to the folder, and files and links in it are replaced, never written to.
+ * Nothing outside the folder is ever created, changed or removed: no link below $HOME/.cups is followed on the way to
+ * the folder, and files and links in it are replaced, never written to.
  */
 class PresetFolder
 {
@@ -37,22 +37,22 @@ public:
     PresetFolder(const PresetFolder &) = delete;
     PresetFolder &operator=(const PresetFolder &) = delete;
 
-    /** @name Changing; where the folder could not be opened these fail */
+    /** @name Changes; these fail if the folder could not be opened */
     /** @{ */
 
     /**
-     * Puts an executable file in the place of the file or link @p name, as a whole or not at all. The permissions and
-     * the owner of an earlier file are kept. Anything else there, such as a folder or a pipe, is left alone.
+     * Replaces the file or link @p name atomically by an executable file. The permissions and the owner of an earlier
+     * file are kept. Fails if anything else is there, such as a folder or a pipe.
      */
     bool replace(const QString &name, const QByteArray &content);
 
-    /** The same for a file that does not exist yet; it is never there in part. */
+    /** The same for a file that does not exist yet. */
     Result create(const QString &name, const QByteArray &content);
 
     /** Removes the file or link @p name. @return false also when it does not exist. */
     bool remove(const QString &name);
 
-    /** Puts a symbolic link in the place of the link or file @p name. There is always one or the other. */
+    /** Replaces the link or file @p name atomically by a symbolic link. */
     bool link(const QString &name, const QByteArray &target);
 
     /** @} */

@@ -33,7 +33,7 @@ constexpr int ppdhackDecimals = 2;
 constexpr signed char lastControlCharacter = 31;
 constexpr ushort lastAsciiCharacter = 0x7f;
 constexpr ushort lastLatin1Character = 0xff;
-// A shell leaves these unchanged, as well as letters and digits.
+// A shell leaves these, letters and digits unchanged.
 const QLatin1String harmlessMarks("!%+,-./:=@^_");
 const QByteArray unicodeMark("-utf8"); // behind the key of a line that holds a whole text
 
@@ -80,7 +80,7 @@ QStringList sharedOptionNames{
 
 bool climbs(const QString &path)
 {
-    // The first look is for speed: hardly any name has two dots in a row.
+    // The first check is for speed: hardly any name has two dots in a row.
     return path.contains(QLatin1String("..")) && path.split(QLatin1Char('/')).contains(QLatin1String(".."));
 }
 
@@ -112,8 +112,8 @@ bool isControlCharacter(QChar c)
     return c.unicode() <= lastControlCharacter;
 }
 
-// The line that holds a text whole where its attribute's line cannot, which ends at the first character beyond ASCII;
-// empty where it can. Readers look for their keys anywhere: what these begin with is encoded.
+// The line for the whole text if its attribute's line, which is read up to the first character beyond ASCII, cannot
+// hold it; otherwise empty. Readers search for keys anywhere, so the characters that keys begin with are encoded.
 QByteArray unicodeLine(const QString &key, const QString &text)
 {
     const auto end = std::find_if(text.cbegin(), text.cend(), isControlCharacter);
@@ -337,7 +337,7 @@ bool PresetScript::parseText(const QByteArray &data, const QString &key, QString
     const auto end = data.indexOf('\n', sign);
     const QString whole =
         QString::fromUtf8(QByteArray::fromPercentEncoding(data.mid(sign, end < 0 ? -1 : end - sign))).mid(1);
-    // Somebody who knows nothing of this line has changed the other one since: that is the newer one.
+    // The fixed line was edited by somebody who does not know this one, and is newer.
     if (attributeBytes(data, key) == whole.toLatin1())
         value = whole;
     return true;
@@ -350,9 +350,9 @@ bool PresetScript::parseOption(const QByteArray &data, const QString &keyword, Q
     // Only the first occurrence counts, even where it belongs to a longer keyword: no script has two such keywords.
     if (found < 0 || found + start.size() >= data.size() || data.at(found + start.size()) != '=')
         return false;
-    // A line break is stored in a value as two backslashes and "r". The writer makes four of the two, and one is what
-    // the readers of the value understand as well. Nothing else of the writer's work is undone: other backslashes stay
-    // doubled, and a quoted value is its opening quote and its first word.
+    // A line break is stored in a value as two backslashes and "r", which the writer doubles. The readers of the value
+    // also accept one backslash. Nothing else is undone: other backslashes stay doubled, and a quoted value is its
+    // opening quote and its first word.
     value = valueAt(data, found + start.size() + 1, ' ').replace(QLatin1String("\\\\\\\\"), QLatin1String("\\"));
     return true;
 }

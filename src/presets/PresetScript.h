@@ -14,10 +14,10 @@
 #include <optional>
 
 /**
- * The script that a preset is kept in: where it lies, which options it carries, its text, and how it is read.
+ * The script of a preset: its path, its options, its text, and how it is read.
  *
- * The script serves two readers. A shell applies the preset to the queue by running it; the library never runs it, but
- * finds the preset's parts in it again:
+ * The script serves two readers. A shell applies the preset to the queue by running it. The library never runs it, but
+ * parses it:
  *
  *     #!/bin/bash
  *     #name=NAME                                  unless the name is the file name
@@ -28,12 +28,12 @@
  *     #name-utf8=NAME                             when the name is not plain ASCII
  *     #description-utf8=DESCRIPTION               when the description is not: its first line
  *
- * All but the last two is Latin-1 and is read up to the first character beyond ASCII, as other readers do. The last two
- * hold the whole text in UTF-8, with "%", "#" and "-" as "%25", "%23" and "%2D". Each counts only while the line above
- * that it belongs to is the one that was written with it.
+ * All but the last two lines are Latin-1 and read up to the first character beyond ASCII, as other readers do. The last
+ * two hold the whole text in UTF-8, with "%", "#" and "-" as "%25", "%23" and "%2D". Each is ignored if the line above
+ * that it belongs to has been edited since.
  *
- * Where a shell would act upon characters in the name of the queue, "exit 1" stands before everything else: running the
- * script does nothing, reading it works as usual.
+ * If the name of the queue has characters that a shell would interpret, the script begins with "exit 1": running it
+ * does nothing, reading it works as usual.
  */
 namespace PresetScript {
 
@@ -55,15 +55,15 @@ constexpr qint64 sizeLimit = qint64{1024} * 1024; // bytes
 /** @name Places */
 /** @{ */
 
-/** What the name of a script's file has behind the preset's file name. */
+/** The suffix of a script's file name. */
 const QLatin1String suffix(".sh");
 
 /**
  * The folder of @p printer's scripts: $HOME/.cups/PRINTER, with $HOME as it was when the library was loaded.
  *
- * Presets must not be led out of $HOME/.cups by the name of a queue, nor a further line into their scripts. A name
- * that begins with "/", has ".." for one of its parts or holds a control character therefore has no folder, which is
- * the empty path: nothing is listed for it, read or written. A "/" inside a name is usual; it sets off an instance.
+ * The name of a queue must not lead out of $HOME/.cups or add a line to a script. The path is therefore empty, and
+ * nothing is listed, read or written, if the name begins with "/", has ".." as one of its parts or contains a control
+ * character. A "/" inside a name is usual; it separates the instance.
  */
 QString folder(const QString &printer);
 
@@ -75,12 +75,12 @@ QString pathName(const QString &printer, const QString &file);
 /** @{ */
 
 /**
- * The keywords that presets of @p printer carry, in the order of the script's items: one list, shared by all printers,
- * but for those that have their own. The reference holds until the printer is given another one.
+ * The keywords that presets of @p printer carry, in the order of the script's items: one list, shared by all printers
+ * that do not have their own. The reference is valid until the printer gets another one.
  */
 const QStringList &optionNames(const QString &printer = QString());
 
-/** Gives @p printer a list of its own, for the rest of the process; an empty one takes it back. */
+/** Gives @p printer its own list for the rest of the process; an empty list removes it. */
 void setOptionNames(const QString &printer, const QStringList &names);
 
 /** Replaces the shared list by the one with GapOffset and Shift and without Start, for the rest of the process. */
@@ -99,16 +99,16 @@ QString ppdhack(const QSizeF &size, const QString &printer);
 /** The script's text; values that equal those of @p defaults, an option list, become removals, as do empty ones. */
 QByteArray text(const Content &content, const QStringList &defaults);
 
-/** Puts @p script into the place of the file or link @p path; see PresetFolder::replace(). */
+/** Replaces the file or link @p path by @p script; see PresetFolder::replace(). */
 bool write(const QString &path, const QByteArray &script);
 
-/** The same where nothing is at @p path; see PresetFolder::create(). */
+/** The same if @p path does not exist; see PresetFolder::create(). */
 PresetFolder::Result create(const QString &path, const QByteArray &script);
 
-/** Removes the file or link @p path. @return false when it did not exist, too. */
+/** Removes the file or link @p path. @return false also when it did not exist. */
 bool remove(const QString &path);
 
-/** Whether there is anything at @p path, if only a link to nothing. */
+/** Whether anything exists at @p path, including a link to nothing. */
 bool exists(const QString &path);
 
 /** @} */
@@ -119,7 +119,7 @@ bool exists(const QString &path);
 std::optional<QByteArray> read(const QString &path);
 
 bool parseAttribute(const QByteArray &data, const QString &key, QString &value);
-/** An attribute that may be in any language: its own line, or the whole text that stands behind it. */
+/** An attribute in any language: its line, or the whole text at the end. */
 bool parseText(const QByteArray &data, const QString &key, QString &value);
 bool parseOption(const QByteArray &data, const QString &keyword, QString &value);
 bool parsePpdhack(const QByteArray &data, QSizeF &size);

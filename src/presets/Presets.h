@@ -64,7 +64,7 @@ public:
     /** The first preset whose file name is @p file; null when there is none. Owned here. */
     Preset *findPresetByFileName(const QString &file) const;
 
-    /** Whether a preset in memory has the file name @p file, or there is anything in the place of its script. */
+    /** Whether a preset in memory has the file name @p file, or anything exists at the path of its script. */
     bool isFileNameTaken(const QString &file) const;
 
     /**

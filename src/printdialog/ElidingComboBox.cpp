@@ -15,7 +15,7 @@
 
 namespace {
 
-// What styles leave free beside the text in the place that they have for it, on both sides together.
+// The margin beside the text that styles leave, both sides together.
 constexpr int textMargins = 4;
 
 } // namespace

@@ -7,8 +7,8 @@
 #include <QComboBox>
 
 /**
- * A list that has an ellipsis in the middle of its current entry where there is no room for all of it: entries that
- * begin alike can still be told apart, and a tool tip shows the whole of it. The open list is as wide as its entries.
+ * A list whose current entry has an ellipsis in the middle if it is too long, so that entries that begin alike can be
+ * told apart; a tool tip shows all of it. The open list is as wide as its entries.
  */
 class ElidingComboBox : public QComboBox
 {

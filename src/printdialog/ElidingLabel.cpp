@@ -12,7 +12,7 @@ void ElidingLabel::paintEvent(QPaintEvent *)
     drawFrame(&painter);
     const QRect place = contentsRect();
     const auto flags = QStyle::visualAlignment(layoutDirection(), alignment());
-    // An English text begins at the left in an Arabic form as well, and so ends with its ellipsis at the right.
+    // Also in an Arabic form, an English text begins at the left and has its ellipsis at the right.
     painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     style()->drawItemText(&painter, place, static_cast<int>(flags) | Qt::TextSingleLine, palette(), isEnabled(),
                           fontMetrics().elidedText(text(), Qt::ElideRight, place.width()), foregroundRole());

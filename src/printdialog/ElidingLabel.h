@@ -6,7 +6,7 @@
 
 #include <QLabel>
 
-/** A label of one line of plain text that ends with an ellipsis where there is no room for all of it. */
+/** A label with one line of plain text, which ends with an ellipsis if it is too long. */
 class ElidingLabel : public QLabel
 {
 public:

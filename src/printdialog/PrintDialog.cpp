@@ -29,12 +29,12 @@ namespace {
 
 constexpr int maximumCopies = 100;
 
-// The forms' sizes, and the place of all that the full one shows: for usual fonts and short words.
+// The sizes of the forms and the place of the full form's contents, for usual fonts and short words.
 constexpr QSize shortFormSize(380, 110);
 constexpr QSize fullFormSize(462, 291);
 constexpr QRect fullFormPlace(10, 10, 326, 290);
 
-// What there is at least to be room for in the printer list and beside the labels, in characters.
+// The minimum widths of the printer list and of the texts beside the labels, in characters.
 constexpr int shownCharacters = 14;
 
 // The result that tells exec2() to run the properties dialog.
@@ -61,7 +61,7 @@ QString stateText(int state)
     }
 }
 
-// What the user reads of a printer's state: the state and, where the scheduler names any, the reasons for it.
+// The text for a printer's state: the state and the reasons for it, if the scheduler names any.
 QString statusText(const CupsSupport &cups, int index)
 {
     const QString state = stateText(QString::fromLatin1(cups.getValue("printer-state", index)).toInt());
@@ -71,7 +71,7 @@ QString statusText(const CupsSupport &cups, int index)
     return state + QLatin1String(": ") + reasons;
 }
 
-// Shows a text of the scheduler, which is never rich text. What there is no room for is in the tool tip.
+// Shows a text of the scheduler, never as rich text. The tool tip has all of a text that is too long.
 void showText(QLabel *label, const QString &text)
 {
     label->setTextFormat(Qt::PlainText);
@@ -79,9 +79,8 @@ void showText(QLabel *label, const QString &text)
     label->setToolTip(text.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()));
 }
 
-// Gives the button the style's icon. In the one size that it shows, and kept for as long as nothing about it changes:
-// without an icon theme, styles decode theirs from files in all sizes, which would be a quarter of what an opening
-// takes.
+// Gives the button the style's icon, in one size, and keeps it as long as nothing changes: without an icon theme,
+// styles decode their icons in all sizes, which would take a quarter of an opening's time.
 void showStyleIcon(QAbstractButton *button, QStyle::StandardPixmap icon)
 {
     const QStyle *style = button->style();
@@ -99,7 +98,7 @@ void showStyleIcon(QAbstractButton *button, QStyle::StandardPixmap icon)
     button->setIcon(QIcon(pixmap));
 }
 
-// What of a QPrinter depends on its queue.
+// The properties of a QPrinter that depend on its queue.
 class PrinterState
 {
 public:
@@ -130,7 +129,7 @@ private:
 
 struct PrinterItem
 {
-    QString queue; // by which it is known: two may have the same description
+    QString queue; // identifies the printer: two may have the same description
     QString name;
     QString type;
     QString status;
@@ -193,7 +192,7 @@ struct PrintDialog::Private
     QString queueBeforeDefault; // in the printer list, while "Use Default" is ticked
     bool currentMoved = false; // the current printer of the CupsSupport may be another one than initialQueue
     std::optional<PrinterState> printerBefore; // the QPrinter has been turned to another queue
-    bool questionIsHosts = false; // not the form's, and so not to be retranslated
+    bool questionIsHosts = false; // not the form's, so it is not retranslated
 };
 
 PrintDialog::PrintDialog(QWidget *parent)
@@ -213,8 +212,8 @@ PrintDialog::PrintDialog(QWidget *parent, QPrinter *printer, CupsSupport *cups)
 {
     d->ui.setupUi(this);
     d->setUp(d->ui.page_SelectPrinter, d->ui.yesButton_2, d->ui.noButton_2);
-    // The box that this form shows is numCopies_2, and its minimum lifts it to 1. numCopies() and setNumCopies() are
-    // about the other form's box here as well: hosts count on setNumCopies() not touching what the user sees.
+    // The box that this form shows is numCopies_2, and its minimum lifts it to 1. Here, too, numCopies() and
+    // setNumCopies() use the other form's box: hosts rely on setNumCopies() not changing what the user sees.
     d->ui.numCopies_2->setRange(1, maximumCopies);
     setNumCopies(1);
     d->ui.cboPrinterName->setEditable(false);
@@ -320,7 +319,7 @@ void PrintDialog::on_propertiesButton_clicked()
     done(propertiesWanted);
 }
 
-// The properties are to be those of the printer that the list shows, also before OK.
+// Also before OK, the properties are those of the printer that the list shows.
 void PrintDialog::on_propertiesButton_2_clicked()
 {
     if (d->turnToShownPrinter())
@@ -329,7 +328,7 @@ void PrintDialog::on_propertiesButton_2_clicked()
 
 void PrintDialog::on_yesButton_2_clicked()
 {
-    // Without any printer there is none to change to either.
+    // Without printers, there is nothing to change to.
     if (d->ui.cboPrinterName->currentIndex() < 0 || d->shownPrinter().queue == d->initialQueue) {
         d->turnBack();
         accept();
@@ -388,7 +387,7 @@ void PrintDialog::Private::setUp(QWidget *page, QPushButton *yesButton, QPushBut
         box->setLocale(QLocale::c());
 }
 
-// Lets nothing be cut off, also with large fonts and long words; and places it where one begins to read.
+// Makes room for large fonts and long words, and places the contents for the reading direction.
 void PrintDialog::Private::makeRoom()
 {
     if (isShortForm())
@@ -422,7 +421,7 @@ void PrintDialog::Private::makeRoomInFullForm()
     ui.layoutWidget->setGeometry(QStyle::visualRect(q->layoutDirection(), q->rect(), place));
 }
 
-// In pixels; of all printers, so that nothing moves when another one is chosen.
+// In pixels; of all printers, because nothing should move when another one is chosen.
 int PrintDialog::Private::widestText() const
 {
     int width = ui.cboPrinterName->wholeWidth();
@@ -486,7 +485,7 @@ bool PrintDialog::Private::listIsCurrent() const
 
 // ----- the queue of the CupsSupport and the QPrinter -----
 
-// Has the CupsSupport fetch all destinations and go to the default one, and shows it.
+// Lets the CupsSupport fetch all destinations and select the default one, and shows it.
 void PrintDialog::Private::useDefault()
 {
     currentMoved = true;
@@ -502,7 +501,7 @@ void PrintDialog::Private::useDefault()
     ui.cboPrinterName->setEnabled(false);
 }
 
-// Has both the CupsSupport and the host's QPrinter print on the printer that the list shows, until turnBack().
+// Selects the printer that the list shows in the CupsSupport and the host's QPrinter, until turnBack().
 bool PrintDialog::Private::turnToShownPrinter()
 {
     const QString queue = shownPrinter().queue;
@@ -515,10 +514,8 @@ bool PrintDialog::Private::turnToShownPrinter()
     if (printer->printerName() == queue)
         return true;
     const PrinterState before(*printer);
-    // Qt knows printers by the names of their queues and silently stays with the old printer when it is given any other
-    // text. The description that the user chose by would therefore do only where it is the queue name as well; where it
-    // happens to be the name of another queue, the host's pages would even go there, and an empty one would turn the
-    // QPrinter into a PDF writer. The queue name is right in all of these cases.
+    // Qt needs the queue name. If it is given the description that the user chose, it silently keeps the old printer,
+    // or even selects another one whose queue has that name; an empty text makes the QPrinter write PDF.
     if (!CupsSupport::callWithScheduler([this, &queue] { printer->setPrinterName(queue); })) {
         turnBack();
         return false;
@@ -529,7 +526,7 @@ bool PrintDialog::Private::turnToShownPrinter()
     return true;
 }
 
-// Undoes what "Use Default" did to the CupsSupport as soon as it was ticked, and what Properties did to both.
+// Undoes the changes of "Use Default" to the CupsSupport, and of Properties to both.
 void PrintDialog::Private::turnBack()
 {
     // If the queue no longer exists, there is no printer: another one must not print what was meant for this one.

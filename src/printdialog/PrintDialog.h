@@ -19,12 +19,11 @@ class QPrinter;
  *
  * The full form lets the user choose the printer, see its status, type and location, switch to the default printer, set
  * the copies and ask for printing to a file. The short form asks one question and the copies. The dialog prints
- * nothing: after a change of printer was accepted, the CupsSupport and the QPrinter agree on the chosen queue, and the
- * host prints. A rejected dialog leaves both as they were.
+ * nothing: when it is accepted, the CupsSupport and the QPrinter have the chosen queue, and the host prints. When it is
+ * rejected, both are as before.
  *
  * exec() returns 1 when accepted, 0 when rejected and -1 when the user asked for the properties of the printer that the
- * list shows; the CupsSupport and the QPrinter then both have that queue for the time being. exec2() takes care of
- * this.
+ * list shows; the CupsSupport and the QPrinter temporarily have that queue then. exec2() handles this.
  */
 class PROPERTIESDIALOG_EXPORT PrintDialog : public QDialog
 {

@@ -8,8 +8,8 @@
 DoubleValidator::DoubleValidator(double bottom, double top, int decimals, QObject *parent)
     : QDoubleValidator(bottom, top, decimals, parent)
 {
-    // The fields are filled and read back with a decimal point whatever the user's locale is; the default locale, which
-    // the base takes, would refuse just that in half of Europe. "1,000" could be read as 1 or 1000 and is neither.
+    // The fields have a decimal point in every locale; the base class uses the default locale, which may not accept it.
+    // "1,000" could be read as 1 or 1000 and is refused.
     QLocale locale = QLocale::c();
     locale.setNumberOptions(locale.numberOptions() | QLocale::RejectGroupSeparator);
     setLocale(locale);

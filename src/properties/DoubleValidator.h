@@ -20,7 +20,7 @@ class DoubleValidator : public QDoubleValidator
 public:
     DoubleValidator(double bottom, double top, int decimals, QObject *parent);
 
-    /** Neither @p input nor @p pos is changed. */
+    /** Does not change @p input and @p pos. */
     QValidator::State validate(QString &input, int &pos) const override;
 };
 

@@ -119,7 +119,7 @@ void DriverForm::release()
     note = nullptr;
 }
 
-// The data of an item is our value; that of the one that leaves the setting to the printer has none.
+// The data of an item is our value; the item that leaves the setting to the printer has none.
 void DriverForm::restrictList(QComboBox *list, const char *setting)
 {
     const QSignalBlocker blocker(list);

@@ -23,19 +23,20 @@ class Ui_PrintPropertiesDialog;
 struct LabelSettings;
 
 /**
- * Fits the properties dialog's form to a driver of another make: fields that it lacks are disabled and say why, ranges
- * and lists are the driver's, and what is left to the printer is shown as such. For our own drivers it changes nothing.
+ * Fits the properties dialog's form to a driver of another make: fields without a setting are disabled and say why,
+ * ranges and lists are the driver's, and settings that are left to the printer are shown as such. For our own drivers
+ * it changes nothing.
  */
 class DriverForm
 {
 public:
-    /** All of them have to live longer. */
+    /** All of them must outlive this object. */
     DriverForm(QDialog &dialog, Ui_PrintPropertiesDialog &ui, const DriverSettings &driver);
 
-    /** Disables the fields without counterpart, and has lists and edits take only what the driver can do. Once. */
+    /** Disables the fields without counterpart, and limits lists and edits to what the driver can do. Call it once. */
     void restrictFields();
 
-    /** Undoes all of this before another printer's driver is described. */
+    /** Undoes all of this, before another driver is described. */
     void release();
 
     /** Sets the sliders' ranges. */
@@ -50,13 +51,13 @@ public:
     /** Shows the sliders' values as the driver has them: fractions, or that they are left to the printer. */
     void showSteps();
 
-    /** Marks the fields of options that do not go together, and no others. */
+    /** Marks the fields of conflicting options, and no others. */
     void markConflicts(const std::vector<Conflicts::Pair> &pairs);
 
     /** The whole number that a slider's label shows; nothing for another one, or when it is left to the printer. */
     static std::optional<int> step(const QLabel *label);
 
-    /** Leaves to the printer what the user has emptied, or set so, since @p before was shown. */
+    /** Leaves those settings to the printer that the user has emptied or left to it since @p before was shown. */
     void leaveToPrinter(DriverSettings &changed, const LabelSettings &before, const LabelSettings &now) const;
 
 private:

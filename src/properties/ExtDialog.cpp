@@ -101,8 +101,8 @@ void ExtDialog::Private::makeRoom(QDialog &dialog) const
     place(ui.buttonBox, buttonsPlace.adjusted(wider, higher, wider + wider2, higher + higher2));
 }
 
-// The button box is connected to accept() and reject() as well, which come first and end exec(). These two then only
-// repeat the hiding and the result, so that each of the two ways is sufficient by itself.
+// The button box is also connected to accept() and reject(), which come first and end exec(). These two then only
+// repeat the hiding and the result; either way is sufficient.
 
 void ExtDialog::on_buttonBox_accepted()
 {

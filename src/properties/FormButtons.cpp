@@ -10,7 +10,7 @@
 
 namespace {
 
-// Reaches how a button wants to be painted, which is protected.
+// Gives access to the protected style option of a button.
 struct PaintedButton : QPushButton
 {
     static QStyleOptionButton optionOf(const QPushButton &button)
@@ -32,7 +32,8 @@ public:
         if (event->type() != QEvent::Paint || !button || !button->isRightToLeft() || button->icon().isNull())
             return false;
         QStylePainter painter(button);
-        // The style has turned left and right already. A painter that reads from the right turns them once more.
+        // The style has already exchanged left and right. A painter with a right-to-left layout would exchange them
+        // again.
         painter.setLayoutDirection(Qt::LayoutDirectionAuto);
         painter.drawControl(QStyle::CE_PushButton, PaintedButton::optionOf(*button));
         return true;

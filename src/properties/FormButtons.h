@@ -9,8 +9,8 @@ class QWidget;
 namespace FormButtons {
 
 /**
- * Has the buttons of @p form show their icons beside their texts also where one reads from the right: there, styles put
- * the icon to the right of the middle and the text to the left end of the button.
+ * Makes the buttons of @p form show their icons beside their texts in right-to-left languages, where styles put the
+ * icon to the right of the middle and the text to the left end of the button.
  */
 void keepIconsBesideTexts(QWidget &form);
 

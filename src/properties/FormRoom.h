@@ -26,7 +26,9 @@ inline bool isChangedBy(const QEvent &event)
            || event.type() == QEvent::LayoutDirectionChange;
 }
 
-/** Makes all layouts ask their widgets for their sizes again. Otherwise they do so later, and only while shown. */
+/**
+ * Makes all layouts ask their widgets for their sizes immediately. Otherwise they do so later, and only while shown.
+ */
 inline void freshenSizeHints(const QWidget &form)
 {
     const QList<QLayout *> layouts = form.findChildren<QLayout *>();

@@ -34,8 +34,8 @@ int widthFor(const QString &text, const QComboBox *list)
 
 } // namespace
 
-// The form's sizes are made for usual fonts and short words. They stay where these fit; nothing is to be cut off. What is
-// then higher than the screen scrolls.
+// The form's sizes are for usual fonts and short words. They grow where something would be cut off; pages that are then
+// higher than the screen scroll.
 void PrintPropertiesDialog::Private::makeRoom()
 {
     widenFields();

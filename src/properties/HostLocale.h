@@ -9,8 +9,8 @@
 #include <clocale>
 
 /**
- * Keeps the C library's locale for the host: each application object of Qt replaces it by that of the environment, and
- * what the host prints and reads would from then on have the user's decimal comma.
+ * Restores the C library's locale for the host: each application object of Qt replaces it by that of the environment,
+ * and numbers that the host prints and reads would then have the user's decimal comma.
  */
 class HostLocale
 {

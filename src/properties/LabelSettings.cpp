@@ -47,8 +47,8 @@ struct VerticalDots
     }
 };
 
-// Calls a function for each setting: our keyword for asking the driver, which every driver has where it is null, the
-// member here, the option's getter and setter, the conversion.
+// Calls a function for each setting with our keyword (null if every driver has the setting), the member, the option's
+// getter and setter, and the conversion.
 template<class Function>
 void forEachSetting(Function function)
 {

@@ -17,7 +17,7 @@ struct ModelFamily;
 /**
  * The settings of a label printer in the units of the form, on their way between the printer's options and the fields.
  *
- * A missing value is one that a field cannot show or does not hold; write() does not change its option.
+ * A value is missing if a field cannot show it or does not hold one; write() does not change its option.
  */
 struct LabelSettings
 {

@@ -27,7 +27,7 @@ struct ModelFamily
     Steps speed;
     Steps darkness;
     int fallbackDarkness;
-    Inches gapSize; ///< Of black marks as well.
+    Inches gapSize; ///< Also of black marks.
     Inches gapOffset;
     Inches feed;
     Inches stop;

@@ -32,7 +32,7 @@ QLocale cLocale()
     return locale;
 }
 
-// The keypad of half of Europe has a comma where the fields have a point.
+// Many keypads have a comma where the fields have a point.
 QString withPoints(QString text)
 {
     return text.replace(QLatin1Char(','), QLatin1Char('.'));
@@ -93,7 +93,7 @@ NumberField::NumberField(QLineEdit *edit_)
     connect(edit, &QLineEdit::inputRejected, this, &NumberField::explainRefusal);
 }
 
-// The one of this edit, made when it is first asked for.
+// The object of this edit, created on first use.
 NumberField *NumberField::of(QLineEdit *edit)
 {
     auto *field = edit->findChild<NumberField *>(QString(), Qt::FindDirectChildrenOnly);
@@ -221,8 +221,8 @@ bool NumberField::pressKey(const QKeyEvent &event)
     return passOver(event);
 }
 
-// Where 0 is out of range, "0.5" cannot be typed, and "0.5" not be taken back, by way of "0" and "0.". So a zero at the
-// beginning is left out, and what a deletion would leave of a number is deleted as well when it is nothing but zero.
+// If 0 is out of range, "0.5" can be neither typed nor deleted by way of "0" and "0.". A zero at the beginning is
+// therefore left out, and a deletion that would leave only zero deletes that too.
 bool NumberField::passOver(const QKeyEvent &event)
 {
     const bool isSelected = edit->hasSelectedText();
@@ -270,7 +270,7 @@ void NumberField::describe()
     edit->setToolTip(lines.join(QLatin1Char('\n')));
 }
 
-// The field still holds what is about to be taken back. Commas come this way when they are dropped, or pasted with the
+// The field still holds the text that is about to be refused. This includes commas that are dropped, or pasted with the
 // mouse.
 void NumberField::explainRefusal()
 {

@@ -19,32 +19,32 @@ class QValidator;
 /**
  * A line edit that holds a number with a decimal point, whatever the locale.
  *
- * Its validator refuses each key that would lead out of the range. Beyond that: a comma that is typed or pasted is a point,
- * a zero that the range does not allow to stand alone is passed over ("0.5" becomes ".5"), and the tool tip says the range
- * and the length in millimetres. What is refused is explained at the field.
+ * Its validator refuses keys that would lead out of the range; a note at the field says why. A comma that is typed or
+ * pasted becomes a point, and a zero is left out if the range does not allow it alone ("0.5" becomes ".5"). The tool
+ * tip shows the range and the length in millimetres.
  */
 class NumberField : public QObject
 {
     Q_OBJECT
 
 public:
-    /** Has @p edits accept lengths in this range only, with two decimals. They share a validator, owned by @p parent. */
+    /** Limits @p edits to lengths in this range, with two decimals. They share a validator, owned by @p parent. */
     static void acceptInches(std::initializer_list<QLineEdit *> edits, const ModelFamily::Inches &range,
                              QObject *parent);
 
-    /** Has @p edits accept whole numbers from -@p limit to @p limit only. They share a validator, owned by @p parent. */
+    /** Limits @p edits to whole numbers from -@p limit to @p limit. They share a validator, owned by @p parent. */
     static void acceptDots(std::initializer_list<QLineEdit *> edits, int limit, QObject *parent);
 
-    /** Has the tool tip of @p edit, which holds dots, give millimetres. @param resolution in dots per inch. */
+    /** Shows millimetres in the tool tip of @p edit, which holds dots. @param resolution in dots per inch. */
     static void setResolution(QLineEdit *edit, double resolution);
 
     /** Adds @p note to the tool tip of @p edit; while that is disabled, the tool tip is the note alone. */
     static void setNote(QLineEdit *edit, const QString &note);
 
-    /** Adds @p warning to the tool tip of @p edit, or takes it away when it is empty. */
+    /** Adds @p warning to the tool tip of @p edit; an empty one removes it. */
     static void setWarning(QLineEdit *edit, const QString &warning);
 
-    /** The text that takes the most room of those that @p edit accepts; null when it is no number field. */
+    /** The widest text that @p edit accepts; null when it is not a number field. */
     static QString widestText(const QLineEdit *edit);
 
     /** @name What is shown; nothing for no number, so that what is stored stays */

@@ -56,8 +56,8 @@ bool PrintPropertiesDialog::updatePresets()
     return refill;
 }
 
-// By identity, because two presets may have the same name. A preset of another collection is found by its name. One
-// that the list does not have, for lack of room or otherwise, counts as its first.
+// By identity, because two presets may have the same name. A preset of another collection is found by its name. The
+// first entry stands for a preset that is not in the list.
 int PrintPropertiesDialog::Private::positionOf(Preset *preset, const QComboBox *list) const
 {
     const auto own = static_cast<int>(presets.listedPresets().indexOf(preset));
@@ -138,7 +138,7 @@ void PrintPropertiesDialog::Private::takePageSize(Preset &preset)
         driver.setUserPageSize(size.isEmpty() ? QSizeF() : size * pointsPerInch);
 }
 
-// The one at the place that the tab's list shows.
+// The preset that the tab's list shows.
 Preset *PrintPropertiesDialog::Private::selectedPreset() const
 {
     Preset *preset = presets.listedPresets().value(ui.preset1->currentIndex());
@@ -162,7 +162,7 @@ void PrintPropertiesDialog::on_preset1_currentIndexChanged(int iIndex)
     d->choosePreset(iIndex);
 }
 
-// Tells which of the printer's values the preset would not restore because its script cannot hold them.
+// Warns of values of the printer that the preset would not restore because its script cannot hold them.
 void PrintPropertiesDialog::Private::showPresetNote(Preset *preset)
 {
     QStringList names;
@@ -213,7 +213,7 @@ void PrintPropertiesDialog::on_presetNewButton_clicked()
     }
     Preset *preset = d->presets.addPreset(
         new Preset(d->printer->printerName(), fileName, d->cups->cupsOptions(), name, QString(), -1));
-    preset->setNew(); // to be written even where the printer has no option yet that presets carry
+    preset->setNew(); // written even if the printer has no options for presets yet
     updatePresets();
     setCurrentPreset(preset);
 }

@@ -86,20 +86,20 @@ void showAll(std::initializer_list<QWidget *> widgets, bool isVisible)
         widget->setVisible(isVisible);
 }
 
-// The name of a queue whose presets carry what its driver has, before any of them is read.
+// Gives the queue's presets the keywords of its driver, which must happen before any is read. Returns the queue's name.
 QString withOptionNames(const QString &printerName, const DriverSettings &driver)
 {
     PresetScript::setOptionNames(printerName, driver.presetKeywords());
     return printerName;
 }
 
-// Another make's printer is of none of the families, whatever its queue is called.
+// A printer of another make has no family, whatever its queue name is.
 const ModelFamily &familyOf(const QString &queueName, const DriverSettings &driver)
 {
     return ModelFamily::of(driver.isForeign() ? QString() : queueName);
 }
 
-// Cutting the picture out of its background takes longer than loading the settings and always has the same result.
+// Cutting the picture out of its background takes longer than loading the settings, so the result is kept.
 QIcon maskedIcon()
 {
     const QString file = QStringLiteral(":/b/printer.png");
@@ -159,7 +159,7 @@ PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer,
 
 PrintPropertiesDialog::~PrintPropertiesDialog() = default;
 
-// The host may have turned the QPrinter and the CupsSupport to another queue since the dialog was made.
+// The host may have selected another queue in the QPrinter and the CupsSupport since the dialog was created.
 void PrintPropertiesDialog::Private::turnToPrinter()
 {
     queueName = printer->printerName();
@@ -168,7 +168,7 @@ void PrintPropertiesDialog::Private::turnToPrinter()
     family = familyOf(queueName, driver);
     presets.setPrinter(withOptionNames(queueName, driver));
     createPresets();
-    // What the settings of the other queue may leave as they are.
+    // Loading may leave these fields unchanged.
     for (QLineEdit *edit : {ui.widthEdit, ui.heightEdit, ui.gapSize, ui.gapOffset})
         edit->clear();
     showOwnTexts();
@@ -271,7 +271,7 @@ void PrintPropertiesDialog::Private::showWidestGapLabels()
             label->setText(other);
 }
 
-// What a screen reader says about the preview, and about the field whose meaning depends on the chosen radio button.
+// The texts of screen readers for the preview and for the field whose meaning depends on the chosen radio button.
 void PrintPropertiesDialog::Private::describeFields()
 {
     static constexpr const char *texts[] = {
@@ -291,7 +291,7 @@ void PrintPropertiesDialog::Private::describeFields()
     describe(ui.commandEdit, radios[commandSlot]->text());
 }
 
-// Setting a description, even to what it is, makes Qt look for plug-ins on the disk.
+// Setting a description, even to the same text, makes Qt search the disk for plug-ins.
 void PrintPropertiesDialog::Private::describe(QWidget *widget, const QString &text)
 {
     if (widget->accessibleDescription() != text)
@@ -392,8 +392,8 @@ QList<QPair<QLineEdit *, QString>> PrintPropertiesDialog::Private::pageSizeTexts
             {ui.heightEdit, NumberField::inchesText(points.height() / pointsPerInch)}};
 }
 
-// A field without a number leaves its option alone, so it may as well show what that is. With other makes' drivers an empty
-// field means something.
+// A field without a number leaves its option unchanged, so it shows the option again. With other makes' drivers an
+// empty field leaves the setting to the printer.
 void PrintPropertiesDialog::Private::fillEmptyFields()
 {
     if (!cups || driver.isForeign())
@@ -491,8 +491,9 @@ void PrintPropertiesDialog::Private::storeFields()
     LabelSettings settings = shown();
     const LabelSettings all = settings;
     const bool isOutOfReach = hasFallbacks || cups->isPpdFileOutOfReach();
-    // Without access to the PPD file, the printer's defaults cannot be distinguished from fallbacks. And what another
-    // make's driver leaves to the printer must not become a number; its choices are not as fine as the fields.
+    // Without access to the PPD file, the printer's defaults cannot be distinguished from fallbacks. With another
+    // make's driver, a setting that is left to the printer must not become a number, and choices are not as fine as the
+    // fields.
     if (isOutOfReach || driver.isForeign())
         settings.forgetSame(loaded);
     if (!isOutOfReach)
@@ -804,7 +805,7 @@ void PrintPropertiesDialog::on_commandEdit_textChanged()
 
 // ----- events -----
 
-// Enter in the page size fields neither presses OK nor closes the dialog.
+// Enter in the page size fields does not press OK or close the dialog.
 bool PrintPropertiesDialog::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {

@@ -89,15 +89,15 @@ public:
     bool updatePresets();
 
     /**
-     * Shows @p preset, or that there is none, in both lists and its name and description.
+     * Shows @p preset, or nothing if it is null, in both lists, with its name and description.
      *
      * @return whether the lists moved.
      */
     bool updateCurrentPreset(Preset *preset);
 
     /**
-     * Makes @p preset, one of those in the lists, current, applies it to the printer's settings in memory and loads all
-     * fields anew. Runs the printer driver's ppdhack, and waits for it, when the preset has a page size.
+     * Makes @p preset, one of those in the lists, current, applies it to the printer's settings in memory and reloads
+     * all fields. Runs the printer driver's ppdhack, and waits for it, when the preset has a page size.
      */
     void setCurrentPreset(Preset *preset);
 

@@ -29,7 +29,7 @@ class QComboBox;
 class QWidget;
 struct ModelFamily;
 
-/** What the dialog consists of, kept from hosts so that their binaries outlive the next member. */
+/** The private members of the dialog, hidden so that hosts' binaries keep working when members are added. */
 struct PrintPropertiesDialog::Private
 {
     Private(PrintPropertiesDialog *dialog, QPrinter *printer_, CupsSupport *cups_);

@@ -10,7 +10,7 @@
 class CupsSupport;
 class QPrinter;
 
-/** What a QPrinter is told of the settings. */
+/** The settings that a QPrinter receives. */
 namespace PrinterProperties {
 
 /**

@@ -15,7 +15,7 @@ extern "C" {
  * Opens the properties dialog of the default printer and waits until the user closes it.
  *
  * May be called by any program, from its main thread. If there is no QApplication yet, one is created for the duration
- * of the call, so a host needs no Qt code at all; the host's locale (setlocale()) is afterwards what it was before.
+ * of the call, so a host needs no Qt code. The host's locale (setlocale()) is restored at the end.
  *
  * Texts are in the user's language unless the host has installed translations of its own.
  *

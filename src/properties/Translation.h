@@ -9,13 +9,13 @@
 /**
  * Translates the library's texts to the language of the default locale while this object exists.
  *
- * Does nothing if the host has installed a catalogue of these texts itself, or if there is none for the language.
- * For right-to-left languages, windows are mirrored as well, unless the host has visible windows.
+ * Does nothing if the host has installed a catalogue of these texts itself, or if there is none for the language. For
+ * right-to-left languages, windows are also mirrored, unless the host has visible windows.
  */
 class Translation
 {
 public:
-    /** Which texts to translate: in the application of a host, Qt's own are the host's business. */
+    /** Which texts to translate. In the application of a host, the host decides about Qt's own texts. */
     enum Extent {
         OwnTexts,
         AllTexts ///< also Qt's, in context menus and message boxes, in the same language

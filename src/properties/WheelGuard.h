@@ -8,7 +8,7 @@
 #include <QEvent>
 #include <QSlider>
 
-/** Lets the wheel change a list or a slider only while it has the focus, which the wheel does not give it. */
+/** Lets the wheel change a list or a slider only while it has the focus. The wheel does not give it the focus. */
 class WheelGuard : public QObject
 {
 public:

@@ -23,7 +23,7 @@
 
 namespace {
 
-// Asks in the way of Qt's plug-in, whose first step this is: it knows names of displays, networks and keys.
+// Connects as Qt's plug-in does first: this handles names of displays, networks and keys.
 bool xServerAnswers()
 {
     using Connection = void;

@@ -17,8 +17,8 @@
 namespace WindowSystem {
 
 /**
- * The platforms that a QApplication can be made with: a value for Qt's option "-platform"; empty if Qt's own choice
- * will do. Nothing if there are none.
+ * The platforms that a QApplication can be created with: a value for Qt's option "-platform"; empty if Qt's own choice
+ * works. Nothing if no window can be shown.
  *
  * Needs a QCoreApplication, which knows the folders of plug-ins.
  */

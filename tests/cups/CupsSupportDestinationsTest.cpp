@@ -124,7 +124,7 @@ static int withoutPrinter(int &argc, char **argv)
 }
 static const TestMain::ChildFunction withoutPrinterFunction("withoutPrinter", withoutPrinter);
 
-// Whatever the scheduler answered before, once it has stopped its failure has a text.
+// Once the scheduler has stopped, there is a text for the failure, whatever it answered before.
 static int errorWithoutScheduler(int &, char **)
 {
     CupsSupport cups;
@@ -297,7 +297,7 @@ void CupsSupportDestinationsTest::userDefaultIsCurrent()
     QCOMPARE(cups.getDefaultPrinter(), cups.getCurrentIndex());
 }
 
-// What the environment names counts more than the file, also when there is no such queue.
+// The environment overrides the file, even if it names a queue that does not exist.
 void CupsSupportDestinationsTest::defaultOfEnvironment_data()
 {
     QTest::addColumn<QByteArray>("named");
@@ -823,7 +823,7 @@ void CupsSupportDestinationsTest::errorText()
     CupsSupport cups;
     QCOMPARE(cups.printFile("/no/such/file", QString(), QString(), {}), 0);
     QVERIFY(QByteArray(CupsSupport::getCupsError()).contains(std::strerror(ENOENT)));
-    // It is about the last request, and does not say what the system complained of before.
+    // It is about the last request, not about earlier errors of the system.
     cups.getDefaultPrinter();
     QCOMPARE(QByteArray(CupsSupport::getCupsError()), QByteArray(ippErrorString(IPP_STATUS_OK)));
 }

@@ -11,8 +11,8 @@
 #include <cmath>
 
 /**
- * The label settings of printers of other makes. If one of these fails, a user of such a printer sees or stores
- * something else than the driver does.
+ * The label settings of printers of other makes. If one of these fails, the dialog shows or stores other settings than
+ * such a printer's driver uses.
  */
 class DialectTest : public QObject
 {
@@ -234,7 +234,7 @@ void DialectTest::stored_data()
     row("ql500", "CutMedia", 4, "");
 }
 
-// What the accessors store are the driver's keywords, as libcups reads them, and nothing besides.
+// The accessors store only the driver's keywords, as libcups reads them.
 void DialectTest::stored()
 {
     QFETCH(QByteArray, queue);
@@ -303,12 +303,12 @@ void DialectTest::shown_data()
     row("ql820", "AutoEject=False", "CutMedia", 4);
     row("ql500", "", "CutMedia", 2);
     row("ql820", "MirrorPrint=True", "MirrorPrint", 1);
-    // The filters pass over a choice that the PPD file does not list: the default is in force.
+    // The filters ignore a choice that the PPD file does not list: the default is in force.
     row("dymo", "cupsDarkness=Darker", "Darkness", 3);
     row("zebra", "zeMediaTracking=None", "LabelCategory", 1);
 }
 
-// What another program has set with the driver's keyword is what the accessors read.
+// The accessors read what another program has set with the driver's keyword.
 void DialectTest::shown()
 {
     QFETCH(QByteArray, queue);
@@ -340,7 +340,7 @@ void DialectTest::leftToPrinter_data()
     row("zebra", "PrintSpeed", "zePrintRate=99");
 }
 
-// A setting that is left to the printer is told from a number, and stays so when others are stored.
+// A setting that is left to the printer is not read as a number, and stays so when others are stored.
 void DialectTest::leftToPrinter()
 {
     QFETCH(QByteArray, queue);
@@ -391,7 +391,7 @@ void DialectTest::nothingWithoutCounterpart()
     QCOMPARE(none.setDarkness(3), -1);
 }
 
-// A printer that peels labels off does not begin to tear them because a host stores "no cut" once more.
+// A printer that peels labels off does not begin to tear them because a host stores "no cut" again.
 void DialectTest::sameMeaningStays()
 {
     scheduler->setUserOptions("zebra", {"zePrintMode=Peel"});
@@ -495,7 +495,7 @@ void DialectTest::customPageSize()
     }
 }
 
-// A page size of the user's is stored within the limits of the driver, read by a new process, and gone when it is
+// A user-defined page size is stored within the limits of the driver, read by a new process, and removed when it is
 // cleared.
 void DialectTest::userPageSize()
 {
@@ -529,7 +529,7 @@ void DialectTest::userPageSize()
 
 // ----- resolution -----
 
-// On a queue that CUPS made for a driverless printer lengths in dots are right, too.
+// Lengths in dots are also right on a queue that CUPS created for a driverless printer.
 void DialectTest::declaredResolution()
 {
     QCOMPARE(open("driverless")->getResolution(), QSizeF(203, 203));

@@ -28,8 +28,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A port of this machine. Whoever connects waits in vain, as for a printer that hangs; once it is closed, nobody
-// listens.
+// A port of this machine. It never answers, like a printer that hangs; once it is closed, connections are refused.
 class Port
 {
 public:
@@ -51,7 +50,7 @@ public:
     Port(const Port &) = delete;
     Port &operator=(const Port &) = delete;
 
-    // Serves whoever connects with what is on that socket, in this process.
+    // Answers connections to that socket, in this process.
     [[noreturn]] void leadTo(const QString &socketPath) const
     {
         for (;;) {

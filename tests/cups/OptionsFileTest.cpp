@@ -571,7 +571,7 @@ void OptionsFileTest::untouchedLinesAreKept()
     QCOMPARE(cups.setDests(), 0);
     QCOMPARE(readOptionsFile(), "Dest LP1 Darkness=5 Feed=24\n" + lines);
 
-    // A new line stands behind them.
+    // A new line is added behind them.
     if (!lines.endsWith('\n'))
         lines += '\n';
     writeOptionsFile(lines);
@@ -698,8 +698,8 @@ void OptionsFileTest::newLineOfServerDefault_data()
                               << QByteArray("Dest LP1 Darkness=5 Feed=24\n");
 }
 
-// With "Dest" for the server's default printer, libcups would tell no program of a default any more; and no other queue
-// may get a line because of it.
+// With "Dest" for the server's default printer, programs would have no default; and no other queue may get a line
+// because of it.
 void OptionsFileTest::newLineOfServerDefault()
 {
     QFETCH(QByteArray, file);
@@ -738,7 +738,7 @@ void OptionsFileTest::lastOptionOfInstanceAndDefault()
     QCOMPARE(readOptionsFile(), QByteArray("Dest LP1/wide\nDefault LP2\n"));
 }
 
-// They are the administrator's, whose later changes are to show.
+// They are the administrator's, whose later changes must take effect.
 void OptionsFileTest::schedulerDefaultsAreNotWritten()
 {
     PrivateScheduler::run("lpadmin", {"-p", "LP2", "-o", "job-hold-until-default=indefinite", "-o", "Feed=30"});
@@ -765,7 +765,7 @@ void OptionsFileTest::emptyValueThatWasStored()
     QCOMPARE(cups->setDests(), 0);
     QCOMPARE(readOptionsFile(), QByteArray("Dest LP2 Feed=24 JobStart=x\n"));
 
-    // Others of the line do not stay to become "true" either.
+    // Other empty values of the line are not kept either, because they would become "true".
     writeOptionsFile("Dest LP2 Feed=24 JobEnd= JobStart=x\n");
     const auto other = supportFor(LP2);
     other->setDarkness(5);
@@ -773,7 +773,7 @@ void OptionsFileTest::emptyValueThatWasStored()
     QCOMPARE(readOptionsFile(), QByteArray("Dest LP2 Darkness=5 Feed=24 JobStart=x\n"));
 }
 
-// What libcups cannot read of it is of no use to anybody, so it does not keep the user from saving.
+// Parts that libcups cannot read are useless to everybody, so they do not prevent saving.
 void OptionsFileTest::longLineOfOwnQueue()
 {
     const QByteArray rest("Dest LP2 Darkness=6\n");
@@ -804,7 +804,7 @@ void OptionsFileTest::reasonOfFailure()
     QCOMPARE(CupsSupport::getCupsError(), cupsLastErrorString());
 }
 
-// Whoever may read the folder may lock it. It holds nobody up for good.
+// Anybody who may read the folder can lock it, but not block others for good.
 void OptionsFileTest::anotherInstanceHoldsTheLock()
 {
     writeOptionsFile("");
@@ -911,7 +911,7 @@ void OptionsFileTest::accessControlListIsKept()
     QCOMPARE(QByteArray(found, int(size < 0 ? 0 : size)), hasLists ? QByteArray(list, sizeof list - 1) : QByteArray());
 }
 
-// Then the file is written in place, which is better than not at all. The superuser may write everywhere.
+// The file is then written in place. Root can write everywhere.
 void OptionsFileTest::folderThatCannotBeWritten()
 {
     writeOptionsFile("Dest LP1 Darkness=3\nDest LP2 Feed=24\n");
@@ -933,7 +933,7 @@ void OptionsFileTest::folderThatCannotBeWritten()
     QCOMPARE(readOptionsFile(), QByteArray("Dest LP1 Darkness=4\nDest LP2 Feed=24\n"));
 }
 
-// Run with another user's HOME, as by sudo, the superuser leaves nothing that this user cannot use.
+// With another user's HOME, as with sudo, root leaves no files that this user cannot use.
 void OptionsFileTest::newFolderBelongsToItsUser()
 {
     const bool isRoot = geteuid() == 0;

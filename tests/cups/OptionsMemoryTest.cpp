@@ -220,7 +220,7 @@ void OptionsMemoryTest::merging()
     const OptionsMerge::Result restored = OptionsMerge::merge("Dest LP1 X=\"\\\\\\\\r\"\n", changes, &readLikeNewer);
     QCOMPARE(text(restored.written.at(0).options), "JobStart=" + command + "\nX=\\\\r\n");
 
-    // Without a change it is put right as well, unless somebody else has changed it since.
+    // Without a change it is restored too, unless somebody else has changed it since.
     std::vector<OptionsMerge::Change> damaged(1);
     damaged[0].name = "LP1";
     damaged[0].isNeededEmpty = changes[0].isNeededEmpty;
@@ -315,7 +315,7 @@ void OptionsMemoryTest::linkIsNotFollowed()
     QCOMPARE(text(OptionArray(dest.record)), text(options));
     QVERIFY(precious.remove());
 
-    // Nor is a link in the folder's place.
+    // A link instead of the folder is not followed either.
     QVERIFY(QDir(folder()).removeRecursively());
     const QString elsewhere = QDir::homePath() + "/elsewhere";
     QVERIFY(QDir().mkpath(elsewhere) && QFile::link(elsewhere, folder()));

@@ -132,7 +132,7 @@ void OptionsPlaceTest::version()
     QCOMPARE(text(OptionsPlace::fromVersion(name)), version);
 }
 
-// Also when the host has given libcups a name of its own, which stays.
+// Also when the host has set its own name in libcups, which is kept.
 void OptionsPlaceTest::versionOfTheRunningLibrary()
 {
     cupsSetUserAgent("Labels/1.0");

@@ -201,8 +201,7 @@ void DriversTest::printed_data()
         "True");
 }
 
-// What is set in the dialog is what other programs read, what it shows again, and what the printer gets, whoever
-// prints.
+// Other programs read what is set in the dialog, the dialog shows it again, and the printer gets it, whoever prints.
 void DriversTest::printed()
 {
     QFETCH(QByteArray, queue);
@@ -256,7 +255,7 @@ void DriversTest::nothingTouched_data()
     QTest::newRow("ql820") << QByteArray("\033iD");
 }
 
-// Opening the dialog and pressing OK gives the printer no number where it had none.
+// Opening the dialog and pressing OK stores no number for a setting that had none.
 void DriversTest::nothingTouched()
 {
     QFETCH(QByteArray, commands);
@@ -312,7 +311,7 @@ void DriversTest::fields_data()
     row("ql820", "darknessSlider mediaType cut mirroredCheckBox stockGroupBox");
 }
 
-// A field that the driver has nothing for is disabled and says why.
+// A field that the driver has no setting for is disabled and says why.
 void DriversTest::fields()
 {
     QFETCH(QStringList, enabled);
@@ -448,7 +447,7 @@ const TestMain::ChildFunction showPageSizeFunction("showPageSize", showPageSize)
 
 } // namespace
 
-// The user's page size is there again in a new process, and gone everywhere when the box is no longer checked.
+// A new process shows the user's page size again, and it is removed everywhere when the box is unchecked.
 void DriversTest::userPageSizeInNewProcess()
 {
     {
@@ -574,7 +573,7 @@ void DriversTest::driverCommandIsNotRun()
 
 // ----- other printers -----
 
-// What the name of a queue says of our own models means nothing for other makes.
+// Markers of our own models in a queue's name mean nothing for other makes.
 void DriversTest::familyMarkersAreIgnored()
 {
     OpenDialog open{QString("ZED-KERN")};
@@ -584,7 +583,7 @@ void DriversTest::familyMarkersAreIgnored()
     QCOMPARE(open.widget<QSlider>("speedSlider")->maximum(), 12);
 }
 
-// A driver without label settings is named as such, the fields work as ever, and the page size takes effect.
+// For a driver without label settings there is a note, the fields work as usual, and the page size takes effect.
 void DriversTest::noLabelSettings()
 {
     OpenDialog open{QString("epson9")};
@@ -634,7 +633,7 @@ void DriversTest::queueGetsAnotherDriver()
 
 // ----- conflicts -----
 
-// Settings that the PPD file does not allow together are marked as soon as they meet, and no longer when they part.
+// Settings that the PPD file does not allow together are marked as long as both are set.
 void DriversTest::conflictsOfAnotherMake()
 {
     scheduler->setUserOptions("intelbar", {"inCutInterval=2"});
@@ -678,7 +677,7 @@ void DriversTest::conflictsOfOurOwn()
     QCOMPARE(storedOptions("own").value("PrintSpeed"), QByteArray("5"));
 }
 
-// What CUPS proposes removes the conflict, and nothing is changed before a host says so.
+// What CUPS proposes resolves the conflict, and nothing is changed before the host stores it.
 void DriversTest::conflictResolution()
 {
     scheduler->setUserOptions("intelbar", {"inCutInterval=2"});

@@ -148,7 +148,7 @@ void HostsTest::goesOnWithoutPlugin_data()
     QTest::newRow("offscreen") << Environment{{"QT_QPA_PLATFORM", "offscreen"}};
 }
 
-// Qt finds its plug-ins where a file beside the host says, here nowhere.
+// A file beside the host tells Qt where plug-ins are: here, nowhere.
 void HostsTest::goesOnWithoutPlugin()
 {
     QFETCH(Environment, environment);
@@ -199,7 +199,7 @@ void HostsTest::opensOnLiveCompositor_data()
     add("named beside others", {{"QT_QPA_PLATFORM", "nonsense;xcb;wayland"}});
 }
 
-// The compositor has neither keyboard nor mouse. What the host tells it is seen in the host's log.
+// The compositor has no keyboard or mouse. The host's requests to it are in the host's log.
 void HostsTest::opensOnLiveCompositor()
 {
     QFETCH(QString, language);
@@ -270,7 +270,7 @@ void HostsTest::keepsFileNames_data()
         QTest::newRow(qPrintable(language)) << language;
 }
 
-// A name of a folder outside ASCII is read in the user's encoding, whatever the host's is, in each of two calls.
+// A folder name outside ASCII is read in the user's encoding, whatever the host's is, in each of two calls.
 void HostsTest::keepsFileNames()
 {
     QFETCH(QString, language);

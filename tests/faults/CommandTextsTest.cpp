@@ -86,8 +86,7 @@ QString randomText(QRandomGenerator &random, int room)
     return text;
 }
 
-// All that the edit holds, which is not always what it was given: QPlainTextEdit::toPlainText() makes blanks of
-// no-break spaces.
+// The text of the edit. QPlainTextEdit::toPlainText() would replace no-break spaces by blanks.
 QString heldBy(const QPlainTextEdit *edit)
 {
     QString text = edit->document()->toRawText();

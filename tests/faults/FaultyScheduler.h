@@ -116,7 +116,7 @@ private:
             pause();
     }
 
-    // Passes on what both say, until the fault shows.
+    // Passes everything on, until the fault occurs.
     static void relay(int client, int scheduler, Fault fault)
     {
         QByteArray request;
@@ -146,7 +146,7 @@ private:
                 return;
             QByteArray part(buffer, int(count));
             if (part.startsWith("HTTP/1.1 100")) {
-                // That the client may go on is not the answer yet.
+                // "100 Continue" is not the answer yet.
                 const auto end = part.indexOf("\r\n\r\n") + 4;
                 say(client, part.left(end));
                 part.remove(0, end);
@@ -157,7 +157,7 @@ private:
         }
     }
 
-    // Does what is wrong with an answer of which @p part comes next.
+    // Applies the fault to an answer of which @p part comes next.
     static void spoil(int client, Fault fault, const QByteArray &request, qsizetype passedOn, QByteArray &part)
     {
         const qsizetype good = 400; // in the middle of all answers, and behind their heads

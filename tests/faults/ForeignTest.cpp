@@ -377,7 +377,7 @@ void ForeignTest::planted_data()
     row("link to a file for the folder", linkInPlace("../.bashrc"), false);
 }
 
-// Whatever somebody has put into the folder, saving changes nothing outside it.
+// Saving changes nothing outside the folder, whatever it contains.
 void ForeignTest::planted()
 {
     QFETCH(MakeFolder, make);
@@ -467,7 +467,7 @@ void ForeignTest::printerName()
     open.click("applyButton");
     QCOMPARE(programs.calls(), call);
 
-    // A shell gets nothing.
+    // Nothing is passed to a shell.
     for (const char *file : {"_current", "Preset"}) {
         QProcess shell;
         shell.start("/bin/bash", {cupsFolder() + '/' + queue + '/' + file + ".sh"});

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// On a machine whose own name does not resolve, such as a new container or a label station off line, users wait for no
-// name server: with a scheduler on a local socket no name is looked up.
+// On a machine whose own name does not resolve, such as a new container or a label station off line, users do not wait
+// for a name server: with a scheduler on a local socket, no name is looked up.
 
 #include "CupsMembers.h"
 #include "OpenDialog.h"
@@ -25,7 +25,7 @@ namespace {
 
 bool isCounting = false;
 
-// A look-up is answered at once where the thread knows no name server.
+// A look-up fails immediately if the thread has no name server.
 void count(const char *name)
 {
     if (isCounting && !((_res.options & RES_INIT) != 0 && _res.nscount == 0))
@@ -34,7 +34,7 @@ void count(const char *name)
 
 } // namespace
 
-// What libcups and Qt call instead of the functions of the C library, since this is the program.
+// libcups and Qt call these instead of the functions of the C library, because the program defines them.
 extern "C" {
 
 Q_DECL_EXPORT hostent *gethostbyname(const char *name)
@@ -61,7 +61,7 @@ namespace {
 
 using namespace CupsMembers;
 
-// Counts as in a program that does not know that there are no names here.
+// Counts as in a program that has name servers.
 void startCounting()
 {
     res_init();
@@ -119,7 +119,7 @@ int changePrinter(int &argc, char **argv)
 }
 const TestMain::ChildFunction changePrinterFunction("change-printer", changePrinter);
 
-// That counting works: libcups' own way to a PPD file.
+// Shows that counting works: libcups' own request for a PPD file looks up names.
 int askLibcups(int &argc, char **argv)
 {
     const QCoreApplication app(argc, argv);

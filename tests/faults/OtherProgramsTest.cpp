@@ -53,8 +53,8 @@ void rewriteFile(QRandomGenerator &random)
 
 // ----- texts -----
 
-// What a preset's script carries to lpoptions as it is. Scripts quote for blanks alone, and lpoptions ends a value at a
-// blank all the same.
+// A text that a preset's script passes to lpoptions unchanged. Scripts only quote blanks, and lpoptions ends a value at
+// a blank even then.
 QString plainText(QRandomGenerator &random)
 {
     static const QString characters("ABCXYZabcrntxyz0123456789^,.:+-_/@=%\n");
@@ -273,7 +273,7 @@ void OtherProgramsTest::emptyCommands()
         for (const char *name : commandNames)
             QVERIFY(options.value(name) != "true");
     }
-    // Also after the settings were applied by their script, which can only take a command back to its default.
+    // Also after the script has applied the settings, which can only reset a command to its default.
     PrivateScheduler::run("/bin/bash", {QDir::homePath() + "/.cups/" + queue + "/_current.sh"});
     rewriteFile(random);
     CupsSupport cups;
@@ -282,7 +282,7 @@ void OtherProgramsTest::emptyCommands()
         QCOMPARE(command(cups, name), QString::fromLatin1(cups.getDefaultValue(name)));
 }
 
-// The empty command is lost with the line behind the "#", and put back.
+// The empty command is lost with the rest of the line behind the "#", and restored.
 void OtherProgramsTest::emptyCommandBehindOneThatIsCut()
 {
     {

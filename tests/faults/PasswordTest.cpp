@@ -83,7 +83,7 @@ int openDialog(int &argc, char **argv)
 }
 const TestMain::ChildFunction openDialogFunction("open-dialog", openDialog);
 
-// One who entered it once is not asked again: not by Qt, not by another dialog, not when printing.
+// A user who has entered it is not asked again: not by Qt, by another dialog or when printing.
 int doAll(int &argc, char **argv)
 {
     const QApplication app(argc, argv);
@@ -114,7 +114,7 @@ const char *hostsAnswer(const char *, http_t *, const char *, const char *, void
     return static_cast<const char *>(data);
 }
 
-// A host with a callback of its own finds it as it left it.
+// A host's own callback is not replaced.
 int hostWithCallback(int &, char **)
 {
     char answer[] = "host";
@@ -132,7 +132,7 @@ int hostWithCallback(int &, char **)
 }
 const TestMain::ChildFunction hostWithCallbackFunction("host-with-callback", hostWithCallback);
 
-// A host without windows answers by its callback.
+// A host without windows answers in its callback.
 int hostWithoutWindows(int &argc, char **argv)
 {
     setsid();

@@ -26,14 +26,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// So that this test takes seconds, not minutes. Progress is noticed once a second.
+// Short, because this test would otherwise take minutes. Progress is checked once a second.
 const Scheduler::Limits shortLimits{1500ms, 3000ms};
 
 // For a scheduler that is known not to answer.
 const Scheduler::Limits shortestLimits{300ms, 900ms};
 
-// The longest that one action of the user may take. The rest is for a machine that is busy; without limits it takes
-// minutes or for ever.
+// The longest time for one user action, with a margin for a busy machine; without limits it would take minutes or for
+// ever.
 const qint64 longest = 3000 + 20000;
 
 // ----- actions, in processes of their own; each prints how many milliseconds it took -----
@@ -98,7 +98,7 @@ int printDialog(int &argc, char **argv)
 {
     Scheduler::setLimits(shortLimits);
     const QApplication app(argc, argv);
-    // The host's QPrinter is the host's business: this one has not met the scheduler.
+    // The host's QPrinter is not limited, so this one does not use the scheduler.
     std::unique_ptr<QPrinter> printer;
     Scheduler::callWithoutScheduler([&printer] { printer = std::make_unique<QPrinter>(); });
     QElapsedTimer timer;
@@ -114,7 +114,7 @@ int printDialog(int &argc, char **argv)
 }
 const TestMain::ChildFunction printDialogFunction("print-dialog", printDialog);
 
-// On a queue that was fetched while all was well: SOCKET, which then answers no more as it should
+// On a queue that was fetched before the fault: SOCKET, which then becomes faulty
 int printJob(int &argc, char **argv)
 {
     setsid(); // nobody is to be asked for a password on the terminal of the tests
@@ -127,7 +127,7 @@ int printJob(int &argc, char **argv)
     const int job = cups.printFile(document(), "", "title", {});
     const QByteArray error = CupsSupport::getCupsError();
     std::fprintf(stderr, "%d: %s\n", job, error.constData());
-    // When the answer to the last request alone is lost, there is a job.
+    // If only the answer to the last request is lost, there is a job.
     return result(job > 0 || (!error.isEmpty() && error != "successful-ok"), timer);
 }
 const TestMain::ChildFunction printJobFunction("print-job", printJob);
@@ -427,14 +427,14 @@ void SilentSchedulerTest::fault()
     }
 }
 
-// The limits with which users live.
+// The limits that users have.
 void SilentSchedulerTest::usualLimits()
 {
     QCOMPARE(patientResult.exitCode, 0);
     QVERIFY2(patientResult.output.toLongLong() < 5000 + 20000, patientResult.output.constData());
 }
 
-// A part of a PPD file is none: what the rest declares would be taken for not declared.
+// An incomplete PPD file is not used: options in the rest would seem to be missing.
 void SilentSchedulerTest::brokenPpdFile()
 {
     const QString socket = socketOf(FaultyScheduler::PpdFileBreaksOff);

@@ -135,7 +135,7 @@ void PresetRunTest::values()
     QCOMPARE(optionsOf({"LP1"}), QByteArrayList{"JobStart=" + arrives});
 }
 
-// libcups' own writer, at work in lpoptions, would make "true" of them.
+// In lpoptions, libcups would write them as "true".
 void PresetRunTest::emptyValues()
 {
     m_scheduler.setUserOptions("LP1", {"Darkness=4", "JobStart=^XA"});

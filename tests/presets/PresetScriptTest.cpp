@@ -441,10 +441,10 @@ void PresetScriptTest::beyondAscii_data()
     row("euro", "5 €", "5 ?", "5 €");
     row("Japanese", "連続紙", "???", "連続紙");
     row("beyond the basic plane", "🏷", "??", "🏷");
-    // Nothing of it may look like another line's key.
+    // It must not contain another line's key.
     row("keys", "é#index=1 -oStop=2 #name=x", "\xe9#index=1 -oStop=2 #name=x", "é%23index=1 %2DoStop=2 %23name=x");
     row("percent sign", "é%25%", "\xe9%25%", "é%2525%25");
-    // What the fixed line is read up to ends this one.
+    // This line ends where reading of the fixed line ends.
     row("lines", "é1\né2",
         "\xe9"
         "1\n\xe9"
@@ -477,7 +477,7 @@ void PresetScriptTest::beyondAscii()
     QString read;
     QVERIFY(PresetScript::parseText(script, "description", read));
     QCOMPARE(read, text.section(QRegularExpression("[\n\t]"), 0, 0));
-    // Readers that only know the fixed line find what was always there.
+    // Readers that only know the fixed line read it as before.
     QVERIFY(PresetScript::parseAttribute(script, "description", read));
     QCOMPARE(read, QString::fromLatin1(fixed).section(QRegularExpression("[^ -~]"), 0, 0));
 }
@@ -490,7 +490,7 @@ void PresetScriptTest::needsNoWholeLine()
     QCOMPARE(PresetScript::text(preset, {}),
              QByteArray("#!/bin/bash\n#name=plain\x7f~\n#description=plain\nbehind \xe9\n"
                         "lpoptions -pLP1\n"));
-    // The name is the file's, which needs no line at all.
+    // The name is the file's, which needs no line.
     preset = content();
     preset.name = preset.fileName = QString::fromUtf8("Größe");
     QCOMPARE(PresetScript::text(preset, {}), QByteArray("#!/bin/bash\nlpoptions -pLP1\n"));
@@ -544,7 +544,7 @@ void PresetScriptTest::queueForShells_data()
         QTest::newRow(name) << QString::fromUtf8(name) << false;
 }
 
-// Run by a shell, the name of a queue is that or the script does nothing. It is read in any case.
+// A shell takes the name of the queue literally, or the script does nothing. It can be read in both cases.
 void PresetScriptTest::queueForShells()
 {
     QFETCH(QString, printer);
@@ -600,7 +600,7 @@ void PresetScriptTest::writeReplacesLink_data()
         QTest::newRow(target) << target;
 }
 
-// What a link leads to is neither changed nor made executable.
+// The target of a link is not changed or made executable.
 void PresetScriptTest::writeReplacesLink()
 {
     QFETCH(QString, target);
@@ -687,7 +687,7 @@ void PresetScriptTest::linkedFolder_data()
                                << "LP1";
 }
 
-// Nothing is written, removed or made where the link of a folder leads to. Looking is allowed.
+// Nothing is written, removed or created in the target of a folder's link. Reading is allowed.
 void PresetScriptTest::linkedFolder()
 {
     QFETCH(QString, link);
@@ -765,7 +765,7 @@ void PresetScriptTest::create()
     QVERIFY(PresetScript::exists(path));
 }
 
-// Root, who saves in a user's home, leaves nothing there that the user cannot use.
+// When root saves in a user's home, the user can use all files.
 void PresetScriptTest::ownersOfUsers()
 {
     constexpr uid_t user = 65534;
@@ -782,7 +782,7 @@ void PresetScriptTest::ownersOfUsers()
 
     QVERIFY(PresetScript::write(existing, "text"));
     QCOMPARE(ownerOf(existing), owner);
-    // The folder of this queue is root's: so are new files in it.
+    // The folder of this queue belongs to root, and so do new files in it.
     QVERIFY(PresetScript::write(PresetFiles::script("LP1", "New"), "text"));
     QCOMPARE(ownerOf(PresetFiles::script("LP1", "New")), self);
 

@@ -840,7 +840,7 @@ void PresetTest::valuesNotHeld()
     const QStringList options{"Darkness", "3", "JobStart", value};
     const QStringList defaults{"Darkness", "1", "JobStart", standard, "Feed", "0"};
     const QStringList expected = isHeld ? QStringList() : QStringList("JobStart");
-    // As it was made, as it was saved, and as another run finds it.
+    // As it was created, as it was saved, and as another run reads it.
     Preset preset("LP1", "Wide", options, QString(), QString(), -1);
     QCOMPARE(preset.valuesNotHeld(options, defaults), expected);
     QVERIFY(preset.save(defaults));
@@ -851,7 +851,7 @@ void PresetTest::valuesNotHeld()
     QCOMPARE(chosen.valuesNotHeld(chosen.options() + QStringList{"JobEnd", "^XZ"}, defaults), QStringList());
 }
 
-// A preset that is not of the printer's present values misses nothing of them.
+// A preset with other values than the printer's does not lack these.
 void PresetTest::valuesNotHeldOfOther()
 {
     QVERIFY(writeScript());

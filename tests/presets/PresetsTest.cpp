@@ -285,7 +285,7 @@ void PresetsTest::listsNothingForHostilePrinter_data()
     QTest::newRow("line feed") << "LP1\n";
 }
 
-// Nor is the working directory listed instead of a folder that does not exist.
+// The working directory is not listed instead of a folder that does not exist.
 void PresetsTest::listsNothingForHostilePrinter()
 {
     QFETCH(QString, printer);
@@ -679,7 +679,7 @@ void PresetsTest::saveOfModifiedBuiltIn()
         QCOMPARE(boxes.texts(), QStringList{"a cannot be modified."});
     }
     QCOMPARE(presets.findPreset("b")->state(), Preset::Modified);
-    // It has been read again, so that it does not block the next saving.
+    // It has been read again and does not block the next saving.
     QVERIFY(presets.save({}));
     QCOMPARE(presets.findPreset("b")->state(), Preset::Clean);
 }
@@ -851,7 +851,7 @@ void PresetsTest::linkLeadsNowhere_data()
         QTest::newRow(target) << target;
 }
 
-// Wherever the link of the current preset leads, nothing there is opened, changed or made.
+// Nothing is opened, changed or created at the target of the current preset's link.
 void PresetsTest::linkLeadsNowhere()
 {
     QFETCH(QString, target);
@@ -946,7 +946,7 @@ void PresetsTest::newOnesOfTwo()
         QCOMPARE(third->fileName(), QString("Preset3"));
         QVERIFY(!third->isNew());
         QCOMPARE(linkText(), QFile::encodeName(script("LP1", "Preset3")));
-        // From now on they are what all presets are.
+        // From now on they are presets like all others.
         third->setDescription("x");
         QVERIFY(other.save({}));
 
@@ -976,7 +976,7 @@ void PresetsTest::newOneKeepsName()
     QVERIFY(preset->isNew());
 }
 
-// A script that another program has made under its name in the meantime is not its own.
+// A script that another program has created under its name meanwhile belongs to that program.
 void PresetsTest::newOneDeleted()
 {
     Presets presets("LP1");
@@ -1038,7 +1038,7 @@ void PresetsTest::homeOfBytes()
     QCOMPARE(QByteArray(text), inside + "/.cups/LP1/Wide.sh");
     for (const char *path : {"/.cups/LP1/Wide.sh", "/.cups/LP1/currentPreset", "/.cups/LP1", "/.cups", ""})
         QCOMPARE(std::remove((inside + path).constData()), 0);
-    // Nothing has been made beside it.
+    // Nothing else has been created.
     QCOMPARE(PresetFiles::entries(QFile::decodeName(home)), before);
 }
 

@@ -202,7 +202,7 @@ void PrintDialogLookTest::openListShowsWholeNames()
     QVERIFY(width < dialog->screen()->availableGeometry().width());
 }
 
-// In a host that lets its users type into the list.
+// In a host that makes the list editable.
 void PrintDialogLookTest::typedNamesAreShown()
 {
     auto *list = childOf<QComboBox>(*dialog, "cboPrinterName");

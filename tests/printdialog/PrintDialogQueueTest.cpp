@@ -187,7 +187,7 @@ void PrintDialogQueueTest::propertiesAreThoseOfTheShownPrinter()
     QCOMPARE(cups->getDefaultValue("Resolution"), "300x305dpi");
 }
 
-// Back at the printer that they came with, Properties is that one's again.
+// Back at the initial printer, Properties shows that one's settings again.
 void PrintDialogQueueTest::propertiesOfTheFirstPrinterAgain()
 {
     QDialog properties;
@@ -241,7 +241,7 @@ void PrintDialogQueueTest::cancelGoesBackByName_data()
     QTest::newRow("after Properties") << true;
 }
 
-// A queue that came takes the place in the list that the user's printer had.
+// A new queue takes the place of the user's printer in the list.
 void PrintDialogQueueTest::cancelGoesBackByName()
 {
     QFETCH(bool, properties);
@@ -259,7 +259,7 @@ void PrintDialogQueueTest::cancelGoesBackByName()
     QCOMPARE(printer->printerName(), QString("LP-ORCA"));
 }
 
-// Nothing that they print afterwards comes out of a printer that they did not choose.
+// Later jobs do not go to a printer that the user did not choose.
 void PrintDialogQueueTest::cancelAfterThePrinterIsGone()
 {
     scheduler.addQueue("Gone", PrivateScheduler::samplePpd("label-203"), "Third");
@@ -373,7 +373,7 @@ void PrintDialogQueueTest::statusCostsOneRequestAndNoSettings()
     QCOMPARE(cups->getCurrentQueueName(), QString("LP-ORCA"));
 }
 
-// What the scheduler says of a printer is no setting of the user's.
+// What the scheduler reports for a printer is not a user's setting.
 void PrintDialogQueueTest::statusOfInstances()
 {
     scheduler.setUserOptions("LP1/small", {"Darkness=2"});

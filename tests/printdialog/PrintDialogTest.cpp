@@ -194,7 +194,7 @@ private:
     }
 };
 
-// What the full form is when there is nothing to print on.
+// The full form without printers.
 int dialogWithoutPrinters(int &argc, char **argv)
 {
     const QApplication app(argc, argv);
@@ -401,7 +401,7 @@ void PrintDialogTest::cleanup()
     printer.reset();
 }
 
-// A dialog that finds another printer than the default one current.
+// A dialog that opens with another current printer than the default one.
 void PrintDialogTest::makeDialog(const QString &current)
 {
     cups->setCurrentPrinter(indexOf(current));
@@ -741,7 +741,7 @@ void PrintDialogTest::printingToAFileDependsOnTheModel()
     QCOMPARE(child<QWidget>(*dialog, "chkPrintToFile")->isEnabled(), enabled);
 }
 
-// To a host that lets its users type into the list.
+// In a host that makes the list editable.
 void PrintDialogTest::labelsComeWithTheName()
 {
     printerList()->setEditable(true);
@@ -804,7 +804,7 @@ void PrintDialogTest::copiesAreThoseOfTheShortForm()
     QCOMPARE(shown->value(), 5);
 }
 
-// What hosts print, without looking into the form.
+// The number for hosts, which need not look into the form.
 void PrintDialogTest::copiesOfTheShownForm()
 {
     PrintDialog shortForm(nullptr);

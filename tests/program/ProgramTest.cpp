@@ -288,7 +288,7 @@ void ProgramTest::savesForTheNamedQueue()
     QVERIFY(!untouched.contains("orientation-requested"));
 }
 
-// Where the options file belongs there is a folder that is not empty.
+// A folder that is not empty has the path of the options file.
 void ProgramTest::saysWhyItCannotSave()
 {
     clearHome();

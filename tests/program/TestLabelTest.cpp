@@ -175,7 +175,7 @@ void TestLabelTest::fitsTheImageableArea()
     // The quarter inch from the left on the other edge.
     QVERIFY(raster.columnAt(18, area.bottom() - 1.5, area.bottom() - 1) > 0.9);
 
-    // It says something, and has something to judge the darkness by.
+    // It has texts, and bars for judging the darkness.
     const double share = raster.blackness(area.adjusted(5, 5, -5, -5));
     QVERIFY2(share > 0.01 && share < 0.5, qPrintable(QString::number(share)));
 }

@@ -758,7 +758,7 @@ void FormTest::focusOrder()
     QCOMPARE(actual, expected);
 }
 
-// On each tab, what a user goes through who presses the tabulator.
+// The tab order on each tab.
 void FormTest::tabulator_data()
 {
     QTest::addColumn<int>("tab");

@@ -189,7 +189,7 @@ void NumberFieldTest::commaInTheMiddle()
     QCOMPARE(edit->text(), QString("1.2"));
 }
 
-// What reaches the field by no key: the primary selection, something dropped.
+// Text that does not come from the keyboard: the primary selection, something dropped.
 void NumberFieldTest::droppedComma()
 {
     OpenDialog open;
@@ -223,7 +223,7 @@ void NumberFieldTest::deletedToZero_data()
     QTest::newRow("from the beginning") << Qt::Key_Delete;
 }
 
-// Somebody who deletes all and types anew is not stopped on the way.
+// Deleting everything and typing another number is never refused.
 void NumberFieldTest::deletedToZero()
 {
     QFETCH(Qt::Key, key);
@@ -401,7 +401,7 @@ void NumberFieldTest::everyValueFits()
     }
 }
 
-// Where all values have room.
+// The size at which all values have room.
 void NumberFieldTest::usualSizesStay()
 {
     QFont font = QApplication::font();
@@ -447,7 +447,7 @@ void NumberFieldTest::highFormScrolls()
     QVERIFY(area);
     QVERIFY(area->viewport()->width() >= area->widget()->minimumSizeHint().width());
 
-    // The keyboard leads to what is out of sight.
+    // The keyboard scrolls to fields that are out of sight.
     QVERIFY(QTest::qWaitForWindowActive(&open.dialog));
     auto *slider = open.widget("darknessSlider");
     open.widget("speedSlider")->setFocus();

@@ -124,7 +124,7 @@ void PropertiesDialogInputTest::returnInAFieldIsOk()
 
 // ----- no PPD file -----
 
-// Choosing it has the driver change the PPD file, which is then opened again.
+// When it is chosen, the driver changes the PPD file, which is then opened again.
 QByteArray PropertiesDialogInputTest::presetWithPageSize()
 {
     return "#!/bin/bash\nlpoptions -pQ -oDarkness=9\nppdhack 4.00 2.00 Q\n";
@@ -145,7 +145,7 @@ void PropertiesDialogInputTest::ppdFileGoneForAMoment()
     for (const char *keyword : {"PrintSpeed", "LabelCategory", "CutMedia", "Stop", "Back", "orientation-requested"})
         QVERIFY2(!fileContent(cupsFolder() + "/lpoptions").contains(keyword), keyword);
 
-    // The fields still show what stood in for the defaults.
+    // The fields still show the fallbacks.
     open.slide("speedSlider", 1);
     open.click("applyButton");
     const QByteArray file = fileContent(cupsFolder() + "/lpoptions");

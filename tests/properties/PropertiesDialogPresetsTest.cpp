@@ -1219,8 +1219,8 @@ void PropertiesDialogPresetsTest::deleteOneOfTwo()
     QVERIFY(!QFile::exists(scriptPath("Q", "b")));
 }
 
-// The tab's list has no room for the last ones and shows the first instead, which is not to take their descriptions: it
-// could not be saved, nor anything behind it.
+// The tab's list has no room for the last presets and shows the first one instead, which must not take their
+// descriptions: it could not be saved, nor could the presets after it.
 void PropertiesDialogPresetsTest::descriptionBeyondTheList()
 {
     for (int i = 0; i < 110; ++i)
@@ -1279,7 +1279,7 @@ void PropertiesDialogPresetsTest::newInTwoDialogs()
     again.click("applyButton");
     QVERIFY(QFile::exists(scriptPath("Q", "Preset3")));
 
-    // Before it was written by the one, the other has seen it on the disk.
+    // One dialog has seen it on the disk before the other has written it.
     OpenDialog third;
     again.click("presetNewButton");
     again.click("applyButton");
@@ -1335,7 +1335,7 @@ void PropertiesDialogPresetsTest::valueNotHeld()
     QCOMPARE(open.widget("preset1")->toolTip(), QString());
 }
 
-// It is written, and then read by a later opening: what the printer has is still something else.
+// After it was written and read by a later opening, the printer's value still differs.
 void PropertiesDialogPresetsTest::valueNotHeldAfterSaving()
 {
     {

@@ -10,7 +10,7 @@
 
 namespace {
 
-// All that a user sees of a form, a line for each widget.
+// Everything that a form shows, a line for each widget.
 QStringList seenIn(const QDialog &dialog)
 {
     QStringList lines{dialog.windowTitle()};
@@ -48,8 +48,8 @@ QStringList seenIn(const QDialog &dialog)
 
 } // namespace
 
-// A user of several printers: a dialog that the program keeps shows the printer that it is opened for, and nothing of
-// the one before.
+// With several printers: a dialog that the program keeps shows the printer that it is opened for, and nothing of the
+// one before.
 class PropertiesDialogQueueTest : public QObject
 {
     Q_OBJECT

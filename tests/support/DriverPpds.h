@@ -20,7 +20,7 @@ public:
      * @param name a PPD file of CUPS itself ("zebra", "zebracpl", "zebraep1", "zebraep2", "intelbar", "dymo", "epson9", "laserjet"),
      *             or DRIVER:MODEL, with a part of what the driver calls the model, such as "ptouch:QL-820NWB" and
      *             "dymo:lm450".
-     * @return the path of the file, which goes with this object.
+     * @return the path of the file, which this object removes.
      */
     QString ppd(const QString &name)
     {

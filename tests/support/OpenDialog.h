@@ -76,8 +76,8 @@ inline void selectQueue(CupsSupport &cups, const QString &queue)
 /**
  * The properties dialog with its printer and its settings.
  *
- * Without arguments it is that of the default printer and is shown, as by propertiesDialog(). With the name of a queue
- * it is that of the queue and not yet shown.
+ * Without arguments it is that of the default printer and is shown, as by propertiesDialog(). With the name of a queue,
+ * it is that queue's and not shown yet.
  */
 struct OpenDialog
 {

@@ -74,8 +74,8 @@ bool hasSystemWideOptions()
     return std::make_tuple(version[0], version[1], version[2]) >= std::make_tuple(2, 4, 10);
 }
 
-// Lets look-ups of names on this thread be answered at once. QPrinter looks up the name of this machine for each PPD
-// file, which takes long where that name does not resolve; all schedulers here are on local sockets.
+// Makes look-ups of names on this thread fail immediately. QPrinter looks up the name of this machine for each PPD
+// file, which takes long if that name does not resolve; all schedulers here are on local sockets.
 void forgetNameServers()
 {
     if (res_init() == 0)
@@ -92,7 +92,7 @@ void forgetNameServers()
     setenv("HOME", home.constData(), 1);
     setenv("XDG_RUNTIME_DIR", home.constData(), 1);
     setenv(homeIsFresh, "1", 1);
-    // From 2.4.10 on, libcups reads root's options from the system's folder, which is not for tests to write into.
+    // From 2.4.10 on, libcups reads root's options from the system's folder, which tests must not change.
     if (getuid() == 0 && hasSystemWideOptions())
         setenv("CUPS_SERVERROOT", (home + "/.cups").constData(), 1);
     setenv("RES_OPTIONS", "timeout:1 attempts:1", 1); // lpadmin looks up the name of this machine as well

@@ -24,7 +24,7 @@ void runTool(const QStringList &arguments)
         qFatal("xdotool %s failed", qPrintable(arguments.join(' ')));
 }
 
-// A compositor for Wayland whose screen is a window of the X server. What is pressed there goes to its clients.
+// A Wayland compositor whose screen is a window of the X server. Its clients get the input of that window.
 class Compositor
 {
 public:
@@ -44,7 +44,7 @@ public:
                 qFatal("weston does not start");
             QThread::msleep(100);
         }
-        // Without a window manager nobody else gives it the keyboard.
+        // Without a window manager, nothing else gives it the keyboard focus.
         runTool({"search", "--sync", "--onlyvisible", "--class", "weston", "windowfocus"});
     }
     ~Compositor()
@@ -71,7 +71,7 @@ void click(const QWidget *widget, const QPoint &place)
     const QWidget *window = widget->window();
     const QPoint corner((screenWidth - window->width()) / 2, (screenHeight - window->height()) / 2);
     const QPoint screen = corner + widget->mapTo(window, place);
-    // The second movement is one inside the window: the compositor makes nothing of a click before that.
+    // The second movement is inside the window: the compositor ignores a click before that.
     for (const int x : {screen.x() - 1, screen.x()}) {
         runTool({"mousemove", QString::number(x), QString::number(screen.y())});
         QTest::qWait(50);
