@@ -219,12 +219,19 @@ std::unique_ptr<Progress, void (*)(Progress *)> sharedProgress()
 bool mountSmallDisk(const QString &path)
 {
     if (geteuid() != 0) {
-        const QByteArray user = "0 " + QByteArray::number(geteuid()) + " 1";
+        // Only a user whose group is known there as well can write to that disk.
+        const QList<QPair<QString, QByteArray>> settings{
+            {"/proc/self/uid_map", "0 " + QByteArray::number(geteuid()) + " 1"},
+            {"/proc/self/setgroups", "deny"},
+            {"/proc/self/gid_map", "0 " + QByteArray::number(getegid()) + " 1"},
+        };
         if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
             return false;
-        QFile map("/proc/self/uid_map");
-        if (!map.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || map.write(user) != user.size())
-            return false;
+        for (const auto &[name, text] : settings) {
+            QFile file(name);
+            if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(text) != text.size())
+                return false;
+        }
     } else if (unshare(CLONE_NEWNS) != 0) {
         return false;
     }
