@@ -146,7 +146,7 @@ struct Measurement
         return std::accumulate(
             calls.begin(), calls.end(), 0.0, [](double sum, const Samples &call) { return sum + call.median(); });
     }
-    // The part that is neither QPrinter's, libcups' nor the form's.
+    // The rest, after QPrinter, libcups and the form.
     double own() const { return ours.median() - parts[MakePrinter].median() - cups() - bareForm.median(); }
 };
 

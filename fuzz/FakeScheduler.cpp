@@ -32,7 +32,7 @@ void FakeScheduler::setPpd(const QByteArray &ppd)
     queuePpd = ppd;
 }
 
-// Replace libcups' functions of these names. The connection is none: only functions that are replaced here get it.
+// These replace libcups' functions. The connection is not a real one: only functions that are replaced here get it.
 extern "C" {
 
 __attribute__((visibility("default"))) const char *__lsan_default_suppressions();
@@ -107,7 +107,7 @@ http_status_t cupsGetFd(http_t *, const char *, int fd)
     return HTTP_STATUS_OK;
 }
 
-// Qt asks for the file by itself.
+// Qt requests the file itself.
 const char *cupsGetPPD2(http_t *, const char *)
 {
     return nullptr;

@@ -34,7 +34,7 @@ OptionArray readOptions(const QByteArray &content)
     return options;
 }
 
-// What is no line of the queue, whole.
+// All lines that are not the queue's, unchanged.
 QByteArray foreignText(const QByteArray &content)
 {
     QByteArray text;
@@ -82,7 +82,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         change.set.set(keywordFrom(parts.at(i)).constData(), parts.at(i + 1).constData());
 
     const OptionsMerge::Result merged = merge(earlier, changes);
-    // A value that the file's syntax cannot express, or a line that is too long with what was in it.
+    // A value that the file's syntax cannot express, or a line that is too long with the options that it had.
     if (!merged.isReadable || merged.impossible)
         return 0;
     const QByteArray &saved = merged.content;
