@@ -58,7 +58,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         FUZZ_CHECK(valueOf(stored, keyword) == list.at(i + 1));
     }
 
-    // Presets take what they carry of any list, and nothing else.
+    // Presets only take their own options from a list.
     Preset preset(QStringLiteral("P"), QString(), list, QStringLiteral("<Current Settings>"), QString(), 0);
     const QStringList carried = preset.options();
     for (int i = 0; i + 1 < carried.size(); i += 2)

@@ -104,7 +104,7 @@ void Driver::edit()
     click(find<QPlainTextEdit>("commandEdit"));
     type(command);
 
-    // A new preset takes over what the printer is set to, so the settings have to be applied first.
+    // A new preset takes the printer's settings, so they must be applied first.
     clickButton("applyButton");
     expect(!find<QPushButton>("applyButton")->isEnabled(), QStringLiteral("Apply does not save"));
 

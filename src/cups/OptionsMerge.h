@@ -30,8 +30,8 @@ struct Change
     OptionArray savedEarlier; ///< see OptionsMemory
 
     /**
-     * Whether an option has to be overridden by an empty value, which is then stored as one blank, because other
-     * programs turn an empty one into "true". An option for which it is false is left out instead.
+     * Whether an option must be overridden by an empty value, which is then stored as one blank, because other programs
+     * turn an empty one into "true". An option for which it is false is left out instead.
      */
     std::function<bool(const char *)> isNeededEmpty;
 
@@ -58,7 +58,7 @@ struct Result
     QByteArray content;
     std::vector<Written> written;
     const Change *impossible = nullptr; ///< whose line no program could read back
-    bool isReadable = true; ///< false: the text could not be read at all; the reason is in errno
+    bool isReadable = true; ///< false: the text could not be read; see errno
 };
 
 /** Lines of destinations that were not changed stay as they are, byte for byte. */

@@ -33,7 +33,7 @@ struct Transfer
     Transfer(const Transfer &) = delete;
     Transfer &operator=(const Transfer &) = delete;
 
-    const QByteArray resource; // the scheduler takes it for classes as well
+    const QByteArray resource; // also works for classes
     const int fd;
     http_status_t status = HTTP_STATUS_ERROR;
     bool isComplete = false;

@@ -19,7 +19,7 @@
  * The script is read at the first request for anything that it holds, and written, or removed, by save().
  *
  * Constructing a preset for a printer whose name contains "ORCA" switches the list of option keywords that presets
- * carry, for every preset in the process and for good.
+ * carry, for every preset, until the process ends.
  */
 class PROPERTIESDIALOG_EXPORT Preset
 {

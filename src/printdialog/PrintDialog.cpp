@@ -382,7 +382,7 @@ void PrintDialog::Private::setUp(QWidget *page, QPushButton *yesButton, QPushBut
     showStyleIcon(noButton, QStyle::SP_DialogNoButton);
     FormButtons::keepIconsBesideTexts(*q);
     yesButton->setDefault(true); // otherwise Qt would give Enter to Properties
-    // In Arabic and others, the box would have digits of its own beside those of all other numbers.
+    // In Arabic and others, the box would have other digits than all other numbers.
     for (QSpinBox *box : {ui.numCopies, ui.numCopies_2})
         box->setLocale(QLocale::c());
 }

@@ -64,7 +64,7 @@ QString stepText(double value)
     return std::abs(value - whole) < 0.05 ? QString::number(whole) : QString::number(value, 'f', 1);
 }
 
-// Number fields have a tool tip of their own.
+// Number fields have their own tool tip.
 void explain(QWidget *widget, const QString &text)
 {
     if (auto *edit = qobject_cast<QLineEdit *>(widget))

@@ -21,7 +21,7 @@ namespace {
 
 constexpr QSize formSize(450, 489);
 constexpr int presetListWidth = 160; // pixels; the form's
-constexpr int titleBarHeight = 40; // pixels; that of the usual window managers, with what they draw around
+constexpr int titleBarHeight = 40; // pixels; that of usual window managers, with the frame
 
 int widthFor(const QString &text, const QComboBox *list)
 {

@@ -47,7 +47,7 @@ public:
     /** The widest text that @p edit accepts; null when it is not a number field. */
     static QString widestText(const QLineEdit *edit);
 
-    /** @name What is shown; nothing for no number, so that what is stored stays */
+    /** @name What is shown; nothing if it is not a number, because stored values must be kept */
     /** @{ */
     static QString inchesText(std::optional<double> inches);
     static QString wholeText(std::optional<int> number);

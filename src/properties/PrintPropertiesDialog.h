@@ -33,8 +33,8 @@ class PROPERTIESDIALOG_EXPORT PrintPropertiesDialog : public QDialog
 public:
     /**
      * @param parent the parent widget, or null.
-     * @param printer receives what is saved; its printer name, each time the dialog is shown, is the queue whose presets
-     *        are shown. Not owned.
+     * @param printer receives the saved settings. The dialog shows the presets of the queue that is its printer name
+     *        when the dialog is shown. Not owned.
      * @param cups the current printer of this object is what the dialog edits. Not owned.
      *
      * Both @p printer and @p cups must outlive the dialog.

@@ -26,7 +26,7 @@ public:
     {
         if (event->type() != QEvent::Wheel || static_cast<QWidget *>(object)->hasFocus())
             return QObject::eventFilter(object, event);
-        event->ignore(); // what is around it may scroll
+        event->ignore(); // a scroll area around it may scroll
         return true;
     }
 

@@ -20,7 +20,7 @@ bool askForPassword(Passwords::Credentials *credentials, bool isRetry)
     return true;
 }
 
-// The scheduler may be asked before there is any other dialog of ours.
+// The scheduler may be asked before any other dialog of ours exists.
 void registerPrompt()
 {
     Passwords::setPrompt(askForPassword);

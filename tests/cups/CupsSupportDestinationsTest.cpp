@@ -647,7 +647,7 @@ void CupsSupportDestinationsTest::queueNames()
         QCOMPARE(cups.getQueueIndex(names.at(i)), i);
     for (const char *unknown : {"", "LP", "lp1", "LP1/", "LP1/narrow", "First Printer"})
         QCOMPARE(cups.getQueueIndex(unknown), -1);
-    // An instance is the same printer with options of its own.
+    // An instance is the same printer with its own options.
     cups.setCurrentPrinter(1);
     QCOMPARE(cups.getDarkness(), 4);
     QVERIFY(ppdIsMarked(cups.getPpdFile(), "Darkness", "4"));

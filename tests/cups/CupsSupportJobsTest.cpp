@@ -321,7 +321,7 @@ void CupsSupportJobsTest::collectMarkedOptionsOfGroup()
     std::vector<ppd_option_t> ownOptions{own.mark(1).record()};
     const ppd_group_t group = groupOf(ownOptions, subgroups);
 
-    // The direct subgroups alone: neither the group's own options nor deeper ones.
+    // Only the direct subgroups: not the group's own options or deeper ones.
     const CupsSupport cups;
     QStringList list{"before", "it"};
     cups.collectMarkedOptions(list, &group);

@@ -478,7 +478,7 @@ void CupsSupportOptionsTest::getValueOfOtherDestinations()
     // The default is the current printer's, not that of LP2, which is 2, or of LP3, which has none.
     QCOMPARE(QByteArray(cups->getValue("Back", LP2)), QByteArray("12"));
     QCOMPARE(QByteArray(cups->getValue("Darkness", LP3)), QByteArray("10"));
-    // Not a destination at all.
+    // Not a destination.
     QCOMPARE(QByteArray(cups->getValue("Darkness", -2)), QByteArray("10"));
     QCOMPARE(QByteArray(cups->getValue("Darkness", 3)), QByteArray("10"));
     QCOMPARE(cups->getCurrentIndex(), int(LP1));

@@ -102,7 +102,7 @@ private:
     int fd;
 };
 
-// Runs the function in a process of its own until the end of this object.
+// Runs the function in a separate process while this object exists.
 class Process
 {
 public:
@@ -178,7 +178,7 @@ private:
 
 void DiscoveredPrinterTest::initTestCase()
 {
-    scheduler.addQueue("LP1"); // which plays the printer on the network as well
+    scheduler.addQueue("LP1"); // also plays the printer on the network
 }
 
 void DiscoveredPrinterTest::unreachable_data()

@@ -684,7 +684,7 @@ void OptionsFileTest::readAgainAfterSaving()
 void OptionsFileTest::newLineOfServerDefault_data()
 {
     QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QByteArray>("later"); // what the file is when we save
+    QTest::addColumn<QByteArray>("later"); // contents of the file when we save
     QTest::addColumn<QByteArray>("after");
     const QByteArray none;
     QTest::newRow("no file") << none << none << QByteArray("Default LP1 Darkness=5\n");

@@ -246,7 +246,7 @@ void DriversTest::mirrored()
 
 void DriversTest::nothingTouched_data()
 {
-    QTest::addColumn<QByteArray>("commands"); // none of which is to be sent
+    QTest::addColumn<QByteArray>("commands"); // none of these may be sent
     QTest::newRow("zebra") << QByteArray("^PR ~SD ^LT ~TA ^MM ^MT");
     QTest::newRow("zebraep2") << QByteArray("\012S \012D");
     QTest::newRow("zebracpl") << QByteArray("SPEED PRESENT-AT");

@@ -172,7 +172,7 @@ void changeFromOutside(QRandomGenerator &random, int value, Settings &expected)
     }
 }
 
-// A second instance of the library in a process of its own.
+// A second instance of the library in a separate process.
 void changeFromAnotherProcess(quint32 start, int value, Settings &expected)
 {
     const auto work = [start, value](Settings &settings) {

@@ -215,11 +215,11 @@ std::unique_ptr<Progress, void (*)(Progress *)> sharedProgress()
     return {new (memory) Progress, [](Progress *progress) { munmap(progress, sizeof(Progress)); }};
 }
 
-// Gives the copy of this process in which it is called a disk of its own at this path, of 64 KiB.
+// Mounts a disk of 64 KiB at this path, which only the calling child process sees.
 bool mountSmallDisk(const QString &path)
 {
     if (geteuid() != 0) {
-        // Only a user whose group is known there as well can write to that disk.
+        // Only a user whose group is also known there can write to that disk.
         const QList<QPair<QString, QByteArray>> settings{
             {"/proc/self/uid_map", "0 " + QByteArray::number(geteuid()) + " 1"},
             {"/proc/self/setgroups", "deny"},
@@ -411,8 +411,8 @@ void SavingFaultsTest::notAFile_data()
     QTest::newRow("link to a socket") << true;
 }
 
-// Whoever wants no options kept links the file to a device, which is not to be replaced by a file. A socket stands for
-// that: anybody can make one.
+// Users who want no options kept link the file to a device, which must not be replaced by a file. Here a socket takes
+// its place, because anybody can create one.
 void SavingFaultsTest::notAFile()
 {
     QFETCH(bool, isLink);

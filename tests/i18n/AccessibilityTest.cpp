@@ -249,7 +249,7 @@ void AccessibilityTest::controlIsRead()
     QFETCH(QString, name);
     dialogs->properties->show();
     child<QComboBox>("mediaType")->setCurrentIndex(CupsSupport::LabelsWithGaps);
-    // Qt names a list by what is chosen in it, and leaves what it is for to the label.
+    // Qt names a list after the chosen entry; its label says what it is for.
     QTEST(qobject_cast<QComboBox *>(child(name)) ? nameOf(labelOf(child(name))) : nameOf(child(name)), "text");
     QTEST(descriptionOf(child(name)), "description");
 }

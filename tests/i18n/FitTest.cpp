@@ -37,7 +37,7 @@
 
 namespace {
 
-// What the scheduler says of a printer most of the time: the labels without a size of their own are to show it.
+// The usual texts of the scheduler for a printer, for which the labels must have room.
 constexpr char usualStatus[] = "Printing";
 
 // The size below which a widget cuts something off; nothing for those that show no text of their own.

@@ -135,7 +135,7 @@ void printTextsOfQt(const QDialog &dialog)
                 qUtf8Printable(box.button(QMessageBox::Cancel)->text()));
 }
 
-// In a process without an application object of its own, the first thing that a new one does is this.
+// In a process without an application object, a new one does this first.
 void closeFirstDialog()
 {
     if (qEnvironmentVariableIsSet("PROPERTIESDIALOG_TEST_CLOSES"))

@@ -61,7 +61,7 @@ void PresetOrcaTest::switchesList_data()
     QTest::newRow("other") << "LP1" << QByteArray(usualNames);
 }
 
-// For each printer in a process of its own, since the switch is for good.
+// For each printer in a separate process, because the switch lasts until the process ends.
 void PresetOrcaTest::switchesList()
 {
     QFETCH(QString, printer);

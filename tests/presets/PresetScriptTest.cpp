@@ -892,7 +892,7 @@ void PresetScriptTest::readWithinLimit()
     const std::optional<QByteArray> data = PresetScript::read(path);
     QVERIFY(data.has_value());
     QCOMPARE(*data, bytes);
-    // Through a link as well.
+    // Also through a link.
     QVERIFY(QFile::link(path, path + ".link"));
     QCOMPARE(PresetScript::read(path + ".link").value_or("nothing"), bytes);
 }

@@ -512,7 +512,7 @@ void PresetTest::loadKeepsWhatTheScriptLacks()
     QCOMPARE(preset.name(), QString("Name"));
     QCOMPARE(preset.description(), QString("Description"));
     QCOMPARE(preset.getUserPageSize(), QSizeF(1, 1));
-    // These two are what they are without the script's word.
+    // These two do not depend on the script.
     QCOMPARE(preset.index(), -1);
     QCOMPARE(preset.options(), QStringList());
 }

@@ -304,7 +304,7 @@ void ProgramTest::saysWhyItCannotSave()
 void ProgramTest::asksAboutConflicts_data()
 {
     QTest::addColumn<QString>("dialogKey");
-    QTest::addColumn<QString>("answerKey"); // none if nothing is to be asked
+    QTest::addColumn<QString>("answerKey"); // none if no question is expected
     QTest::addColumn<bool>("isChanged");
     QTest::addColumn<int>("exitStatus");
     QTest::newRow("taken") << "Return"

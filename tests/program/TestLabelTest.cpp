@@ -159,7 +159,7 @@ void TestLabelTest::fitsTheImageableArea()
     QVERIFY(qAbs(raster.size().width() - size.width()) < 1);
     QVERIFY(qAbs(raster.size().height() - size.height()) < 1);
 
-    // The frame is whole, at all four edges.
+    // The frame is complete at all four edges.
     const QRectF area(QPointF(), raster.size());
     QVERIFY(raster.rowAt(0, 1, area.right() - 1) > 0.95);
     QVERIFY(raster.rowAt(area.bottom(), 1, area.right() - 1) > 0.95);

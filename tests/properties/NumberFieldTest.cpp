@@ -32,7 +32,7 @@ enum class Way {
     InputMethod
 };
 
-// Puts a text into the field as a user does, in place of what is selected there.
+// Enters a text as a user does, replacing the selection.
 void enter(QLineEdit *edit, const QString &text, Way way)
 {
     QGuiApplication::clipboard()->setText(text);
@@ -59,7 +59,7 @@ void enter(QLineEdit *edit, const QString &text, Way way)
     }
 }
 
-// Whether the field has room for the text, by what the style leaves of it.
+// Whether the field has room for the text, within the style's margins.
 int roomIn(const QLineEdit *edit)
 {
     QStyleOptionFrame option;

@@ -892,7 +892,7 @@ void PropertiesDialogFieldsTest::languageChange_data()
     QTest::newRow("beyond the sliders") << "LP" << QStringList({"PrintSpeed", "5", "Darkness", "999"});
 }
 
-// A change of the language sets the form's own texts; what was put in their place has to come back after it.
+// A change of the language sets the form's own texts; the texts that replace them must be set again.
 void PropertiesDialogFieldsTest::languageChange()
 {
     QFETCH(QString, queue);

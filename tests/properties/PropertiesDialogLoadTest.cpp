@@ -724,7 +724,7 @@ void PropertiesDialogLoadTest::fields_data()
     add("LP-BIG", {}, "heightEdit", "6.06");
     add("LP-DOT", {}, "widthEdit", "0.01");
     add("LP-FEW", {}, "heightEdit", "2.00");
-    // Neither a saved size nor the orientation changes what is shown.
+    // A saved size and the orientation do not change what is shown.
     add("LP", {"PageSize", "w288h432"}, "heightEdit", "2.00");
     add("LP", {"orientation-requested", "3"}, "widthEdit", "4.00");
     add("LP", {}, "stockGroupBox", "False");
@@ -947,7 +947,7 @@ void PropertiesDialogLoadTest::mediaTypeIsLoadedAgain()
     t.dialog.show();
     QCOMPARE(t.shown("gapSize"), "0.10");
     t.cups.setGapSize(5.08);
-    t.dialog.updateDialog(); // the media type stays, the fields are filled all the same
+    t.dialog.updateDialog(); // the media type stays, but the fields are filled
     QCOMPARE(t.shown("gapSize"), "0.20");
 }
 
@@ -1028,7 +1028,7 @@ void PropertiesDialogLoadTest::badValues_data()
         QTest::addRow("%s %s %s", queue, option, widget)
             << QString(queue) << QString(option) << QString(widget) << QString(shown) << QString(saved);
     };
-    // No numbers at all: the fallback.
+    // No numbers: the fallback.
     add("LP", "Stop=abc", "stop", "0.00", "0.000");
     add("LP-TIK", "Shift=abc", "stop", "0.00", "0.000");
     add("LP", "GapSize=abc", "gapSize", "0.00", "0.000");

@@ -1368,7 +1368,7 @@ void PropertiesDialogPresetsTest::extendedList()
     const TestMain::ChildResult child = TestMain::runChild("work-with-extended-list");
     QCOMPARE(child.exitCode, 0);
     QCOMPARE(keywordsOf(child.output), extendedKeywords);
-    // "Start" is no option of theirs and stays. The stop field of these printers is the shift.
+    // Their presets do not contain "Start", so it stays. The stop field of these printers is the shift.
     QVERIFY2(child.output.endsWith("left: GapOffset= Shift= Start=1.000 Darkness=\n"), child.output.constData());
     // In this process the list is still the usual one.
     QCOMPARE(Preset("Q", QString(), {}, QString(), QString(), -1).getOptionNames(), usualKeywords);

@@ -22,7 +22,7 @@
 
 namespace {
 
-// Keeps what a QPrinter is told, and passes it on to the engine of another printer.
+// Records the properties that a QPrinter sets, and passes them to the engine of another printer.
 class RecordingEngine : public QPrintEngine
 {
 public:
@@ -883,7 +883,7 @@ void PropertiesDialogSaveTest::currentSettingsScript()
     QCOMPARE(again.widget<QComboBox>("preset0")->count(), 2);
 }
 
-// Nothing of what the settings last applied were before is left.
+// Nothing is left of the settings that were applied before.
 void PropertiesDialogSaveTest::currentSettingsScriptReplacesAll()
 {
     const QString path = scriptPath("Q", "_current");

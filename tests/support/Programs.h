@@ -9,7 +9,7 @@
 #include <QProcessEnvironment>
 #include <QStringList>
 
-/** Programs as users run them, in processes of their own. */
+/** Programs in separate processes, as users run them. */
 namespace Programs {
 
 /** What to change in the environment of this process; a null value removes a variable. */

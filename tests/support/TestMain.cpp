@@ -95,7 +95,7 @@ void forgetNameServers()
     // From 2.4.10 on, libcups reads root's options from the system's folder, which tests must not change.
     if (getuid() == 0 && hasSystemWideOptions())
         setenv("CUPS_SERVERROOT", (home + "/.cups").constData(), 1);
-    setenv("RES_OPTIONS", "timeout:1 attempts:1", 1); // lpadmin looks up the name of this machine as well
+    setenv("RES_OPTIONS", "timeout:1 attempts:1", 1); // lpadmin also looks up the name of this machine
     for (const char *variable : {"LPDEST", "PRINTER", "CUPS_SERVER", "XDG_CONFIG_HOME", "LANGUAGE"})
         unsetenv(variable);
     execv("/proc/self/exe", argv);

@@ -43,7 +43,7 @@ struct ChildResult
 /**
  * Runs a registered function in a new process of this program, with the same HOME and environment but for
  * @p environment, where a null value removes a variable. No application object exists there. argv[0] is the program and
- * is followed by @p arguments. Its standard error is shown as well.
+ * is followed by @p arguments. Its standard error is also shown.
  */
 ChildResult runChild(const char *name, const QStringList &arguments = {},
                      const QMap<QString, QString> &environment = {});
