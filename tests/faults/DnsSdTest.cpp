@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+// On a network where printers announce themselves by DNS-SD, users find them beside the queues, print on them, and are not
+// held up by one that is off.
+
+#include "cups/Scheduler.h"
+#include "OpenDialog.h"
+#include "PrivateScheduler.h"
+#include "TestMain.h"
+
+#include <PropertiesDialog/PrintDialog.h>
+
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QProcess>
+#include <QTimer>
+
+#include <memory>
+#include <vector>
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// This is the only machine in its network, so that all ports are free.
+const int closedPort = 4001;
+const int silentPort = 4002;
+const int servedPort = 4003;
+
+const char closedPrinter[] = "Printer in the cellar";
+const char silentPrinter[] = "Printer in the yard";
+const char servedPrinter[] = "Printer in the hall";
+
+// So that printing to what cannot be reached takes less than 9 seconds here.
+const Scheduler::Limits shortLimits{5s, 15s, 3s};
+
+// The longest that one action of the user may take. The rest is for a machine that is busy; without limits libcups waits
+// for more than a minute.
+const qint64 longest = 3000 + 20000;
+
+// A port where whoever connects waits in vain, as for a printer that hangs.
+class SilentPort
+{
+public:
+    explicit SilentPort(int number)
+        : fd(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    {
+        sockaddr_in address = {};
+        address.sin_family = AF_INET;
+        address.sin_port = htons(quint16(number));
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        const void *pointer = &address;
+        if (bind(fd, static_cast<const sockaddr *>(pointer), sizeof address) != 0 || listen(fd, 5) != 0)
+            qFatal("cannot listen on port %d", number);
+    }
+    ~SilentPort() { close(fd); }
+
+    SilentPort(const SilentPort &) = delete;
+    SilentPort &operator=(const SilentPort &) = delete;
+
+private:
+    const int fd;
+};
+
+// A program that runs until the end of this object.
+class Service
+{
+public:
+    explicit Service(const QStringList &command)
+    {
+        process.setStandardOutputFile("/dev/null");
+        process.setStandardErrorFile("/dev/null");
+        process.start("setpriv", QStringList{"--pdeathsig", "KILL"} + command);
+        if (!process.waitForStarted())
+            qFatal("cannot start %s", qPrintable(command.first()));
+    }
+    ~Service()
+    {
+        process.terminate();
+        process.waitForFinished();
+    }
+
+    Service(const Service &) = delete;
+    Service &operator=(const Service &) = delete;
+
+private:
+    QProcess process;
+};
+
+// Says how long it took, and whether that is acceptable.
+bool isInTime(const char *action, const QElapsedTimer &timer)
+{
+    const qint64 elapsed = timer.elapsed();
+    qInfo("%s: %lld ms", action, static_cast<long long>(elapsed));
+    return elapsed < longest;
+}
+
+bool isListed(const char *description)
+{
+    return CupsSupport().printerForSelectOption("printer-info", description) >= 0;
+}
+
+} // namespace
+
+// If this fails, dialogs freeze or printers are missing where printers announce themselves.
+class DnsSdTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void opening();
+    void printDialog();
+    void unreachable_data();
+    void unreachable();
+    void reachable();
+
+private:
+    void announce(const char *description, int port);
+
+    PrivateScheduler scheduler;
+    const SilentPort silent{silentPort};
+    const QTemporaryDir spool{"/tmp/pd-XXXXXX"}; // of the printer that is served
+    std::vector<std::unique_ptr<Service>> services;
+};
+
+// Announces a printer without serving it.
+void DnsSdTest::announce(const char *description, int port)
+{
+    services.push_back(std::make_unique<Service>(
+        QStringList{"avahi-publish", "--service", description, "_ipp._tcp", QString::number(port), "txtvers=1",
+                    "rp=ipp/print", "ty=Label Printer", "pdl=application/pdf,image/urf,image/pwg-raster"}));
+}
+
+void DnsSdTest::initTestCase()
+{
+    scheduler.addQueue("LP1", PrivateScheduler::samplePpd("label-203"), "First Printer");
+    scheduler.setServerDefault("LP1");
+    writeFile(homePath("document.txt"), "text\n");
+    announce(closedPrinter, closedPort);
+    announce(silentPrinter, silentPort);
+    services.push_back(std::make_unique<Service>(QStringList{"ippeveprinter", "-d", spool.path(), "-n", "labels.local",
+                                                             "-p", QString::number(servedPort), servedPrinter}));
+    for (const char *description : {closedPrinter, silentPrinter, servedPrinter})
+        QTRY_VERIFY2_WITH_TIMEOUT(isListed(description), description, 30000);
+    Scheduler::setLimits(shortLimits);
+}
+
+void DnsSdTest::opening()
+{
+    QElapsedTimer timer;
+    timer.start();
+    OpenDialog open;
+    QVERIFY(isInTime("opening", timer));
+    QCOMPARE(QString(open.cups.getCurrentQueueName()), QString("LP1"));
+    open.slide("darknessSlider", 12);
+    timer.start();
+    open.click("applyButton");
+    QVERIFY(isInTime("Apply", timer));
+    QVERIFY(open.dialog.lastSaveSucceeded());
+    QCOMPARE(storedOptions("LP1").value("Darkness"), QByteArray("12"));
+    // There is nothing to store of the others.
+    QVERIFY(!fileContent(cupsFolder() + "/lpoptions").contains("Printer_in_the"));
+}
+
+void DnsSdTest::printDialog()
+{
+    QPrinter printer(QPrinter::ScreenResolution);
+    QElapsedTimer timer;
+    timer.start();
+    CupsSupport cups;
+    PrintDialog dialog(nullptr, &printer, &cups);
+    dialog.show();
+    QVERIFY(isInTime("print dialog", timer));
+    auto *list = childOf<QComboBox>(dialog, "cboPrinterName");
+    QCOMPARE(list->currentText(), QString("First Printer"));
+    for (const char *description : {closedPrinter, silentPrinter, servedPrinter})
+        QVERIFY2(list->findText(description) >= 0, description);
+    QTimer user;
+    connect(&user, &QTimer::timeout, &dialog, [] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+            box->button(QMessageBox::Yes)->click();
+    });
+    user.start(20);
+    timer.start();
+    list->setCurrentIndex(list->findText(closedPrinter));
+    childOf<QAbstractButton>(dialog, "yesButton_2")->click();
+    QVERIFY(isInTime("choosing a printer that cannot be reached", timer));
+    QCOMPARE(printer.printerName(), QString("Printer_in_the_cellar"));
+}
+
+void DnsSdTest::unreachable_data()
+{
+    QTest::addColumn<QString>("description");
+    QTest::newRow("closed port") << closedPrinter;
+    QTest::newRow("silent") << silentPrinter;
+}
+
+void DnsSdTest::unreachable()
+{
+    QFETCH(QString, description);
+    const CupsSupport cups;
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(cups.printFile(homePath("document.txt"), description, "title", {}), 0);
+    QVERIFY(isInTime("printing", timer));
+    QCOMPARE(QString::fromUtf8(CupsSupport::getCupsError()),
+             QString("The printer \"%1\" cannot be reached.").arg(description));
+    // The scheduler's own queues can be used at once.
+    QVERIFY2(cups.printFile(homePath("document.txt"), "First Printer", "title", {}) > 0, CupsSupport::getCupsError());
+}
+
+void DnsSdTest::reachable()
+{
+    Scheduler::setLimits({5s, 15s, 20s});
+    const CupsSupport cups;
+    QElapsedTimer timer;
+    timer.start();
+    const int job = cups.printFile(homePath("document.txt"), servedPrinter, "title", {"raw", "true"});
+    QVERIFY2(job > 0, CupsSupport::getCupsError());
+    QVERIFY(isInTime("printing", timer));
+}
+
+PROPERTIESDIALOG_TEST_MAIN(DnsSdTest)
+
+#include "DnsSdTest.moc"
