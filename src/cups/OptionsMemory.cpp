@@ -3,6 +3,7 @@
 
 #include "cups/OptionsMemory.h"
 
+#include "cups/OptionsPlace.h"
 #include "cups/UserFile.h"
 
 #include <QList>
@@ -94,6 +95,8 @@ void OptionsMemory::remember(const QByteArray &home, const QByteArray &name, con
         return;
     const std::optional<OptionArray> next = OptionsSyntax::rewritten(options, reader);
     const bool isHarmed = next && !(*next == options);
+    if (isHarmed)
+        OptionsPlace::keepInUse();
     if (isHarmed && !UserFile::makeFolder(folder))
         return;
     UserFile file(folder + fileName, UserFile::Links::Replace);

@@ -3,6 +3,8 @@
 
 #include "cups/OptionsPlace.h"
 
+#include "cups/UserFile.h"
+
 #include <QtGlobal>
 
 #include <cups/cups.h>
@@ -16,6 +18,10 @@
 #include <tuple>
 
 namespace {
+
+// In the home folder.
+const QByteArray traditionalFolder("/.cups");
+const QByteArray desktopFolder("/.config/cups");
 
 // The host may have set its own name for this thread, so that text is put back afterwards.
 QByteArray libcupsName()
@@ -80,7 +86,7 @@ OptionsPlace::Place OptionsPlace::find(const Circumstances &c)
         return {"/etc/cups", true};
     }
 
-    const QByteArray traditional = home(c) + "/.cups";
+    const QByteArray traditional = home(c) + traditionalFolder;
     if (!followsDesktop)
         return {traditional, false};
     if (const QByteArray folder = c.environment("CUPS_USERCONFIG"); !folder.isNull())
@@ -88,5 +94,16 @@ OptionsPlace::Place OptionsPlace::find(const Circumstances &c)
     for (const char *variable : {"SNAP_COMMON", "XDG_CONFIG_HOME"})
         if (const QByteArray folder = c.environment(variable); !folder.isNull())
             return {folder + "/cups", false};
-    return {c.exists(traditional) ? traditional : home(c) + "/.config/cups", false};
+    return {c.exists(traditional) ? traditional : home(c) + desktopFolder, false};
+}
+
+void OptionsPlace::keepInUse()
+{
+    const Circumstances c = current();
+    const QByteArray folder = find(c).folder;
+    const QByteArray traditional = home(c) + traditionalFolder;
+    if (folder != home(c) + desktopFolder || c.exists(traditional) || !UserFile::makeFolder(folder))
+        return;
+    // If this fails, something else has been created there meanwhile, and is used.
+    [[maybe_unused]] const int result = symlink(desktopFolder.constData() + 1, traditional.constData());
 }

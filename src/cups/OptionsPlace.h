@@ -42,6 +42,12 @@ struct Place
 
 Place find(const Circumstances &circumstances);
 
+/**
+ * To be called before anything is created in ~/.cups. As soon as that exists, libcups from 2.5 on reads the file in it and
+ * no longer the one in ~/.config/cups. So where that one is in use, ~/.cups becomes a link to its folder.
+ */
+void keepInUse();
+
 /** The user's home folder. */
 QByteArray home(const Circumstances &circumstances);
 

@@ -3,6 +3,8 @@
 
 #include "presets/PresetFolder.h"
 
+#include "cups/OptionsPlace.h"
+
 #include <QCoreApplication>
 #include <QFile>
 
@@ -67,6 +69,8 @@ PresetFolder::PresetFolder(const QString &path, IfMissing ifMissing)
 {
     if (!path.startsWith(rootText))
         return;
+    if (ifMissing == MakeIt)
+        OptionsPlace::keepInUse();
     // Up to here, the user decides where links lead.
     fd = open(home.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
     if (fd >= 0)

@@ -24,7 +24,6 @@ const QByteArray built = QByteArray::number(CUPS_VERSION_MAJOR) + '.' + QByteArr
 
 } // namespace
 
-// If this fails, settings are saved to a file that CUPS programs do not read.
 // If this fails, settings are saved to a file that the installed version of CUPS does not read.
 class OptionsPlaceTest : public QObject
 {
