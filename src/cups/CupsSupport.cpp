@@ -287,10 +287,11 @@ int CupsSupport::setDests()
         change.isDamaged = stored.isDamaged;
         if (change.isEmpty())
             continue;
-        // Only the current printer's PPD file is open. For another one the empty value is the safe side.
-        change.isNeededEmpty = [this, isCurrent = i == currentIndex](const char *keyword) {
-            const char *defaultValue = isCurrent ? getDefaultValue(keyword) : nullptr;
-            return !isCurrent || (defaultValue && *defaultValue);
+        // Without the PPD file, which is only open for the current printer, the empty value is the safe side.
+        const bool areDefaultsKnown = i == currentIndex && !isPpdFileOutOfReach();
+        change.isNeededEmpty = [this, areDefaultsKnown](const char *keyword) {
+            const char *defaultValue = areDefaultsKnown ? getDefaultValue(keyword) : nullptr;
+            return !areDefaultsKnown || (defaultValue && *defaultValue);
         };
         changes.push_back(std::move(change));
     }

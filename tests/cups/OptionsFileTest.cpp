@@ -103,6 +103,7 @@ private slots:
     void lastOptionOfInstanceAndDefault();
     void schedulerDefaultsAreNotWritten();
     void emptyValueThatWasStored();
+    void emptiedWithoutScheduler();
     void longLineOfOwnQueue();
     void reasonOfFailure();
     void anotherInstanceHoldsTheLock();
@@ -771,6 +772,19 @@ void OptionsFileTest::emptyValueThatWasStored()
     other->setDarkness(5);
     QCOMPARE(other->setDests(), 0);
     QCOMPARE(readOptionsFile(), QByteArray("Dest LP2 Darkness=5 Feed=24 JobStart=x\n"));
+}
+
+// Nobody knows then that the PPD file declares a default, which only an empty value overrides.
+void OptionsFileTest::emptiedWithoutScheduler()
+{
+    writeOptionsFile("Dest LP1 JobStart=x\n");
+    CupsSupport cups;
+    scheduler->stop();
+    cups.setJobStart(QString());
+    const int result = cups.setDests();
+    scheduler->start();
+    QCOMPARE(result, 0);
+    QCOMPARE(supportFor(LP1)->getJobStart(), QString());
 }
 
 // Parts that libcups cannot read are useless to everybody, so they do not prevent saving.
