@@ -167,6 +167,7 @@ void PrintPropertiesDialog::Private::turnToPrinter()
     driver.update();
     family = familyOf(queueName, driver);
     presets.setPrinter(withOptionNames(queueName, driver));
+    arePresetsSaved = true;
     createPresets();
     // Loading may leave these fields unchanged.
     for (QLineEdit *edit : {ui.widthEdit, ui.heightEdit, ui.gapSize, ui.gapOffset})
@@ -466,7 +467,7 @@ void PrintPropertiesDialog::saveValues()
     // With other makes' drivers the page size is an option, and the presets carry it as such.
     const QSizeF size = d->driver.isForeign() ? QSizeF(0.0, 0.0) : d->userPageSize();
     d->applyPageSize(size);
-    if (d->changed)
+    if (d->changed || !d->arePresetsSaved)
         d->isSaved = d->savePresets(size, defaults) && d->isSaved;
 }
 
@@ -572,7 +573,8 @@ bool PrintPropertiesDialog::Private::savePresets(const QSizeF &size, const QStri
     const bool areSaved = presets.save(defaults);
     const bool isCurrentSaved = !printer || !cups || saveCurrentSettings(size, defaults);
     q->setChanged(false);
-    return areSaved && isCurrentSaved;
+    arePresetsSaved = areSaved && isCurrentSaved;
+    return arePresetsSaved;
 }
 
 // The settings last applied, to be applied again by running the script.

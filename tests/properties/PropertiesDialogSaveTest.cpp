@@ -199,6 +199,7 @@ private slots:
 
     // Failures.
     void optionsFileCannotBeWritten();
+    void presetCannotBeWritten();
     void noScheduler();
 
 private:
@@ -1086,6 +1087,26 @@ void PropertiesDialogSaveTest::optionsFileCannotBeWritten()
     QCOMPARE(open.dialog.result(), 1);
     QVERIFY(QDir(cupsFolder() + "/lpoptions/in the way").exists());
     QVERIFY(fileContent(scriptPath("Q", "_current")).contains(" -oDarkness=4 "));
+}
+
+// OK after an Apply that failed has nothing new to save, but has not saved the preset either, until that is possible.
+void PropertiesDialogSaveTest::presetCannotBeWritten()
+{
+    writeFile(scriptPath("Q", "Mine"), "#!/bin/bash\nlpoptions -pQ\n");
+    OpenDialog open;
+    open.widget<QLineEdit>("nameEdit")->setText("Yours");
+    QVERIFY(QMetaObject::invokeMethod(&open.dialog, "on_nameEdit_editingFinished"));
+    QVERIFY(QFile::remove(scriptPath("Q", "Mine")));
+    QVERIFY(QDir().mkpath(scriptPath("Q", "Mine")));
+    open.click("applyButton");
+    QVERIFY(!open.dialog.lastSaveSucceeded());
+    open.dialog.saveValues();
+    QVERIFY(!open.dialog.lastSaveSucceeded());
+
+    QVERIFY(QDir().rmdir(scriptPath("Q", "Mine")));
+    open.click("okButton");
+    QVERIFY(open.dialog.lastSaveSucceeded());
+    QVERIFY(fileContent(scriptPath("Q", "Mine")).contains("#name=Yours\n"));
 }
 
 void PropertiesDialogSaveTest::noScheduler()
