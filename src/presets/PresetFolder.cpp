@@ -88,7 +88,7 @@ PresetFolder::~PresetFolder()
 }
 
 // Writes a new file that no list shows, and returns its name; empty on failure.
-QByteArray PresetFolder::write(const QByteArray &content, const struct stat *earlier)
+QByteArray PresetFolder::write(const QByteArray &content, const struct stat *earlier, Sync sync)
 {
     const QByteArray start = ".new-" + QByteArray::number(QCoreApplication::applicationPid()) + '-';
     QByteArray name;
@@ -112,7 +112,7 @@ QByteArray PresetFolder::write(const QByteArray &content, const struct stat *ear
             giveToOwnerOf(fd, descriptor);
         const mode_t mode = (earlier ? earlier->st_mode : status.st_mode) & permissionBits;
         good = fchmod(descriptor, mode | executable) == 0 && file.write(content) == content.size()
-               && fsync(descriptor) == 0;
+               && (sync == Later || fsync(descriptor) == 0);
     } else {
         close(descriptor);
     }
@@ -122,7 +122,7 @@ QByteArray PresetFolder::write(const QByteArray &content, const struct stat *ear
     return {};
 }
 
-bool PresetFolder::replace(const QString &name, const QByteArray &content)
+bool PresetFolder::replace(const QString &name, const QByteArray &content, Sync sync)
 {
     const QByteArray place = QFile::encodeName(name);
     struct stat earlier = {};
@@ -134,7 +134,7 @@ bool PresetFolder::replace(const QString &name, const QByteArray &content)
     if (isFile && faccessat(fd, place.constData(), W_OK, AT_EACCESS) != 0)
         return false;
 
-    const QByteArray temporary = write(content, isFile ? &earlier : nullptr);
+    const QByteArray temporary = write(content, isFile ? &earlier : nullptr, sync);
     if (temporary.isEmpty())
         return false;
     if (renameat(fd, temporary.constData(), fd, place.constData()) == 0)
@@ -146,7 +146,7 @@ bool PresetFolder::replace(const QString &name, const QByteArray &content)
 PresetFolder::Result PresetFolder::create(const QString &name, const QByteArray &content)
 {
     const QByteArray place = QFile::encodeName(name);
-    const QByteArray temporary = write(content, nullptr);
+    const QByteArray temporary = write(content, nullptr, ToDisk);
     if (temporary.isEmpty())
         return Failed;
     // Neither call replaces an existing file. File systems support one or the other.

@@ -24,6 +24,11 @@ public:
         LeaveIt,
         MakeIt
     };
+    /** Whether to wait until the disk has a file. Without that, a crash of the system may leave it empty. */
+    enum Sync {
+        ToDisk,
+        Later
+    };
     enum Result {
         Done,
         Taken, ///< The name is in use.
@@ -44,7 +49,7 @@ public:
      * Replaces the file or link @p name atomically by an executable file. The permissions and the owner of an earlier
      * file are kept. Fails if anything else is there, such as a folder or a pipe.
      */
-    bool replace(const QString &name, const QByteArray &content);
+    bool replace(const QString &name, const QByteArray &content, Sync sync);
 
     /** The same for a file that does not exist yet. */
     Result create(const QString &name, const QByteArray &content);
@@ -70,7 +75,7 @@ public:
     static QByteArray linkTarget(const QString &path);
 
 private:
-    QByteArray write(const QByteArray &content, const struct stat *earlier);
+    QByteArray write(const QByteArray &content, const struct stat *earlier, Sync sync);
 
     int fd = -1; // -1 when the folder could not be opened
 };

@@ -277,7 +277,10 @@ QByteArray PresetScript::text(const Content &content, const QStringList &default
 
 bool PresetScript::write(const QString &path, const QByteArray &script)
 {
-    return PresetFolder(folderOf(path), PresetFolder::MakeIt).replace(nameOf(path), script);
+    const QString name = nameOf(path);
+    // The settings that a hidden script repeats are on the disk already, and synchronising takes most of the time of Apply.
+    const auto sync = name.startsWith(hiddenMark) ? PresetFolder::Later : PresetFolder::ToDisk;
+    return PresetFolder(folderOf(path), PresetFolder::MakeIt).replace(name, script, sync);
 }
 
 PresetFolder::Result PresetScript::create(const QString &path, const QByteArray &script)

@@ -15,7 +15,6 @@
 
 namespace {
 
-const QLatin1Char hiddenMark('_');
 const QLatin1Char hiddenFileMark('.');
 const QString linkName = QStringLiteral("currentPreset");
 
@@ -64,7 +63,7 @@ bool Presets::load()
 
     const QStringList entries = PresetFolder::files(folder, PresetScript::suffix);
     for (const QString &entry : entries)
-        if (!entry.startsWith(hiddenMark) && !entry.startsWith(hiddenFileMark))
+        if (!entry.startsWith(PresetScript::hiddenMark) && !entry.startsWith(hiddenFileMark))
             addPreset(new Preset(d->printerName, withoutSuffix(entry), {}, QString(), QString(), -1));
 
     const QString target = QFile::decodeName(PresetFolder::linkTarget(linkPathName()));

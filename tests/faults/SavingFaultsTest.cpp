@@ -268,6 +268,7 @@ private slots:
     void optionsFile();
     void presetScript_data();
     void presetScript();
+    void hiddenScriptIsNotWaitedFor();
     void fullDisk();
     void notAFile_data();
     void notAFile();
@@ -374,6 +375,19 @@ void SavingFaultsTest::presetScript()
     QCOMPARE(inCopy([&] { return preset->save({}) && preset->state() == Preset::Clean ? 0 : 1; }), 0);
     QVERIFY(content(scriptPath()).contains(longValue));
     QVERIFY(content(scriptPath()).size() > limit);
+}
+
+// The settings that it repeats were synchronised with the options file; a second wait for the disk would double the time of
+// Apply.
+void SavingFaultsTest::hiddenScriptIsNotWaitedFor()
+{
+    const int result = inCopy([&] {
+        failCalls({SYS_fsync, SYS_fdatasync}, ENOSPC, always);
+        Preset current("LP1", "_current", {"Darkness", "9"}, QString(), QString(), -1);
+        return current.save({}) ? 0 : 1;
+    });
+    QCOMPARE(result, 0);
+    QVERIFY(content(folder() + "/LP1/_current.sh").contains(" -oDarkness=9"));
 }
 
 // The faults above are made by refusing system calls, which everybody may do to himself. This one is the real thing.
