@@ -104,6 +104,6 @@ void OptionsPlace::keepInUse()
     const QByteArray traditional = home(c) + traditionalFolder;
     if (folder != home(c) + desktopFolder || c.exists(traditional) || !UserFile::makeFolder(folder))
         return;
-    // If this fails, something else has been created there meanwhile, and is used.
+    // If this fails, something else has been created there meanwhile and is used.
     [[maybe_unused]] const int result = symlink(desktopFolder.constData() + 1, traditional.constData());
 }

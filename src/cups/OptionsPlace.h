@@ -43,8 +43,8 @@ struct Place
 Place find(const Circumstances &circumstances);
 
 /**
- * To be called before anything is created in ~/.cups. As soon as that exists, libcups from 2.5 on reads the file in it and
- * no longer the one in ~/.config/cups. So where that one is in use, ~/.cups becomes a link to its folder.
+ * Call this before creating anything in ~/.cups. As soon as that folder exists, libcups 2.5 and later read the file in
+ * it instead of the one in ~/.config/cups. If the latter is in use, this makes ~/.cups a link to its folder.
  */
 void keepInUse();
 

@@ -278,7 +278,7 @@ QByteArray PresetScript::text(const Content &content, const QStringList &default
 bool PresetScript::write(const QString &path, const QByteArray &script)
 {
     const QString name = nameOf(path);
-    // The settings that a hidden script repeats are on the disk already, and synchronising takes most of the time of Apply.
+    // A hidden script repeats settings that are on the disk already, and synchronising takes most of Apply's time.
     const auto sync = name.startsWith(hiddenMark) ? PresetFolder::Later : PresetFolder::ToDisk;
     return PresetFolder(folderOf(path), PresetFolder::MakeIt).replace(name, script, sync);
 }

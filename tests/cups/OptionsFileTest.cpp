@@ -774,7 +774,7 @@ void OptionsFileTest::emptyValueThatWasStored()
     QCOMPARE(readOptionsFile(), QByteArray("Dest LP2 Darkness=5 Feed=24 JobStart=x\n"));
 }
 
-// Nobody knows then that the PPD file declares a default, which only an empty value overrides.
+// It is then unknown that the PPD file declares a default, which only an empty value overrides.
 void OptionsFileTest::emptiedWithoutScheduler()
 {
     writeOptionsFile("Dest LP1 JobStart=x\n");

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// On a network where printers announce themselves by DNS-SD, users find them beside the queues, print on them, and are not
-// held up by one that is off.
+// On a network with printers that announce themselves with DNS-SD, users find them beside the queues, print on them,
+// and do not wait long for one that is off.
 
 #include "cups/Scheduler.h"
 #include "OpenDialog.h"
@@ -27,7 +27,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// This is the only machine in its network, so that all ports are free.
+// This is the only machine in its network, so all ports are free.
 const int closedPort = 4001;
 const int silentPort = 4002;
 const int servedPort = 4003;
@@ -36,14 +36,14 @@ const char closedPrinter[] = "Printer in the cellar";
 const char silentPrinter[] = "Printer in the yard";
 const char servedPrinter[] = "Printer in the hall";
 
-// So that printing to what cannot be reached takes less than 9 seconds here.
+// Short, because printing to an unreachable printer would otherwise take 9 seconds.
 const Scheduler::Limits shortLimits{5s, 15s, 3s};
 
-// The longest that one action of the user may take. The rest is for a machine that is busy; without limits libcups waits
-// for more than a minute.
+// The longest time for one user action, with a margin for a busy machine; without limits, libcups waits for more than a
+// minute.
 const qint64 longest = 3000 + 20000;
 
-// A port where whoever connects waits in vain, as for a printer that hangs.
+// A port that never answers, like a printer that hangs.
 class SilentPort
 {
 public:
@@ -67,7 +67,7 @@ private:
     const int fd;
 };
 
-// A program that runs until the end of this object.
+// A program that runs while this object exists.
 class Service
 {
 public:
@@ -164,7 +164,7 @@ void DnsSdTest::opening()
     QVERIFY(isInTime("Apply", timer));
     QVERIFY(open.dialog.lastSaveSucceeded());
     QCOMPARE(storedOptions("LP1").value("Darkness"), QByteArray("12"));
-    // There is nothing to store of the others.
+    // The others have nothing to store.
     QVERIFY(!fileContent(cupsFolder() + "/lpoptions").contains("Printer_in_the"));
 }
 

@@ -13,7 +13,7 @@
 
 #include <functional>
 
-// What the library goes by: the libcups that runs is 2.5, and the user is not root.
+// Makes the library find libcups 2.5 and an ordinary user.
 extern "C" const char *cupsUserAgent()
 {
     return "CUPS/2.5.0 (Linux 6.1; x86_64) IPP/2.1";

@@ -1089,7 +1089,7 @@ void PropertiesDialogSaveTest::optionsFileCannotBeWritten()
     QVERIFY(fileContent(scriptPath("Q", "_current")).contains(" -oDarkness=4 "));
 }
 
-// OK after an Apply that failed has nothing new to save, but has not saved the preset either, until that is possible.
+// OK after a failed Apply has nothing new to save, but must still save the preset as soon as that is possible.
 void PropertiesDialogSaveTest::presetCannotBeWritten()
 {
     writeFile(scriptPath("Q", "Mine"), "#!/bin/bash\nlpoptions -pQ\n");
