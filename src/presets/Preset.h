@@ -116,11 +116,10 @@ public:
     /**
      * Writes a modified preset, removes the script of a deleted one.
      *
-     * A built-in preset is not written: the user is told so and the script is read again.
+     * A built-in preset is not written: the user is told so and the script is read again. A link in the script's place
+     * is replaced, not followed. A link in the place of the printer's folder is a failure.
      *
      * @param defaults the printer's default values as an option list; values that equal them become removals.
-     * A link in the script's place is replaced, not followed. A link in the place of the printer's folder is a failure.
-     *
      * @return true when there was nothing to do or it was done; false when the preset is built in or its file could not
      *         be written or removed. A file that could not be written stays as it was, and the preset Modified.
      */
