@@ -4,6 +4,7 @@
 #include "PrinterList.h"
 
 #include "ui_PrinterList.h"
+#include "widgets/FormButtons.h"
 
 #include <PropertiesDialog/CupsSupport.h>
 
@@ -53,6 +54,7 @@ PrinterList::PrinterList(const CupsSupport &cups, const QString &selected, const
     connect(ui->printers, &QTreeWidget::itemDoubleClicked, this, &QDialog::accept);
     testLabelButton = ui->buttonBox->addButton(tr("Print &Test Label"), QDialogButtonBox::ActionRole);
     connect(testLabelButton, &QPushButton::clicked, this, &PrinterList::testLabelWanted);
+    FormButtons::keepIconsBesideTexts(*this);
     enableButtons();
     makeRoom();
 }
@@ -73,14 +75,17 @@ void PrinterList::makeRoom()
 {
     const QSize screen = QGuiApplication::primaryScreen()->availableSize() * 3 / 4;
     QHeaderView *header = ui->printers->header();
+    header->setStretchLastSection(false); // a stretched column does not tell what it needs
     header->resizeSections(QHeaderView::ResizeToContents);
-    for (int column = 0; column < header->count(); ++column)
-        header->resizeSection(column, std::min(header->sectionSize(column), screen.width() / header->count()));
     const int row = ui->printers->sizeHintForRow(0);
+    if (header->length() + 3 * row > screen.width())
+        for (int column = 0; column < header->count(); ++column)
+            header->resizeSection(column, std::min(header->sectionSize(column), screen.width() / header->count()));
     const QSize list(header->length() + 3 * row,
                      header->sizeHint().height() + (ui->printers->topLevelItemCount() + 1) * row);
     ui->printers->setMinimumSize(list.boundedTo(QSize(320, 5 * row)));
     resize(sizeHint().expandedTo(list + QSize(0, 6 * row)).boundedTo(screen));
+    header->setStretchLastSection(true);
 }
 
 void PrinterList::enableButtons()

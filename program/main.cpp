@@ -8,6 +8,7 @@
 
 #include "properties/Translation.h"
 #include "properties/WindowSystem.h"
+#include "widgets/FormButtons.h"
 
 #include <PropertiesDialog/CupsSupport.h>
 #include <PropertiesDialog/PrintPropertiesDialog.h>
@@ -59,9 +60,16 @@ int complain(const QString &what)
     return impossible;
 }
 
+int showMessage(QMessageBox::Icon icon, const QString &text, QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(icon, Program::tr("Label Printer Properties"), text, buttons);
+    FormButtons::keepIconsBesideTexts(box);
+    return box.exec();
+}
+
 int complainInWindow(const QString &what)
 {
-    QMessageBox::warning(nullptr, Program::tr("Label Printer Properties"), what);
+    showMessage(QMessageBox::Warning, what, QMessageBox::Ok);
     return impossible;
 }
 
@@ -291,7 +299,7 @@ bool settleConflicts(const QString &queue)
                              + conflicts.join(QLatin1Char('\n')) + QLatin1String("\n\n")
                              + Program::tr("Do you want to change them to the following?") + QLatin1String("\n")
                              + changes.join(QLatin1Char('\n'));
-    if (QMessageBox::question(nullptr, Program::tr("Label Printer Properties"), question) != QMessageBox::Yes)
+    if (showMessage(QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
         return true;
     cups.setOptions(proposal);
     return cups.setDests() == 0;

@@ -4,7 +4,7 @@
 #include "printdialog/PrintDialog.h"
 
 #include "cups/CupsSupport.h"
-#include "properties/FormButtons.h"
+#include "widgets/FormButtons.h"
 #include "properties/FormRoom.h"
 #include "properties/PrinterProperties.h"
 #include "ui_PrintDialog.h"

@@ -4,7 +4,7 @@
 #include "properties/ExtDialog.h"
 
 #include "cups/CupsSupport.h"
-#include "properties/FormButtons.h"
+#include "widgets/FormButtons.h"
 #include "properties/FormRoom.h"
 #include "ui_ExtDialog.h"
 

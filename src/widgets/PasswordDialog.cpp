@@ -5,6 +5,7 @@
 
 #include "cups/Passwords.h"
 #include "ui_PasswordDialog.h"
+#include "widgets/FormButtons.h"
 
 #include <QApplication>
 
@@ -34,6 +35,7 @@ PasswordDialog::PasswordDialog(QWidget *parent, const QString &user, bool isRetr
     , ui(std::make_unique<Ui_PasswordDialog>())
 {
     ui->setupUi(this);
+    FormButtons::keepIconsBesideTexts(*this);
     ui->refusedLabel->setVisible(isRetry);
     ui->userEdit->setText(user);
     ui->passwordEdit->setFocus();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "properties/FormButtons.h"
+#include "widgets/FormButtons.h"
 
 #include <QEvent>
 #include <QPushButton>
