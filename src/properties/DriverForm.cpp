@@ -224,6 +224,8 @@ void DriverForm::showNote()
         note = new QLabel(&dialog);
         note->setObjectName(QStringLiteral("noLabelSettingsNote"));
         note->setWordWrap(true);
+        const QMargins margins = dialog.layout()->contentsMargins();
+        note->setContentsMargins(margins.left(), margins.top(), margins.right(), 0);
         dialog.layout()->setMenuBar(note);
         note->show(); // the dialog may be about to be shown, with all that it had before
     }

@@ -11,8 +11,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
-#include <QStyleOptionComboBox>
-#include <QTabBar>
+#include <QStyleOption>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -21,7 +20,16 @@ namespace {
 
 constexpr QSize formSize(450, 489);
 constexpr int presetListWidth = 160; // pixels; the form's
+constexpr int tightMargin = 5; // pixels
+constexpr int asInStyle = -1;
 constexpr int titleBarHeight = 40; // pixels; that of usual window managers, with the frame
+
+// What is above the form.
+int noteHeight(const QDialog &dialog)
+{
+    const QWidget *note = dialog.layout()->menuBar();
+    return note ? note->heightForWidth(dialog.width()) : 0;
+}
 
 int widthFor(const QString &text, const QComboBox *list)
 {
@@ -39,17 +47,34 @@ int widthFor(const QString &text, const QComboBox *list)
 void PrintPropertiesDialog::Private::makeRoom()
 {
     widenFields();
+    ui.tabs->setUsesScrollButtons(false); // so that the style tells what room all tabs need
     // With the most rows, so that the window stays as it is when the media type changes.
     showMediaRows(CupsSupport::LabelsWithMarks);
     showWidestGapLabels();
     const int available = q->screen()->availableGeometry().height() - titleBarHeight;
-    QSize needed = neededSize();
+    QSize needed = tightenedSize();
     if (needed.height() > available && scrollPages())
         needed = neededSize();
     const QSize size = formSize.expandedTo(needed).boundedTo(QSize(QWIDGETSIZE_MAX, available));
     showMediaRows(shownMediaType);
     showGapLabels(shownMediaType);
     q->setFixedSize(size);
+}
+
+// Less is left between the boxes where this keeps the form at its size, and only there.
+QSize PrintPropertiesDialog::Private::tightenedSize()
+{
+    const int height = formSize.height() + noteHeight(*q);
+    setTight(false);
+    const QSize usual = neededSize();
+    if (usual.height() <= height)
+        return usual;
+    setTight(true);
+    const QSize tight = neededSize();
+    if (tight.height() <= height)
+        return tight;
+    setTight(false);
+    return neededSize();
 }
 
 QSize PrintPropertiesDialog::Private::neededSize()
@@ -64,9 +89,15 @@ QSize PrintPropertiesDialog::Private::neededSize()
         scrolled = std::max(scrolled, page.height() - area->minimumSizeHint().height());
     }
     ui.tabs->updateGeometry(); // its pages do not tell it
-    const QMargins margins = q->layout()->contentsMargins();
-    const int tabsWidth = ui.tabs->tabBar()->sizeHint().width() + margins.left() + margins.right();
-    return q->minimumSizeHint().expandedTo(QSize(tabsWidth, 0)) + QSize(0, scrolled);
+    return q->minimumSizeHint() + QSize(0, scrolled);
+}
+
+// Affects the dialog and the page that is the highest.
+void PrintPropertiesDialog::Private::setTight(bool isTight)
+{
+    ui.gridLayout_4->setVerticalSpacing(isTight ? 0 : asInStyle); // the titles above the boxes keep these apart
+    const int margin = isTight ? tightMargin : asInStyle;
+    ui.gridLayout_20->setContentsMargins(asInStyle, margin, asInStyle, margin);
 }
 
 // What is on a page goes into a scroll area on it. The pages stay, as the form knows them. Returns whether they were changed.

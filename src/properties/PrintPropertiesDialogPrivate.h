@@ -42,7 +42,9 @@ struct PrintPropertiesDialog::Private
     void hideUnusedRows();
 
     void makeRoom();
+    QSize tightenedSize();
     QSize neededSize();
+    void setTight(bool isTight);
     bool scrollPages();
     void widenFields();
     void describeFields();

@@ -338,6 +338,7 @@ void PropertiesDialogLoadTest::sizeIsFixed_data()
     QTest::addColumn<int>("fontHeight"); // pixels
     QTest::addColumn<bool>("isFormSize");
     QTest::newRow("small font") << 8 << true;
+    QTest::newRow("10 points") << 13 << true;
     QTest::newRow("large font") << 30 << false; // the fields need more room than the form has
 }
 
