@@ -39,7 +39,14 @@ public:
     ~OptionArray() { cupsFreeOptions(count, options); }
 
     void set(const char *name, const char *value) { count = cupsAddOption(name, value, count, &options); }
-    void remove(const char *name) { count = cupsRemoveOption(name, count, &options); }
+    void remove(const char *name)
+    {
+        // libcups keeps the memory of an array that has become empty and never frees it.
+        if (count == 1 && value(name))
+            *this = OptionArray();
+        else
+            count = cupsRemoveOption(name, count, &options);
+    }
     /** Adds the options of a line of the options file. */
     void parse(const char *text) { count = cupsParseOptions(text, count, &options); }
 

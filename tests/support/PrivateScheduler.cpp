@@ -86,6 +86,9 @@ PrivateScheduler::PrivateScheduler()
 PrivateScheduler::~PrivateScheduler()
 {
     stop();
+    // Programs that the scheduler has started, a backend say, may outlive it for a moment and still write there.
+    for (int tries = 0; tries < 100 && !QDir(dir()).removeRecursively(); ++tries)
+        QThread::msleep(20);
 }
 
 void PrivateScheduler::start()
