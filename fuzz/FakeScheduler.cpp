@@ -108,9 +108,19 @@ http_status_t cupsGetFd(http_t *, const char *, int fd)
 }
 
 // Qt requests the file itself.
+const char *cupsGetPPD(const char *)
+{
+    return nullptr;
+}
+
 const char *cupsGetPPD2(http_t *, const char *)
 {
     return nullptr;
+}
+
+http_status_t cupsGetPPD3(http_t *, const char *, time_t *, char *, std::size_t)
+{
+    return HTTP_STATUS_NOT_FOUND;
 }
 
 ipp_t *cupsDoRequest(http_t *, ipp_t *request, const char *)

@@ -144,9 +144,9 @@ void RestartTest::randomCalls()
     qInfo("the scheduler was killed or started %d times", changes);
     if (!isRunning)
         scheduler.start();
-    cups.getDefaultPrinter();
+    // One that broke off in the middle of an answer is left alone for a while.
+    QTRY_COMPARE_WITH_TIMEOUT((cups.getDefaultPrinter(), cups.getDestCount()), 3, 15000);
     cups.setCurrentPrinter(0);
-    QCOMPARE(cups.getDestCount(), 3);
     QCOMPARE(cups.getCurrentQueueName(), QString("LP1"));
     QVERIFY(cups.getPpdFile());
     QCOMPARE(cups.setDests(), 0);

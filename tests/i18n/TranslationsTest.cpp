@@ -80,7 +80,7 @@ template<class Look>
 void whenOpen(Look look)
 {
     QTimer::singleShot(
-        0, qApp,
+        0, QCoreApplication::instance(), // which may not be a whole QApplication yet
         [look] {
             auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
             if (!dialog)
