@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <iterator>
 #include <string>
@@ -66,6 +67,17 @@ const ppd_size_t *findPageSize(const ppd_file_t *ppd, const char *name)
 {
     const auto isNamed = [name](const ppd_size_t &size) { return qstrcmp(size.name, name) == 0; };
     return ppd ? findRecord(ppd->sizes, ppd->num_sizes, isNamed) : nullptr;
+}
+
+// Removes a saved option. libcups keeps the memory of an array that has become empty, and allocates another one for the
+// next option.
+void removeOption(cups_dest_t *dest, const char *keyword)
+{
+    dest->num_options = cupsRemoveOption(keyword, dest->num_options, &dest->options);
+    if (dest->num_options == 0) {
+        std::free(dest->options);
+        dest->options = nullptr;
+    }
 }
 
 // A job's title: Latin-1 like all texts, but encoded in UTF-8. Otherwise the scheduler calls the job "Untitled".
@@ -277,7 +289,7 @@ int CupsSupport::setDests()
         const cups_option_t &option = dest->options[i];
         const char *defaultValue = getDefaultValue(option.name);
         if (defaultValue && !std::strcmp(defaultValue, option.value))
-            dest->num_options = cupsRemoveOption(option.name, dest->num_options, &dest->options);
+            removeOption(dest, option.name);
     }
 
     std::vector<OptionsMerge::Change> changes;
@@ -435,7 +447,7 @@ int CupsSupport::setValue(const char *keyword, const char *value)
     // The destination carries only what differs from the PPD file.
     const char *defaultValue = getDefaultValue(keyword);
     if (defaultValue && !std::strcmp(defaultValue, value))
-        dest->num_options = cupsRemoveOption(keyword, dest->num_options, &dest->options);
+        removeOption(dest, keyword);
     else
         dest->num_options = cupsAddOption(keyword, value, dest->num_options, &dest->options);
     return dest->num_options;
@@ -776,7 +788,7 @@ bool CupsSupport::setOptions(const QStringList &list)
         if (saved ? !value.isEmpty() && value == saved : value.isEmpty())
             continue;
         if (saved)
-            dest->num_options = cupsRemoveOption(keyword.constData(), dest->num_options, &dest->options);
+            removeOption(dest, keyword.constData());
         if (!value.isEmpty())
             dest->num_options =
                 cupsAddOption(keyword.constData(), value.constData(), dest->num_options, &dest->options);
@@ -791,7 +803,7 @@ void CupsSupport::deleteOptions(const QStringList &keywords)
     if (!dest)
         return;
     for (const QString &keyword : keywords)
-        dest->num_options = cupsRemoveOption(keyword.toLatin1().constData(), dest->num_options, &dest->options);
+        removeOption(dest, keyword.toLatin1().constData());
 }
 
 QStringList CupsSupport::options() const
