@@ -133,9 +133,10 @@ void drawDarknessBars(QPainter &painter, const QRectF &area, double dot)
     constexpr int widest = 4; // dots
     const double column = area.width() / (widest + 1);
     for (int width = 1; width <= widest; ++width) {
-        const double end = area.left() + column * width - dot;
-        for (double x = area.left() + column * (width - 1); x + width * dot <= end; x += 2 * width * dot)
-            painter.fillRect(QRectF(x, area.top(), width * dot, area.height()), Qt::black);
+        const double start = area.left() + column * (width - 1);
+        const int lines = static_cast<int>((column - dot + width * dot) / (2 * width * dot));
+        for (int i = 0; i < lines; ++i)
+            painter.fillRect(QRectF(start + 2 * i * width * dot, area.top(), width * dot, area.height()), Qt::black);
     }
     painter.fillRect(QRectF(area.right() - column, area.top(), column, area.height()), Qt::black);
 }

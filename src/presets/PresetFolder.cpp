@@ -48,11 +48,11 @@ bool giveToOwnerOf(int folder, int file)
 int descend(int parent, const QByteArray &name, PresetFolder::IfMissing ifMissing, mode_t mode, int flags)
 {
     const bool made = ifMissing == PresetFolder::MakeIt && mkdirat(parent, name.constData(), mode) == 0;
-    const int folder = openat(parent, name.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC | flags);
-    if (made && folder >= 0)
-        giveToOwnerOf(parent, folder);
+    const int child = openat(parent, name.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC | flags);
+    if (made && child >= 0)
+        giveToOwnerOf(parent, child);
     close(parent);
-    return folder;
+    return child;
 }
 
 // Files, and links to anything but a folder.
