@@ -100,11 +100,11 @@ NumberField *NumberField::of(QLineEdit *edit)
     return field ? field : new NumberField(edit);
 }
 
-void NumberField::accept(QValidator *validator, const Texts &texts_, double unitsPerInch_)
+void NumberField::accept(QValidator *validator, const Texts &texts_, double perInch)
 {
     edit->setValidator(validator);
     texts = &texts_;
-    unitsPerInch = unitsPerInch_;
+    unitsPerInch = perInch;
     bottom = bottomText(validator);
     top = topText(validator);
     describe();

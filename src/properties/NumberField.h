@@ -75,7 +75,7 @@ private:
     explicit NumberField(QLineEdit *edit);
 
     static NumberField *of(QLineEdit *edit);
-    void accept(QValidator *validator, const Texts &texts, double unitsPerInch);
+    void accept(QValidator *validator, const Texts &texts, double perInch);
     bool pressKey(const QKeyEvent &event);
     bool passOver(const QKeyEvent &event);
     bool accepts(QString text) const;

@@ -148,7 +148,6 @@ std::optional<QByteArray> WindowSystem::platforms()
 WindowSystem::Arguments::Arguments(const QByteArray &program, const QByteArray &platforms)
     : texts{program, "-platform", platforms}
     , argc(platforms.isEmpty() ? 1 : 3)
-    , argv{}
 {
     for (int i = 0; i < argc; ++i)
         argv[i] = texts[i].data();

@@ -40,7 +40,7 @@ public:
 private:
     QByteArray texts[3];
     int argc;
-    char *argv[4];
+    char *argv[4] = {};
 };
 
 } // namespace WindowSystem
