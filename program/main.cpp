@@ -6,8 +6,8 @@
 #include "PrinterList.h"
 #include "TestLabel.h"
 
-#include "properties/Translation.h"
-#include "properties/WindowSystem.h"
+#include "host/Translation.h"
+#include "host/WindowSystem.h"
 #include "widgets/FormButtons.h"
 
 #include <PropertiesDialog/CupsSupport.h>

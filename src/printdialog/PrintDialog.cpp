@@ -5,8 +5,8 @@
 
 #include "cups/CupsSupport.h"
 #include "widgets/FormButtons.h"
-#include "properties/FormRoom.h"
-#include "properties/PrinterProperties.h"
+#include "widgets/FormRoom.h"
+#include "host/PrinterProperties.h"
 #include "ui_PrintDialog.h"
 
 #include <QApplication>

@@ -5,10 +5,10 @@
 
 #include "cups/CupsSupport.h"
 #include "cups/Scheduler.h"
-#include "properties/HostLocale.h"
+#include "host/HostLocale.h"
 #include "properties/PrintPropertiesDialog.h"
-#include "properties/Translation.h"
-#include "properties/WindowSystem.h"
+#include "host/Translation.h"
+#include "host/WindowSystem.h"
 
 #include <QApplication>
 #include <QPrintEngine>

@@ -5,7 +5,7 @@
 
 #include "cups/CupsSupport.h"
 #include "widgets/FormButtons.h"
-#include "properties/FormRoom.h"
+#include "widgets/FormRoom.h"
 #include "ui_ExtDialog.h"
 
 #include <QEvent>

@@ -3,7 +3,7 @@
 
 // The members of the dialog that give the form the size that it needs.
 
-#include "properties/FormRoom.h"
+#include "widgets/FormRoom.h"
 #include "properties/NumberField.h"
 #include "properties/PrintPropertiesDialogPrivate.h"
 

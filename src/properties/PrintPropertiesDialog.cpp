@@ -7,13 +7,13 @@
 #include "presets/DriverCommand.h"
 #include "presets/Preset.h"
 #include "presets/PresetScript.h"
-#include "properties/FormRoom.h"
+#include "widgets/FormRoom.h"
 #include "properties/ModelFamily.h"
 #include "properties/NumberField.h"
 #include "properties/Preview.h"
-#include "properties/PrinterProperties.h"
+#include "host/PrinterProperties.h"
 #include "properties/PrintPropertiesDialogPrivate.h"
-#include "properties/WheelGuard.h"
+#include "widgets/WheelGuard.h"
 
 #include <QAction>
 #include <QBitmap>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "properties/WindowSystem.h"
+#include "host/WindowSystem.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "properties/PrinterProperties.h"
+#include "host/PrinterProperties.h"
 
 #include "cups/CupsSupport.h"
 

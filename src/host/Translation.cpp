@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "properties/Translation.h"
+#include "host/Translation.h"
 
 #include "BuildConstants.h"
 
