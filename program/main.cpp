@@ -8,7 +8,7 @@
 
 #include "host/Translation.h"
 #include "host/WindowSystem.h"
-#include "widgets/FormButtons.h"
+#include "widgets/MessageBox.h"
 
 #include <PropertiesDialog/CupsSupport.h>
 #include <PropertiesDialog/PrintPropertiesDialog.h>
@@ -17,7 +17,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
-#include <QMessageBox>
 
 #include <cstdio>
 #include <optional>
@@ -60,16 +59,15 @@ int complain(const QString &what)
     return impossible;
 }
 
-int showMessage(QMessageBox::Icon icon, const QString &text, QMessageBox::StandardButtons buttons)
+QMessageBox::StandardButton showMessage(QMessageBox::Icon icon, const QString &text,
+                                        QMessageBox::StandardButtons buttons = QMessageBox::Ok)
 {
-    QMessageBox box(icon, Program::tr("Label Printer Properties"), text, buttons);
-    FormButtons::keepIconsBesideTexts(box);
-    return box.exec();
+    return MessageBox::show(icon, Program::tr("Label Printer Properties"), text, buttons);
 }
 
 int complainInWindow(const QString &what)
 {
-    showMessage(QMessageBox::Warning, what, QMessageBox::Ok);
+    showMessage(QMessageBox::Warning, what);
     return impossible;
 }
 

@@ -4,9 +4,9 @@
 #include "presets/Preset.h"
 
 #include "presets/PresetScript.h"
+#include "widgets/MessageBox.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 
 #include <algorithm>
 #include <utility>
@@ -324,9 +324,8 @@ bool Preset::save(const QStringList &defaults)
     if (d->state < Modified || d->fileName.isEmpty())
         return true;
     if (d->index >= 0) {
-        QMessageBox::warning(nullptr, QCoreApplication::translate("Preset", "Warning"),
-                             QCoreApplication::translate("Preset", "%1 cannot be modified.").arg(name()),
-                             QMessageBox::Ok);
+        MessageBox::show(QMessageBox::Warning, QCoreApplication::translate("Preset", "Warning"),
+                         QCoreApplication::translate("Preset", "%1 cannot be modified.").arg(name()));
         load();
         return false;
     }

@@ -5,10 +5,10 @@
 
 #include "presets/Preset.h"
 #include "presets/PresetScript.h"
+#include "widgets/MessageBox.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QMessageBox>
 
 #include <algorithm>
 #include <map>
@@ -126,9 +126,8 @@ Preset *Presets::deletePreset(Preset *preset)
     if (!preset)
         return nullptr;
     if (preset->index() >= 0) {
-        QMessageBox::warning(nullptr, QCoreApplication::translate("Presets", "Warning"),
-                             QCoreApplication::translate("Presets", "%1 cannot be deleted.").arg(preset->name()),
-                             QMessageBox::Ok);
+        MessageBox::show(QMessageBox::Warning, QCoreApplication::translate("Presets", "Warning"),
+                         QCoreApplication::translate("Presets", "%1 cannot be deleted.").arg(preset->name()));
         return preset;
     }
     if (preset->state() == Preset::Deleted)

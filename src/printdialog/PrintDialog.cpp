@@ -4,17 +4,17 @@
 #include "printdialog/PrintDialog.h"
 
 #include "cups/CupsSupport.h"
-#include "widgets/FormButtons.h"
-#include "widgets/FormRoom.h"
 #include "host/PrinterProperties.h"
 #include "ui_PrintDialog.h"
+#include "widgets/FormButtons.h"
+#include "widgets/FormRoom.h"
+#include "widgets/MessageBox.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QIcon>
 #include <QList>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPageLayout>
 #include <QPixmapCache>
 #include <QPrinter>
@@ -336,9 +336,9 @@ void PrintDialog::on_yesButton_2_clicked()
     }
     const QString question =
         tr("Do you want to change the current printer to \n") + d->ui.cboPrinterName->currentText() + tr(" ?");
-    QMessageBox box(QMessageBox::Warning, tr("Printer Change"), question, QMessageBox::Yes | QMessageBox::No, this);
-    FormButtons::keepIconsBesideTexts(box);
-    if (box.exec() != QMessageBox::Yes || !d->turnToShownPrinter()) {
+    const auto answer =
+        MessageBox::show(QMessageBox::Warning, tr("Printer Change"), question, QMessageBox::Yes | QMessageBox::No, this);
+    if (answer != QMessageBox::Yes || !d->turnToShownPrinter()) {
         reject();
         return;
     }

@@ -4,6 +4,8 @@
 #ifndef PRESETFILES_H
 #define PRESETFILES_H
 
+#include "Pictures.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
@@ -100,6 +102,8 @@ public:
             m_texts << box->text();
             m_areWarnings = m_areWarnings && box->icon() == QMessageBox::Warning && !box->parent()
                             && box->standardButtons() == QMessageBox::Ok;
+            if (box->isRightToLeft())
+                examine(box->button(QMessageBox::Ok));
             box->button(QMessageBox::Ok)->click();
         });
         m_timer.start(1);
@@ -109,12 +113,23 @@ public:
     QStringList texts() const { return m_texts; }
     /** Whether all of them were warnings without a parent and with the one button. */
     bool areWarnings() const { return m_areWarnings; }
+    /** Whether those from right to left had the icons of their buttons beside the texts. */
+    bool areButtonsWhole() const { return m_areButtonsWhole; }
 
 private:
+    void examine(QAbstractButton *button)
+    {
+        m_timer.stop(); // while events are processed
+        button->setFixedWidth(200);
+        m_areButtonsWhole = m_areButtonsWhole && isTogether(button);
+        m_timer.start();
+    }
+
     QTimer m_timer;
     QStringList m_titles;
     QStringList m_texts;
     bool m_areWarnings = true;
+    bool m_areButtonsWhole = true;
 };
 
 /** For its time, every translated text is its context and itself. */

@@ -138,6 +138,7 @@ private Q_SLOTS:
     void deleteOnly();
     void deleteBuiltIn();
     void warningIsTranslated();
+    void warningInArabic();
 
     void saveWritesChanged();
     void saveSkipsUnknownState();
@@ -603,6 +604,21 @@ void PresetsTest::warningIsTranslated()
     presets.deletePreset(presets.addPreset(newPreset("", "<Current Settings>", 0)));
     QCOMPARE(boxes.titles(), QStringList{"Presets::Warning"});
     QCOMPARE(boxes.texts(), QStringList{"Presets::<Current Settings> cannot be deleted."});
+}
+
+void PresetsTest::warningInArabic()
+{
+    QApplication::setStyle(new StyleWithIcons);
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    Presets presets("LP1");
+    Preset *builtIn = presets.addPreset(newPreset("Wide", "<Current Settings>", 0));
+    builtIn->setOptions({"Darkness", "1"});
+    const PresetFiles::BoxCloser boxes;
+    presets.deletePreset(builtIn);
+    builtIn->save({});
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(boxes.texts().size(), 2);
+    QVERIFY(boxes.areButtonsWhole());
 }
 
 // ----- save -----

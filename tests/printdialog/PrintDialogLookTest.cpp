@@ -55,7 +55,7 @@ private:
 
 void PrintDialogLookTest::initTestCase()
 {
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new StyleWithIcons);
     QApplication::setFont(QFont("DejaVu Sans", 9));
     scheduler.addQueue("A", PrivateScheduler::samplePpd("label-203"), "Desk", "Hall 1");
     scheduler.setServerDefault("A");

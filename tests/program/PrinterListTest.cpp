@@ -57,6 +57,7 @@ void PrinterListTest::textsAreWholeWhereTheScreenHasRoom()
 
 void PrinterListTest::buttonsKeepIconAndTextInArabic()
 {
+    QApplication::setStyle(new StyleWithIcons);
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     const CupsSupport cups;
     PrinterList list(cups, "LP", QString());

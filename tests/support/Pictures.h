@@ -8,9 +8,26 @@
 #include <QCoreApplication>
 #include <QImage>
 #include <QPixmap>
+#include <QProxyStyle>
 
 #include <algorithm>
 #include <cstdlib>
+
+/** Fusion with icons on the buttons of dialogs, as on most desktops; without a desktop it has none. */
+class StyleWithIcons : public QProxyStyle
+{
+public:
+    StyleWithIcons()
+        : QProxyStyle(QStringLiteral("Fusion"))
+    {
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *result) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 1 : QProxyStyle::styleHint(hint, option, widget, result);
+    }
+};
 
 inline QImage picture(QWidget *widget)
 {
@@ -40,12 +57,12 @@ inline int widestGap(QAbstractButton *button)
     return last < 0 ? -1 : gap;
 }
 
-/** Whether icon and text of a button stand side by side. */
+/** Whether a button has an icon and a text, side by side. */
 inline bool isTogether(QAbstractButton *button)
 {
     constexpr int closeEnough = 12; // pixels; less than two letters
     const int gap = widestGap(button);
-    return gap > 0 && gap < closeEnough;
+    return !button->icon().isNull() && gap > 0 && gap < closeEnough;
 }
 
 #endif

@@ -19,6 +19,7 @@ private Q_SLOTS:
 
 void PasswordDialogTest::buttonsKeepIconAndTextInArabic()
 {
+    QApplication::setStyle(new StyleWithIcons);
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     PasswordDialog dialog(nullptr, "user", false);
     dialog.show();
