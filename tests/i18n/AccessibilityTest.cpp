@@ -190,6 +190,7 @@ void AccessibilityTest::controlsHaveNameAndRole_data()
     QTest::newRow("print") << "print" << 11; // also those of the other form
     QTest::newRow("question") << "question" << 11;
     QTest::newRow("offset") << "offset" << 3;
+    QTest::newRow("password") << "password" << 4;
 }
 
 void AccessibilityTest::controlsHaveNameAndRole()
@@ -242,6 +243,8 @@ void AccessibilityTest::controlIsRead_data()
     row("numCopies_2", "Number of Copies:");
     row("numCopies", "Number of Copies:");
     row("offset", "Offset:");
+    row("userEdit", "User name:");
+    row("passwordEdit", "Password:");
 }
 
 void AccessibilityTest::controlIsRead()
@@ -438,7 +441,7 @@ void AccessibilityTest::textsStandOut_data()
 {
     QTest::addColumn<QString>("window");
     QTest::addColumn<QPalette>("palette");
-    for (const char *window : {"properties", "print", "question", "offset"}) {
+    for (const char *window : {"properties", "print", "question", "offset", "password"}) {
         QTest::addRow("%s dark", window) << window << darkPalette();
         QTest::addRow("%s light", window) << window << QApplication::style()->standardPalette();
     }

@@ -5,6 +5,7 @@
 #define ALLDIALOGS_H
 
 #include "OpenDialog.h"
+#include "widgets/PasswordDialog.h"
 
 #include <PropertiesDialog/ExtDialog.h>
 #include <PropertiesDialog/PrintDialog.h>
@@ -28,6 +29,7 @@ struct AllDialogs
         print = std::make_unique<PrintDialog>(nullptr, &printer, &cups);
         question = std::make_unique<PrintDialog>(nullptr);
         offset = std::make_unique<ExtDialog>(nullptr, &cups);
+        password = std::make_unique<PasswordDialog>(nullptr, "user", true);
     }
 
     /** All of them, by a name for test rows and messages. */
@@ -36,7 +38,8 @@ struct AllDialogs
         return {{"properties", properties.get()},
                 {"print", print.get()},
                 {"question", question.get()},
-                {"offset", offset.get()}};
+                {"offset", offset.get()},
+                {"password", password.get()}};
     }
 
     QPrinter printer{QPrinter::ScreenResolution};
@@ -45,6 +48,7 @@ struct AllDialogs
     std::unique_ptr<PrintDialog> print;
     std::unique_ptr<PrintDialog> question; ///< The short form, which asks whether to change the printer.
     std::unique_ptr<ExtDialog> offset;
+    std::unique_ptr<PasswordDialog> password;
 };
 
 #endif
