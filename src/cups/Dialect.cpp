@@ -5,6 +5,7 @@
 
 #include "cups/CLocale.h"
 #include "cups/CupsSupport.h"
+#include "cups/Units.h"
 
 #include <QtGlobal>
 
@@ -43,8 +44,6 @@ struct DriverValue
     Condition first;
     Condition second;
 };
-
-constexpr double millimetresPerInch = 25.4;
 
 } // namespace
 

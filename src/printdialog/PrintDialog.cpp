@@ -8,15 +8,13 @@
 #include "ui_PrintDialog.h"
 #include "widgets/FormButtons.h"
 #include "widgets/FormRoom.h"
+#include "widgets/Icons.h"
 #include "widgets/MessageBox.h"
 
-#include <QApplication>
 #include <QEvent>
-#include <QIcon>
 #include <QList>
 #include <QLocale>
 #include <QPageLayout>
-#include <QPixmapCache>
 #include <QPrinter>
 #include <QShowEvent>
 #include <QStyle>
@@ -77,25 +75,6 @@ void showText(QLabel *label, const QString &text)
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
     label->setToolTip(text.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()));
-}
-
-// Gives the button the style's icon, in one size, and keeps it as long as nothing changes: without an icon theme,
-// styles decode their icons in all sizes, which would take a quarter of an opening's time.
-void showStyleIcon(QAbstractButton *button, QStyle::StandardPixmap icon)
-{
-    const QStyle *style = button->style();
-    const QString key = QStringLiteral("PropertiesDialog %1 %2 %3 %4 %5 %6")
-                            .arg(QLatin1String(style->metaObject()->className()), QIcon::themeName())
-                            .arg(icon)
-                            .arg(button->iconSize().width())
-                            .arg(qApp->devicePixelRatio())
-                            .arg(QGuiApplication::palette().cacheKey());
-    QPixmap pixmap;
-    if (!QPixmapCache::find(key, &pixmap)) {
-        pixmap = style->standardIcon(icon).pixmap(button->iconSize());
-        QPixmapCache::insert(key, pixmap);
-    }
-    button->setIcon(QIcon(pixmap));
 }
 
 // The properties of a QPrinter that depend on its queue.
@@ -336,8 +315,8 @@ void PrintDialog::on_yesButton_2_clicked()
     }
     const QString question =
         tr("Do you want to change the current printer to \n") + d->ui.cboPrinterName->currentText() + tr(" ?");
-    const auto answer =
-        MessageBox::show(QMessageBox::Warning, tr("Printer Change"), question, QMessageBox::Yes | QMessageBox::No, this);
+    const auto answer = MessageBox::show(QMessageBox::Warning, tr("Printer Change"), question,
+                                         QMessageBox::Yes | QMessageBox::No, this);
     if (answer != QMessageBox::Yes || !d->turnToShownPrinter()) {
         reject();
         return;
@@ -378,8 +357,8 @@ void PrintDialog::cbo_Printers_change(int index)
 void PrintDialog::Private::setUp(QWidget *page, QPushButton *yesButton, QPushButton *noButton)
 {
     ui.stackedWidget->setCurrentWidget(page);
-    showStyleIcon(yesButton, QStyle::SP_DialogYesButton);
-    showStyleIcon(noButton, QStyle::SP_DialogNoButton);
+    Icons::showStyleIcon(yesButton, QStyle::SP_DialogYesButton);
+    Icons::showStyleIcon(noButton, QStyle::SP_DialogNoButton);
     FormButtons::keepIconsBesideTexts(*q);
     yesButton->setDefault(true); // otherwise Qt would give Enter to Properties
     // In Arabic and others, the box would have other digits than all other numbers.

@@ -4,6 +4,7 @@
 #include "properties/DriverForm.h"
 
 #include "cups/Rounding.h"
+#include "cups/Units.h"
 #include "properties/LabelSettings.h"
 #include "properties/ModelFamily.h"
 #include "properties/NumberField.h"
@@ -21,9 +22,6 @@
 #include <vector>
 
 namespace {
-
-constexpr double millimetresPerInch = 25.4;
-constexpr double pointsPerInch = 72.0;
 
 constexpr QRgb conflictColour = 0xffc01c28; // dark red; readable on light and on dark
 const QString leftText = QStringLiteral("\u2013"); // instead of a number that the printer decides

@@ -49,15 +49,13 @@ void PrintPropertiesDialog::Private::makeRoom()
     widenFields();
     ui.tabs->setUsesScrollButtons(false); // so that the style tells what room all tabs need
     // With the most rows, so that the window stays as it is when the media type changes.
-    showMediaRows(CupsSupport::LabelsWithMarks);
-    showWidestGapLabels();
+    media.showMost();
     const int available = q->screen()->availableGeometry().height() - titleBarHeight;
     QSize needed = tightenedSize();
     if (needed.height() > available && scrollPages())
         needed = neededSize();
     const QSize size = formSize.expandedTo(needed).boundedTo(QSize(QWIDGETSIZE_MAX, available));
-    showMediaRows(shownMediaType);
-    showGapLabels(shownMediaType);
+    media.showRows(media.shownType());
     q->setFixedSize(size);
 }
 

@@ -5,13 +5,12 @@
 
 #include "cups/DriverSettings.h"
 #include "cups/Rounding.h"
+#include "cups/Units.h"
 #include "properties/ModelFamily.h"
 
 #include <cmath>
 
 namespace {
-
-constexpr double millimetresPerInch = 25.4;
 
 // How a value is converted from the option to the form and back.
 

@@ -4,6 +4,7 @@
 #include "properties/NumberField.h"
 
 #include "cups/Rounding.h"
+#include "cups/Units.h"
 #include "properties/DoubleValidator.h"
 
 #include <QClipboard>
@@ -20,7 +21,6 @@
 namespace {
 
 constexpr int decimals = 2;
-constexpr double millimetresPerInch = 25.4;
 
 // Every number that a line edit shows goes through this.
 const QString numberFormat = QStringLiteral("%1");

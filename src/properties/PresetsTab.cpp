@@ -3,6 +3,7 @@
 
 // The members of the dialog that work with presets: the Presets tab, and the list on the Page Setup tab.
 
+#include "cups/Units.h"
 #include "presets/DriverCommand.h"
 #include "presets/Preset.h"
 #include "properties/PrintPropertiesDialogPrivate.h"
@@ -13,7 +14,6 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <utility>
 
 namespace {
 
@@ -39,6 +39,14 @@ bool shows(const QComboBox *list, const QStringList &names)
 }
 
 } // namespace
+
+void PrintPropertiesDialog::Private::createPresets()
+{
+    presets.addPreset(new Preset(queueName, QString(), cups->cupsOptions(), QStringLiteral("<Current Settings>"),
+                                 QObject::tr("This preset contains this driver's current settings."), 0));
+    presets.addPreset(new Preset(queueName, QString(), QStringList(), QStringLiteral("<Default Settings>"),
+                                 QObject::tr("This preset contains this driver's original default settings."), 1));
+}
 
 bool PrintPropertiesDialog::updatePresets()
 {
@@ -131,7 +139,6 @@ void PrintPropertiesDialog::setCupsOptions(Preset *preset)
 // A driver without label settings has no command either, and no list of its own in the presets.
 void PrintPropertiesDialog::Private::takePageSize(Preset &preset)
 {
-    constexpr double pointsPerInch = 72.0;
     const QSizeF size = preset.getUserPageSize();
     const bool isCurrent = preset.index() == 0;
     if (driver.kind() == DriverSettings::Kind::None && !(isCurrent && size.isEmpty()))
@@ -168,8 +175,10 @@ void PrintPropertiesDialog::Private::showPresetNote(Preset *preset)
     QStringList names;
     if (preset && cups) {
         const QStringList keywords = preset->valuesNotHeld(cups->cupsOptions(), cups->ppdDefaults());
-        for (const QString &keyword : keywords)
-            names << settingName(keyword);
+        for (const QString &keyword : keywords) {
+            const QString command = commands.name(keyword); // only user commands can contain any text
+            names << (command.isNull() ? keyword : command);
+        }
     }
     const QString note = names.isEmpty() ? QString()
                                          : PrintPropertiesDialog::tr(
@@ -180,21 +189,6 @@ void PrintPropertiesDialog::Private::showPresetNote(Preset *preset)
     presetNote->setToolTip(note);
     ui.preset1->setToolTip(note);
     describe(ui.preset1, note);
-}
-
-// Only user commands can contain any text.
-QString PrintPropertiesDialog::Private::settingName(const QString &keyword) const
-{
-    const std::pair<QLatin1String, const QRadioButton *> commandNames[] = {
-        {QLatin1String("JobStart"), ui.jobStartRadioButton},
-        {QLatin1String("LabelStart"), ui.labelStartRadioButton},
-        {QLatin1String("LabelEnd"), ui.labelEndRadioButton},
-        {QLatin1String("JobEnd"), ui.jobEndRadioButton},
-    };
-    for (const auto &[command, radio] : commandNames)
-        if (keyword == command)
-            return radio->text();
-    return keyword;
 }
 
 void PrintPropertiesDialog::on_manageButton_clicked()
@@ -260,4 +254,37 @@ void PrintPropertiesDialog::on_descriptionEdit_textChanged()
         return;
     preset->setDescription(text);
     setChanged(true);
+}
+
+// ----- saving -----
+
+void PrintPropertiesDialog::Private::applyPageSize(const QSizeF &size)
+{
+    Preset *preset = presets.currentPreset();
+    if (!preset)
+        return;
+    preset->setUserPageSize(size);
+    if (size.width() > 0 && size.height() > 0)
+        DriverCommand::run(preset->ppdhack());
+}
+
+bool PrintPropertiesDialog::Private::savePresets(const QSizeF &size, const QStringList &defaults)
+{
+    presets.dropMissing();
+    const bool areSaved = presets.save(defaults);
+    const bool isCurrentSaved = !printer || !cups || saveCurrentSettings(size, defaults);
+    q->setChanged(false);
+    arePresetsSaved = areSaved && isCurrentSaved;
+    return arePresetsSaved;
+}
+
+// The settings last applied, to be applied again by running the script.
+bool PrintPropertiesDialog::Private::saveCurrentSettings(const QSizeF &size, const QStringList &defaults)
+{
+    Preset current(printer->printerName(), presets.currentFileName(), QStringList(), QString(), QString(), -1);
+    current.clearOptions();
+    current.setOptions(cups->cupsOptions());
+    current.setUserPageSize(size);
+    current.setState(Preset::Modified);
+    return current.save(defaults);
 }

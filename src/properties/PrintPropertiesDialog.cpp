@@ -4,68 +4,31 @@
 #include "properties/PrintPropertiesDialog.h"
 
 #include "BuildConstants.h"
-#include "presets/DriverCommand.h"
+#include "host/PrinterProperties.h"
 #include "presets/Preset.h"
 #include "presets/PresetScript.h"
-#include "widgets/FormRoom.h"
-#include "properties/ModelFamily.h"
 #include "properties/NumberField.h"
 #include "properties/Preview.h"
-#include "host/PrinterProperties.h"
 #include "properties/PrintPropertiesDialogPrivate.h"
+#include "widgets/FormRoom.h"
+#include "widgets/Icons.h"
 #include "widgets/WheelGuard.h"
 
 #include <QAction>
-#include <QBitmap>
-#include <QFile>
-#include <QFileInfo>
 #include <QKeyEvent>
-#include <QPixmapCache>
 #include <QPrinter>
 #include <QShowEvent>
 #include <QSignalBlocker>
 #include <QStyle>
-#include <QTextDocument>
 #include <QValidator>
 
-#include <algorithm>
 #include <initializer_list>
 #include <optional>
-#include <utility>
 
 namespace {
 
-constexpr double pointsPerInch = 72.0;
 constexpr ModelFamily::Inches pageSizeRange{0.2, 1200.0};
 constexpr double previewSide = 1200.0; // the preview is square whatever the page size
-
-// The fields of labels with gaps double as those of labels with marks.
-struct GapFields
-{
-    LabelSettings::Length size;
-    LabelSettings::Length offset;
-};
-
-std::optional<GapFields> gapFieldsOf(int mediaType)
-{
-    switch (mediaType) {
-    case CupsSupport::LabelsWithGaps:
-        return GapFields{&LabelSettings::gapSize, &LabelSettings::gapOffset};
-    case CupsSupport::LabelsWithMarks:
-        return GapFields{&LabelSettings::markSize, &LabelSettings::markOffset};
-    default:
-        return std::nullopt;
-    }
-}
-
-// Whether the host application is set up so that the user page size always applies.
-bool probeHostSettings()
-{
-    const QString path = qEnvironmentVariable("HOME") + QStringLiteral("/.gconf/apps/Dashvane/%gconf.xml");
-    QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)
-           && file.readAll().contains("<stringvalue>adobe</stringvalue>");
-}
 
 void showStep(QSlider *slider, QLabel *label, std::optional<int> value)
 {
@@ -78,12 +41,6 @@ void showStep(QSlider *slider, QLabel *label, std::optional<int> value)
 void setRange(QSlider *slider, const ModelFamily::Steps &range)
 {
     slider->setRange(range.minimum, range.maximum);
-}
-
-void showAll(std::initializer_list<QWidget *> widgets, bool isVisible)
-{
-    for (QWidget *widget : widgets)
-        widget->setVisible(isVisible);
 }
 
 // Gives the queue's presets the keywords of its driver, which must happen before any is read. Returns the queue's name.
@@ -99,20 +56,6 @@ const ModelFamily &familyOf(const QString &queueName, const DriverSettings &driv
     return ModelFamily::of(driver.isForeign() ? QString() : queueName);
 }
 
-// Cutting the picture out of its background takes longer than loading the settings, so the result is kept.
-QIcon maskedIcon()
-{
-    const QString file = QStringLiteral(":/b/printer.png");
-    const QString key = QStringLiteral("PropertiesDialog masked ") + file;
-    QPixmap icon;
-    if (!QPixmapCache::find(key, &icon)) {
-        icon.load(file);
-        icon.setMask(icon.createHeuristicMask(true));
-        QPixmapCache::insert(key, icon);
-    }
-    return QIcon(icon);
-}
-
 } // namespace
 
 // ----- construction -----
@@ -124,8 +67,10 @@ PrintPropertiesDialog::Private::Private(PrintPropertiesDialog *dialog, QPrinter 
     , driver(*cups)
     , queueName(printer->printerName())
     , family(familyOf(queueName, driver))
-    , forceCustomStock(probeHostSettings())
     , form(*dialog, ui, driver)
+    , pageSize(ui, driver)
+    , media(ui, family)
+    , commands(ui)
     , presets(withOptionNames(queueName, driver))
 {
     createPresets();
@@ -146,7 +91,7 @@ PrintPropertiesDialog::PrintPropertiesDialog(QWidget *parent, QPrinter *printer,
     setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint
                    | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
     d->showOwnTexts();
-    setWindowIcon(maskedIcon());
+    setWindowIcon(Icons::masked(QStringLiteral(":/b/printer.png")));
     d->ui.helpButton->hide();
     d->ui.tabs->setCurrentIndex(0);
     d->hideUnusedRows();
@@ -170,8 +115,9 @@ void PrintPropertiesDialog::Private::turnToPrinter()
     arePresetsSaved = true;
     createPresets();
     // Loading may leave these fields unchanged.
-    for (QLineEdit *edit : {ui.widthEdit, ui.heightEdit, ui.gapSize, ui.gapOffset})
-        edit->clear();
+    pageSize.clearFields();
+    ui.gapSize->clear();
+    ui.gapOffset->clear();
     showOwnTexts();
     fitToPrinter();
     makeRoom();
@@ -183,15 +129,7 @@ void PrintPropertiesDialog::Private::fitToPrinter()
     fillLists();
     form.restrictFields();
     form.describeFields();
-    q->on_mediaType_currentIndexChanged(cups->getCategory());
-}
-
-void PrintPropertiesDialog::Private::createPresets()
-{
-    presets.addPreset(new Preset(queueName, QString(), cups->cupsOptions(), QStringLiteral("<Current Settings>"),
-                                 QObject::tr("This preset contains this driver's current settings."), 0));
-    presets.addPreset(new Preset(queueName, QString(), QStringList(), QStringLiteral("<Default Settings>"),
-                                 QObject::tr("This preset contains this driver's original default settings."), 1));
+    showMediaType(cups->getCategory());
 }
 
 void PrintPropertiesDialog::Private::createValidators()
@@ -228,9 +166,10 @@ void PrintPropertiesDialog::Private::fillLists()
 // The print method and the start position are never used; backfeed and overlap are carried from load to save.
 void PrintPropertiesDialog::Private::hideUnusedRows()
 {
-    showAll({ui.printMethodLabel, ui.printMethod, ui.backLabel, ui.back, ui.backUnits, ui.overlapLabel, ui.overlap,
-             ui.overlapUnits, ui.start, ui.startLabel, ui.startUnits},
-            false);
+    for (QWidget *widget : std::initializer_list<QWidget *>{ui.printMethodLabel, ui.printMethod, ui.backLabel, ui.back,
+                                                            ui.backUnits, ui.overlapLabel, ui.overlap, ui.overlapUnits,
+                                                            ui.start, ui.startLabel, ui.startUnits})
+        widget->hide();
 }
 
 // The texts that replace the form's.
@@ -238,7 +177,7 @@ void PrintPropertiesDialog::Private::showOwnTexts()
 {
     q->setWindowTitle(QObject::tr("%1 Printing Preferences").arg(printer ? printer->printerName() : QString()));
     showStopLabel();
-    showGapLabels(ui.mediaType->currentIndex());
+    media.showLabels();
     preview->setAccessibleName(ui.previewGroupBox->title());
     ui.aboutVersionLabel->setText(PrintPropertiesDialog::tr("Version %1").arg(BuildConstants::version));
     ui.aboutDateLabel->setText(PrintPropertiesDialog::tr("%1").arg(BuildConstants::releaseDate));
@@ -250,28 +189,6 @@ void PrintPropertiesDialog::Private::showStopLabel()
                                                : PrintPropertiesDialog::tr("Stop Position"));
 }
 
-void PrintPropertiesDialog::Private::showGapLabels(int mediaType)
-{
-    if (mediaType == CupsSupport::LabelsWithGaps) {
-        ui.gapSizeLabel->setText(PrintPropertiesDialog::tr("Gap Size"));
-        ui.gapOffsetLabel->setText(PrintPropertiesDialog::tr("Gap Offset"));
-    } else if (mediaType == CupsSupport::LabelsWithMarks) {
-        ui.gapSizeLabel->setText(PrintPropertiesDialog::tr("Black Mark Size"));
-        ui.gapOffsetLabel->setText(PrintPropertiesDialog::tr("Black Mark Offset"));
-    }
-}
-
-void PrintPropertiesDialog::Private::showWidestGapLabels()
-{
-    showGapLabels(CupsSupport::LabelsWithGaps);
-    const QString size = ui.gapSizeLabel->text();
-    const QString offset = ui.gapOffsetLabel->text();
-    showGapLabels(CupsSupport::LabelsWithMarks);
-    for (const auto &[label, other] : {std::pair(ui.gapSizeLabel, size), std::pair(ui.gapOffsetLabel, offset)})
-        if (label->fontMetrics().horizontalAdvance(other) > label->fontMetrics().horizontalAdvance(label->text()))
-            label->setText(other);
-}
-
 // The texts of screen readers for the preview and for the field whose meaning depends on the chosen radio button.
 void PrintPropertiesDialog::Private::describeFields()
 {
@@ -281,15 +198,9 @@ void PrintPropertiesDialog::Private::describeFields()
         QT_TRANSLATE_NOOP("PrintPropertiesDialog", "Orientation: %1, negative"),
         QT_TRANSLATE_NOOP("PrintPropertiesDialog", "Orientation: %1, mirrored and negative"),
     };
-    const QRadioButton *const orientations[] = {ui.portraitRadioButton, ui.landscapeRadioButton,
-                                                ui.landscape180RadioButton, ui.portrait180RadioButton};
     const int effects = (preview->mirror ? 1 : 0) + (preview->negative ? 2 : 0);
-    describe(preview, PrintPropertiesDialog::tr(texts[effects])
-                          .arg(orientations[preview->orientation - CupsSupport::Portrait]->text()));
-
-    const QRadioButton *const radios[] = {ui.jobStartRadioButton, ui.labelStartRadioButton, ui.labelEndRadioButton,
-                                          ui.jobEndRadioButton};
-    describe(ui.commandEdit, radios[commandSlot]->text());
+    describe(preview, PrintPropertiesDialog::tr(texts[effects]).arg(orientationButton(preview->orientation)->text()));
+    describe(ui.commandEdit, commands.selectedName());
 }
 
 // Setting a description, even to the same text, makes Qt search the disk for plug-ins.
@@ -322,19 +233,9 @@ void PrintPropertiesDialog::updateDialog()
 
 void PrintPropertiesDialog::Private::showPageSize()
 {
-    for (const auto &[edit, text] : pageSizeTexts())
-        edit->setText(text);
     Preset *preset = presets.currentPreset();
-    const QSizeF size = preset && !driver.isForeign() ? preset->getUserPageSize() : QSizeF();
-    ui.stockGroupBox->setChecked(forceCustomStock || !userPageSizeOption().isEmpty()
-                                 || (size.width() > 0 && size.height() > 0));
-    loadedPageSize = userPageSize();
-}
-
-// In points. Our own drivers are given the size by their command.
-QSizeF PrintPropertiesDialog::Private::userPageSizeOption() const
-{
-    return driver.kind() == DriverSettings::Kind::Own ? QSizeF() : driver.userPageSize();
+    // With other makes' drivers, the size is an option in presets too.
+    pageSize.show(cups, preset && !driver.isForeign() ? preset->getUserPageSize() : QSizeF());
 }
 
 void PrintPropertiesDialog::Private::showFamily()
@@ -347,22 +248,20 @@ void PrintPropertiesDialog::Private::showFamily()
 
 void PrintPropertiesDialog::Private::show(const LabelSettings &settings)
 {
-    showOrientation(settings.orientation.value_or(CupsSupport::Landscape));
+    orientationButton(settings.orientation.value_or(CupsSupport::Landscape))->setChecked(true);
     ui.mirroredCheckBox->setChecked(settings.mirror.value_or(false));
     ui.inverseCheckBox->setChecked(settings.inverse.value_or(false));
     showStep(ui.speedSlider, ui.speedValue, settings.speed);
     showStep(ui.darknessSlider, ui.darknessValue, settings.darkness);
-    const int category = settings.category ? *settings.category : -1;
-    ui.mediaType->setCurrentIndex(category);
-    q->on_mediaType_currentIndexChanged(category); // the index may be the one that was shown already
+    const int mediaType = settings.category ? *settings.category : MediaRows::noType;
+    media.showInList(mediaType);
+    showMediaType(mediaType); // the list may have shown it already, and there are types that it does not have
     ui.cut->setCurrentIndex(settings.cut                         ? ui.cut->findData(*settings.cut)
                             : driver.isLeftToPrinter("CutMedia") ? 0
                                                                  : -1);
     for (const auto &[edit, text] : numberTexts(settings))
         edit->setText(text);
-    for (std::size_t slot = 0; slot < commands.size(); ++slot)
-        commands[slot] = (settings.*LabelSettings::commands[slot]).value_or(QString());
-    showCommand();
+    commands.show(settings);
     form.showSteps();
 }
 
@@ -377,20 +276,10 @@ QList<QPair<QLineEdit *, QString>> PrintPropertiesDialog::Private::numberTexts(c
         {ui.horizontalEdit, NumberField::wholeText(settings.offsetH)},
         {ui.verticalEdit, NumberField::wholeText(settings.offsetV)},
     };
-    if (const auto fields = gapFieldsOf(shownMediaType))
-        texts << qMakePair(ui.gapSize, NumberField::inchesText(settings.*fields->size))
-              << qMakePair(ui.gapOffset, NumberField::inchesText(settings.*fields->offset));
+    if (const auto gap = MediaRows::gapOf(media.shownType()))
+        texts << qMakePair(ui.gapSize, NumberField::inchesText(settings.*gap->size))
+              << qMakePair(ui.gapOffset, NumberField::inchesText(settings.*gap->offset));
     return texts;
-}
-
-QList<QPair<QLineEdit *, QString>> PrintPropertiesDialog::Private::pageSizeTexts() const
-{
-    const QSizeF ofUser = userPageSizeOption();
-    const QSizeF points = !ofUser.isEmpty() ? ofUser : cups ? QSizeF(cups->getDefaultPageSize()) : QSizeF();
-    if (points.width() < 1 || points.height() < 1)
-        return {};
-    return {{ui.widthEdit, NumberField::inchesText(points.width() / pointsPerInch)},
-            {ui.heightEdit, NumberField::inchesText(points.height() / pointsPerInch)}};
 }
 
 // A field without a number leaves its option unchanged, so it shows the option again. With other makes' drivers an
@@ -400,7 +289,7 @@ void PrintPropertiesDialog::Private::fillEmptyFields()
     if (!cups || driver.isForeign())
         return;
     const bool wasChanged = changed;
-    for (const auto &[edit, text] : numberTexts(LabelSettings::read(*cups, driver)) + pageSizeTexts())
+    for (const auto &[edit, text] : numberTexts(LabelSettings::read(*cups, driver)) + pageSize.texts(cups))
         if (!NumberField::number(edit))
             edit->setText(text);
     loaded = shown();
@@ -416,11 +305,12 @@ LabelSettings PrintPropertiesDialog::Private::shown() const
     settings.speed = driver.isForeign() ? DriverForm::step(ui.speedValue) : ui.speedSlider->value();
     settings.darkness = driver.isForeign() ? DriverForm::step(ui.darknessValue) : ui.darknessSlider->value();
     // A stored media type or cut that its list does not have is kept.
-    if (ui.mediaType->currentIndex() >= 0)
-        settings.category = static_cast<CupsSupport::_Category>(ui.mediaType->currentIndex());
-    if (const auto fields = gapFieldsOf(ui.mediaType->currentIndex())) {
-        settings.*fields->size = NumberField::number(ui.gapSize);
-        settings.*fields->offset = NumberField::number(ui.gapOffset);
+    const int mediaType = media.listedType();
+    if (mediaType != MediaRows::noType)
+        settings.category = static_cast<CupsSupport::_Category>(mediaType);
+    if (const auto gap = MediaRows::gapOf(mediaType)) {
+        settings.*gap->size = NumberField::number(ui.gapSize);
+        settings.*gap->offset = NumberField::number(ui.gapOffset);
     }
     if (ui.cut->currentData().isValid())
         settings.cut = ui.cut->currentData().toInt();
@@ -428,27 +318,24 @@ LabelSettings PrintPropertiesDialog::Private::shown() const
     settings.back = NumberField::whole(ui.back);
     settings.overlap = NumberField::whole(ui.overlap);
     settings.*family.stopField() = NumberField::number(ui.stop);
-    for (std::size_t slot = 0; slot < commands.size(); ++slot)
-        settings.*LabelSettings::commands[slot] = commands[slot];
+    commands.copyTo(settings);
     settings.offsetH = NumberField::rounded(ui.horizontalEdit);
     settings.offsetV = NumberField::rounded(ui.verticalEdit);
     return settings;
 }
 
-void PrintPropertiesDialog::Private::showOrientation(int code)
+// The radio button of this orientation; that of landscape for any other code.
+QRadioButton *PrintPropertiesDialog::Private::orientationButton(int code) const
 {
     switch (code) {
     case CupsSupport::Portrait:
-        ui.portraitRadioButton->setChecked(true);
-        break;
+        return ui.portraitRadioButton;
     case CupsSupport::ReverseLandscape:
-        ui.landscape180RadioButton->setChecked(true);
-        break;
+        return ui.landscape180RadioButton;
     case CupsSupport::ReversePortrait:
-        ui.portrait180RadioButton->setChecked(true);
-        break;
+        return ui.portrait180RadioButton;
     default:
-        ui.landscapeRadioButton->setChecked(true);
+        return ui.landscapeRadioButton;
     }
 }
 
@@ -465,7 +352,7 @@ void PrintPropertiesDialog::saveValues()
         defaults = d->cups->ppdDefaults();
     }
     // With other makes' drivers the page size is an option, and the presets carry it as such.
-    const QSizeF size = d->driver.isForeign() ? QSizeF(0.0, 0.0) : d->userPageSize();
+    const QSizeF size = d->driver.isForeign() ? QSizeF(0.0, 0.0) : d->pageSize.size();
     d->applyPageSize(size);
     if (d->changed || !d->arePresetsSaved)
         d->isSaved = d->savePresets(size, defaults) && d->isSaved;
@@ -480,7 +367,7 @@ bool PrintPropertiesDialog::Private::saveOptions()
 {
     storeFields();
     loaded = shown();
-    loadedPageSize = userPageSize();
+    pageSize.setUnchanged();
     const bool isStored = cups->setDests() == 0;
     showStored();
     return isStored;
@@ -501,7 +388,7 @@ void PrintPropertiesDialog::Private::storeFields()
         settings.orientation = all.orientation; // an option of the job, which no driver has a default for
     settings.write(*cups);
     form.leaveToPrinter(driver, loaded, all);
-    savePageSize();
+    pageSize.store();
 }
 
 // What saving would store, without storing it.
@@ -527,14 +414,6 @@ void PrintPropertiesDialog::Private::markConflicts()
         form.markConflicts(Conflicts::among(*cups, optionsOfFields()));
 }
 
-// Our own drivers are given the page size by their command.
-void PrintPropertiesDialog::Private::savePageSize()
-{
-    const QSizeF size = userPageSize();
-    if (driver.kind() != DriverSettings::Kind::Own && size != loadedPageSize)
-        driver.setUserPageSize(size * pointsPerInch);
-}
-
 // Another make's driver has the choice nearest to the typed size.
 void PrintPropertiesDialog::Private::showStored()
 {
@@ -547,45 +426,6 @@ void PrintPropertiesDialog::Private::showStored()
     loaded = shown();
     fillingFields = false;
     q->setChanged(wasChanged);
-}
-
-// In inches; 0 by 0 when there is none.
-QSizeF PrintPropertiesDialog::Private::userPageSize() const
-{
-    const std::optional<double> width = NumberField::number(ui.widthEdit);
-    const std::optional<double> height = NumberField::number(ui.heightEdit);
-    return ui.stockGroupBox->isChecked() && width && height ? QSizeF(*width, *height) : QSizeF(0.0, 0.0);
-}
-
-void PrintPropertiesDialog::Private::applyPageSize(const QSizeF &size)
-{
-    Preset *preset = presets.currentPreset();
-    if (!preset)
-        return;
-    preset->setUserPageSize(size);
-    if (size.width() > 0 && size.height() > 0)
-        DriverCommand::run(preset->ppdhack());
-}
-
-bool PrintPropertiesDialog::Private::savePresets(const QSizeF &size, const QStringList &defaults)
-{
-    presets.dropMissing();
-    const bool areSaved = presets.save(defaults);
-    const bool isCurrentSaved = !printer || !cups || saveCurrentSettings(size, defaults);
-    q->setChanged(false);
-    arePresetsSaved = areSaved && isCurrentSaved;
-    return arePresetsSaved;
-}
-
-// The settings last applied, to be applied again by running the script.
-bool PrintPropertiesDialog::Private::saveCurrentSettings(const QSizeF &size, const QStringList &defaults)
-{
-    Preset current(printer->printerName(), presets.currentFileName(), QStringList(), QString(), QString(), -1);
-    current.clearOptions();
-    current.setOptions(cups->cupsOptions());
-    current.setUserPageSize(size);
-    current.setState(Preset::Modified);
-    return current.save(defaults);
 }
 
 void PrintPropertiesDialog::setChanged(bool value)
@@ -637,12 +477,9 @@ bool PrintPropertiesDialog::getInt(const QLineEdit *edit, int *out) const
 
 CupsSupport::_CupsOrientation PrintPropertiesDialog::cups_orientation() const
 {
-    if (d->ui.landscapeRadioButton->isChecked())
-        return CupsSupport::Landscape;
-    if (d->ui.portrait180RadioButton->isChecked())
-        return CupsSupport::ReversePortrait;
-    if (d->ui.landscape180RadioButton->isChecked())
-        return CupsSupport::ReverseLandscape;
+    for (const auto code : {CupsSupport::Landscape, CupsSupport::ReversePortrait, CupsSupport::ReverseLandscape})
+        if (d->orientationButton(code)->isChecked())
+            return code;
     return CupsSupport::Portrait;
 }
 
@@ -691,9 +528,7 @@ void PrintPropertiesDialog::on_inverseCheckBox_toggled(bool) { d->previewChanged
 
 void PrintPropertiesDialog::on_stockGroupBox_toggled(bool bChecked)
 {
-    for (QWidget *widget : std::initializer_list<QWidget *>{d->ui.widthLabel, d->ui.widthEdit, d->ui.widthUnits,
-                                                            d->ui.heightLabel, d->ui.heightEdit, d->ui.heightUnits})
-        widget->setEnabled(bChecked);
+    d->pageSize.setFieldsEnabled(bChecked);
     setChanged(true);
 }
 
@@ -728,63 +563,36 @@ void PrintPropertiesDialog::on_horizontalEdit_textChanged(const QString &) { set
 void PrintPropertiesDialog::on_verticalEdit_textChanged(const QString &) { setChanged(true); }
 // clang-format on
 
-// The gap fields are also the black mark fields. A change of the media type fills them from the stored options and thus
-// discards what was typed into them.
 void PrintPropertiesDialog::on_mediaType_currentIndexChanged(int iIndex)
 {
-    d->showGapFields(iIndex);
-    d->showGapLabels(iIndex);
-    d->showMediaRows(iIndex);
-    d->shownMediaType = iIndex;
-    setChanged(true);
+    d->showMediaType(d->media.typeAt(iIndex));
 }
 
-void PrintPropertiesDialog::Private::showGapFields(int mediaType)
+// Fills the gap fields from the stored options and thus discards what was typed into them for another type.
+void PrintPropertiesDialog::Private::showMediaType(int type)
 {
-    const auto fields = gapFieldsOf(mediaType);
-    if (!cups || !fields)
+    showGap(type);
+    media.showRows(type);
+    q->setChanged(true);
+}
+
+void PrintPropertiesDialog::Private::showGap(int mediaType)
+{
+    const auto gap = MediaRows::gapOf(mediaType);
+    if (!cups || !gap)
         return;
     const LabelSettings stored = LabelSettings::read(*cups, driver);
-    ui.gapSize->setText(NumberField::inchesText(stored.*fields->size));
-    ui.gapOffset->setText(NumberField::inchesText(stored.*fields->offset));
-    loaded.*fields->size = NumberField::number(ui.gapSize);
-    loaded.*fields->offset = NumberField::number(ui.gapOffset);
+    ui.gapSize->setText(NumberField::inchesText(stored.*gap->size));
+    ui.gapOffset->setText(NumberField::inchesText(stored.*gap->offset));
+    loaded.*gap->size = NumberField::number(ui.gapSize);
+    loaded.*gap->offset = NumberField::number(ui.gapOffset);
 }
 
-void PrintPropertiesDialog::Private::showMediaRows(int mediaType)
-{
-    const bool marks = mediaType == CupsSupport::LabelsWithMarks;
-    const bool gaps = mediaType == CupsSupport::LabelsWithGaps;
-    showAll({ui.gapSize, ui.gapSizeLabel, ui.gapSizeUnits}, gaps || marks);
-    showAll({ui.gapOffset, ui.gapOffsetLabel, ui.gapOffsetUnits}, marks || (gaps && family.isOffsetGroup));
-    showAll({ui.feed, ui.feedLabel, ui.feedUnits}, family.isOffsetGroup || !(gaps || marks));
-}
-
-// ----- user commands -----
-
-// The text of the command edit. Unlike toPlainText(), this keeps no-break spaces, which would otherwise be lost from a
-// stored command just by displaying it.
-QString PrintPropertiesDialog::Private::commandText() const
-{
-    QString text = ui.commandEdit->document()->toRawText();
-    text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
-    return text.replace(QChar::LineSeparator, QLatin1Char('\n'));
-}
-
-void PrintPropertiesDialog::Private::showCommand()
-{
-    if (commandText() != commands[commandSlot])
-        ui.commandEdit->setPlainText(commands[commandSlot]);
-}
-
-// The slot changes before the text: the text-changed handler then compares with the new slot's string, finds no
-// difference and marks nothing changed.
-void PrintPropertiesDialog::Private::selectCommand(bool isSelected, std::size_t slot)
+void PrintPropertiesDialog::Private::selectCommand(bool isSelected, std::size_t position)
 {
     if (!isSelected)
         return;
-    commandSlot = slot;
-    showCommand();
+    commands.select(position);
     describeFields();
 }
 
@@ -798,11 +606,8 @@ void PrintPropertiesDialog::on_jobEndRadioButton_toggled(bool bChecked) { d->sel
 
 void PrintPropertiesDialog::on_commandEdit_textChanged()
 {
-    const QString text = d->commandText();
-    if (text == d->commands[d->commandSlot])
-        return;
-    d->commands[d->commandSlot] = text;
-    setChanged(true);
+    if (d->commands.takeText())
+        setChanged(true);
 }
 
 // ----- events -----

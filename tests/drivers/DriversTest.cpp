@@ -33,6 +33,7 @@ private slots:
     void fields_data();
     void fields();
     void ranges();
+    void fewerMediaTypes();
     void leftToPrinter();
     void leavingAgain();
     void whatOthersSet();
@@ -354,6 +355,30 @@ void DriversTest::ranges()
     QCOMPARE(range(ql820, "darknessSlider"), qMakePair(1, 5));
     QCOMPARE(items(ql820, "mediaType"), QString("Continuous, Labels With Gaps"));
     QCOMPARE(items(ql820, "cut"), QString("No Cut, Cut After Job, Cut After Page"));
+}
+
+// A printer without some of the media types: the positions in the list are not the numbers of the types.
+void DriversTest::fewerMediaTypes()
+{
+    scheduler->addQueue(
+        "sensing", scheduler->editedPpd(ppds.ppd("zebra"), {{"*zeMediaTracking Continuous/Continuous: \"\"\n", ""}}));
+    {
+        OpenDialog open{QString("sensing")};
+        open.dialog.show();
+        QCOMPARE(open.list("mediaType")->currentText(), QString("Labels With Gaps"));
+        open.list("mediaType")->setCurrentText("Labels With Marks");
+        open.click("applyButton");
+        QCOMPARE(open.list("mediaType")->currentText(), QString("Labels With Marks"));
+    }
+    QCOMPARE(storedOptions("sensing").value("zeMediaTracking"), QByteArray("Mark"));
+    const QByteArray printed = printedByLibrary("sensing");
+    QVERIFY2(printed.contains("^MNM"), printed.constData());
+    OpenDialog open{QString("sensing")};
+    open.dialog.show();
+    QCOMPARE(open.list("mediaType")->currentText(), QString("Labels With Marks"));
+    open.list("mediaType")->setCurrentText("Labels With Gaps");
+    open.click("applyButton");
+    QVERIFY(!storedOptions("sensing").contains("zeMediaTracking")); // the PPD file's default
 }
 
 void DriversTest::leftToPrinter()
