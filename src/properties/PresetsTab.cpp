@@ -6,6 +6,7 @@
 #include "cups/Units.h"
 #include "presets/DriverCommand.h"
 #include "presets/Preset.h"
+#include "presets/PresetScript.h"
 #include "properties/PrintPropertiesDialogPrivate.h"
 
 #include <QAction>
@@ -115,25 +116,49 @@ void PrintPropertiesDialog::setCurrentPreset(Preset *preset)
     if (preset == d->presets.currentPreset())
         return;
     d->presets.setCurrentPreset(preset);
-    // Other makes' drivers have no such command; their presets contain the page size as an option. And a script in
-    // place of a preset that has not been written belongs to another program.
-    const bool hasCommand = !d->driver.isForeign() && !preset->isNew();
-    const QString line = hasCommand ? DriverCommand::lineIn(preset->pathName()) : QString();
-    if (!line.isEmpty()) {
-        // The command changes the PPD file at the scheduler; the next use opens it again.
-        d->cups->closePpdFile();
-        DriverCommand::run(line);
-    }
-    setCupsOptions(preset);
-    d->takePageSize(*preset);
+    if (preset)
+        d->apply(*preset);
     updateDialog();
     setChanged(true);
 }
 
+void PrintPropertiesDialog::Private::apply(Preset &preset)
+{
+    // Other makes' drivers have no such command; their presets contain the page size as an option. And a script in
+    // place of a preset that has not been written belongs to another program.
+    const bool hasCommand = !driver.isForeign() && !preset.isNew();
+    const QString line = hasCommand ? DriverCommand::lineIn(preset.pathName()) : QString();
+    if (!line.isEmpty()) {
+        // The command changes the PPD file at the scheduler; the next use opens it again.
+        cups->closePpdFile();
+        DriverCommand::run(line);
+    }
+    q->setCupsOptions(&preset);
+    takePageSize(preset);
+}
+
 void PrintPropertiesDialog::setCupsOptions(Preset *preset)
 {
+    if (!preset)
+        return;
+    const QStringList options = preset->options();
     d->cups->deleteOptions(preset->getOptionNames());
-    d->cups->setOptions(preset->options());
+    d->cups->setOptions(options);
+    d->emptyCommands(options);
+}
+
+// setOptions() takes an empty value for a removal, but an empty command can stand for a default that the PPD file
+// declares.
+void PrintPropertiesDialog::Private::emptyCommands(const QStringList &options)
+{
+    for (const char *keyword : UserCommands::keywords) {
+        const auto index = PresetScript::valueIndex(options, QLatin1String(keyword));
+        if (index < 0 || !options.at(index).isEmpty())
+            continue;
+        const char *byDefault = cups->getDefaultValue(keyword);
+        if (byDefault ? *byDefault != '\0' : cups->isPpdFileOutOfReach())
+            cups->setValue(keyword, "");
+    }
 }
 
 // A driver without label settings has no command either, and no list of its own in the presets.
@@ -266,6 +291,17 @@ void PrintPropertiesDialog::Private::applyPageSize(const QSizeF &size)
     preset->setUserPageSize(size);
     if (size.width() > 0 && size.height() > 0)
         DriverCommand::run(preset->ppdhack());
+}
+
+// While the PPD file is out of reach, the defaults are not known. An option without a value has its default all the same,
+// and the scripts must restore it.
+QStringList PrintPropertiesDialog::Private::defaultsForPresets() const
+{
+    QStringList defaults = cups->ppdDefaults();
+    if (cups->isPpdFileOutOfReach())
+        for (const QString &keyword : PresetScript::optionNames(queueName))
+            defaults << keyword << QString();
+    return defaults;
 }
 
 bool PrintPropertiesDialog::Private::savePresets(const QSizeF &size, const QStringList &defaults)

@@ -349,7 +349,7 @@ void PrintPropertiesDialog::saveValues()
     d->isSaved = true;
     if (d->cups) {
         d->isSaved = d->saveOptions();
-        defaults = d->cups->ppdDefaults();
+        defaults = d->defaultsForPresets();
     }
     // With other makes' drivers the page size is an option, and the presets carry it as such.
     const QSizeF size = d->driver.isForeign() ? QSizeF(0.0, 0.0) : d->pageSize.size();

@@ -89,7 +89,7 @@ public:
     bool updatePresets();
 
     /**
-     * Shows @p preset, or nothing if it is null, in both lists, with its name and description.
+     * Shows @p preset in both lists, with its name and description. If it is null, nothing can be edited.
      *
      * @return whether the lists moved.
      */
@@ -97,14 +97,15 @@ public:
 
     /**
      * Makes @p preset, one of those in the lists, current, applies it to the printer's settings in memory and reloads
-     * all fields. Runs the printer driver's ppdhack, and waits for it, when the preset has a page size.
+     * all fields. Runs the printer driver's ppdhack, and waits for it, when the preset has a page size. With null, no
+     * preset is current, and the printer's settings stay.
      */
     void setCurrentPreset(Preset *preset);
 
     /** The same for the preset with this name or file name; an unknown or empty text does nothing. */
     void setCurrentPreset(const QString &text);
 
-    /** Replaces the printer's options that presets carry by those of @p preset, in memory. */
+    /** Replaces the printer's options that presets carry by those of @p preset, in memory. Null does nothing. */
     void setCupsOptions(Preset *preset);
 
     /** @} */

@@ -69,6 +69,9 @@ struct PrintPropertiesDialog::Private
     void storeFields();
     QStringList optionsOfFields();
     void markConflicts();
+    QStringList defaultsForPresets() const;
+    void apply(Preset &preset);
+    void emptyCommands(const QStringList &options);
     void takePageSize(Preset &preset);
     void applyPageSize(const QSizeF &size);
     bool savePresets(const QSizeF &size, const QStringList &defaults);

@@ -39,6 +39,7 @@ private slots:
     void ppdFileGoneWhileSaving();
     void ppdFileIsBack();
     void mediaTypeWithoutPpdFile();
+    void presetSavedWithoutPpdFile();
 
     void savingSucceeds();
     void optionsFileCannotBeWritten();
@@ -184,6 +185,25 @@ void PropertiesDialogInputTest::ppdFileIsBack()
     open.dialog.hide();
     open.dialog.show();
     QCOMPARE(open.shown("speedSlider"), QString("3"));
+}
+
+// A script that is saved meanwhile also restores what had its default.
+void PropertiesDialogInputTest::presetSavedWithoutPpdFile()
+{
+    scheduler.setUserOptions("Q", {"Darkness=4"});
+    OpenDialog open;
+    open.cups.closePpdFile();
+    scheduler.stop();
+    open.click("presetNewButton");
+    open.click("applyButton");
+    scheduler.start();
+    for (const char *name : {"Preset", "_current"}) {
+        scheduler.setUserOptions("Q", {"Darkness=9", "PrintSpeed=1", "LabelCategory=2"});
+        PrivateScheduler::run("/bin/bash", {cupsFolder() + "/Q/" + name + ".sh"});
+        const Options stored = storedOptions("Q");
+        QCOMPARE(stored.value("Darkness"), QByteArray("4"));
+        QVERIFY2(!stored.contains("PrintSpeed") && !stored.contains("LabelCategory"), name);
+    }
 }
 
 // Its fields are filled from stored options that nobody has stored.

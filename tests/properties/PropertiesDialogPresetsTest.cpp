@@ -185,6 +185,7 @@ private slots:
     void choose();
     void chooseTheCurrentOne();
     void chooseByText();
+    void chooseNone();
     void chooseDefaultSettings();
     void chooseCurrentSettings();
     void onlyListedOptionsAreReplaced();
@@ -209,6 +210,7 @@ private slots:
     void newPresetNames_data();
     void newPresetNames();
     void newPresetDropsUnsavedEdits();
+    void newPresetKeepsAnEmptiedCommand();
     void updateButton();
     void updateButtonWithOneDifference_data();
     void updateButtonWithOneDifference();
@@ -597,6 +599,25 @@ void PropertiesDialogPresetsTest::chooseByText()
     QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
 }
 
+// As a host does it, and another preset afterwards.
+void PropertiesDialogPresetsTest::chooseNone()
+{
+    writeScript("a", " -oDarkness=4");
+    scheduler.setUserOptions("Q", {"Darkness=9"});
+    OpenDialog open;
+    const Options before = workingCopy(open.cups);
+    open.dialog.setCurrentPreset(nullptr);
+    open.dialog.setCupsOptions(nullptr);
+    QCOMPARE(workingCopy(open.cups), before);
+    for (const char *name : {"nameEdit", "descriptionEdit", "presetUpdateButton", "presetDeleteButton"})
+        QVERIFY2(!open.isEnabled(name), name);
+    QVERIFY(open.isChanged());
+    open.click("applyButton");
+    QVERIFY(open.dialog.lastSaveSucceeded());
+    open.dialog.setCurrentPreset("a");
+    QCOMPARE(open.shown("darknessSlider"), QString("4"));
+}
+
 void PropertiesDialogPresetsTest::chooseDefaultSettings()
 {
     scheduler.setUserOptions("Q",
@@ -940,6 +961,26 @@ void PropertiesDialogPresetsTest::newPresetDropsUnsavedEdits()
     open.click("presetNewButton");
     QCOMPARE(open.widget<QSlider>("darknessSlider")->value(), 4);
     QCOMPARE(open.text("feed"), QString("0.00"));
+}
+
+// The PPD file declares a command, which is not what the user wants.
+void PropertiesDialogPresetsTest::newPresetKeepsAnEmptiedCommand()
+{
+    scheduler.addQueue("Declared", PrivateScheduler::samplePpd("every-option"));
+    scheduler.setServerDefault("Declared");
+    OpenDialog open;
+    QCOMPARE(open.plainText("commandEdit"), QString("None"));
+    open.setPlainText("commandEdit", QString());
+    open.click("applyButton");
+    open.click("presetNewButton");
+    QCOMPARE(open.plainText("commandEdit"), QString());
+    open.choose("preset1", 1);
+    QCOMPARE(open.plainText("commandEdit"), QString("None"));
+    open.choose("preset1", 2);
+    QCOMPARE(open.plainText("commandEdit"), QString());
+    open.click("applyButton");
+    const OpenDialog again;
+    QCOMPARE(again.plainText("commandEdit"), QString());
 }
 
 void PropertiesDialogPresetsTest::updateButton()
