@@ -20,7 +20,6 @@ namespace {
 
 constexpr QSize formSize(450, 489);
 constexpr int presetListWidth = 160; // pixels; the form's
-constexpr int tightMargin = 5; // pixels
 constexpr int asInStyle = -1;
 constexpr int titleBarHeight = 40; // pixels; that of usual window managers, with the frame
 
@@ -42,6 +41,14 @@ int widthFor(const QString &text, const QComboBox *list)
 
 } // namespace
 
+// What is left between widgets, in pixels.
+struct PrintPropertiesDialog::Private::Room
+{
+    int betweenBoxes;
+    int betweenButtons; // in the boxes for orientation and effects
+    int aroundForm; // above and below
+};
+
 // The form's sizes are for usual fonts and short words. They grow where something would be cut off; pages that are then
 // higher than the screen scroll.
 void PrintPropertiesDialog::Private::makeRoom()
@@ -59,27 +66,30 @@ void PrintPropertiesDialog::Private::makeRoom()
     q->setFixedSize(size);
 }
 
-// Less is left between the boxes where this keeps the form at its size, and only there.
+// Less is left between widgets where this keeps the form at its size, and only there.
 QSize PrintPropertiesDialog::Private::tightenedSize()
 {
+    // A box needs nothing above it: its title keeps its frame apart.
+    static constexpr Room rooms[] = {{asInStyle, asInStyle, asInStyle}, {0, asInStyle, 5}, {0, 2, 5}};
     const int height = formSize.height() + noteHeight(*q);
-    setTight(false);
-    const QSize usual = neededSize();
-    if (usual.height() <= height)
-        return usual;
-    setTight(true);
-    const QSize tight = neededSize();
-    if (tight.height() <= height)
-        return tight;
-    setTight(false);
+    for (const Room &room : rooms) {
+        setRoom(room);
+        const QSize needed = neededSize();
+        if (needed.height() <= height)
+            return needed;
+    }
+    setRoom(rooms[0]);
     return neededSize();
 }
 
 QSize PrintPropertiesDialog::Private::neededSize()
 {
     FormRoom::freshenSizeHints(*q);
-    for (QGroupBox *box : {ui.previewGroupBox, ui.orientationGroupBox, ui.effectsGroupBox})
-        box->setMinimumSize(box->minimumSize().expandedTo(box->minimumSizeHint()));
+    for (QGroupBox *box : {ui.previewGroupBox, ui.orientationGroupBox, ui.effectsGroupBox}) {
+        if (!statedSizes.contains(box))
+            statedSizes.insert(box, box->minimumSize());
+        box->setMinimumSize(statedSizes.value(box).expandedTo(box->minimumSizeHint()));
+    }
     int scrolled = 0;
     for (QScrollArea *area : ui.tabs->findChildren<QScrollArea *>()) {
         const QSize page = area->widget()->minimumSizeHint();
@@ -91,11 +101,12 @@ QSize PrintPropertiesDialog::Private::neededSize()
 }
 
 // Affects the dialog and the page that is the highest.
-void PrintPropertiesDialog::Private::setTight(bool isTight)
+void PrintPropertiesDialog::Private::setRoom(const Room &room)
 {
-    ui.gridLayout_4->setVerticalSpacing(isTight ? 0 : asInStyle); // the titles above the boxes keep these apart
-    const int margin = isTight ? tightMargin : asInStyle;
-    ui.gridLayout_20->setContentsMargins(asInStyle, margin, asInStyle, margin);
+    ui.gridLayout_4->setVerticalSpacing(room.betweenBoxes);
+    for (QGridLayout *box : {ui.gridLayout_6, ui.gridLayout_7})
+        box->setVerticalSpacing(room.betweenButtons);
+    ui.gridLayout_20->setContentsMargins(asInStyle, room.aroundForm, asInStyle, room.aroundForm);
 }
 
 // What is on a page goes into a scroll area on it. The pages stay, as the form knows them. Returns whether they were changed.

@@ -40,10 +40,11 @@ struct PrintPropertiesDialog::Private
     void fillLists();
     void hideUnusedRows();
 
+    struct Room;
     void makeRoom();
     QSize tightenedSize();
     QSize neededSize();
-    void setTight(bool isTight);
+    void setRoom(const Room &room);
     bool scrollPages();
     void widenFields();
     void describeFields();
@@ -103,6 +104,7 @@ struct PrintPropertiesDialog::Private
     bool arePresetsSaved = true; // whether the last saving of the presets did; otherwise the next one tries again
     LabelSettings loaded; // what the fields held when they were last loaded or saved
     bool hasFallbacks = false; // whether the PPD file was out of reach when the fields were loaded
+    QHash<const QGroupBox *, QSize> statedSizes; // the smallest that the form allows
     QHash<const QLineEdit *, int> statedWidths; // the largest that the form allows, which grow only where they have to
 };
 

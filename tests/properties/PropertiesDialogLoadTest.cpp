@@ -12,6 +12,7 @@
 
 #include <QBitmap>
 #include <QIntValidator>
+#include <QProxyStyle>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTimer>
@@ -195,6 +196,7 @@ private slots:
     void startsOnPageSetupWithoutHelp();
     void sizeIsFixed_data();
     void sizeIsFixed();
+    void rowsMoveTogetherBeforeTheFormGrows();
     void neverShownWidgets_data();
     void neverShownWidgets();
     void lists();
@@ -359,6 +361,43 @@ void PropertiesDialogLoadTest::sizeIsFixed()
         t.dialog.show();
         QCOMPARE(t.dialog.size(), size);
     }
+    QApplication::setFont(before);
+}
+
+namespace {
+
+// Its buttons with texts have the height that fonts for Japanese give them.
+class StyleWithHighTexts : public QProxyStyle
+{
+public:
+    StyleWithHighTexts()
+        : QProxyStyle(QStringLiteral("Fusion"))
+    {
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override
+    {
+        const bool isHigh = type == CT_RadioButton || type == CT_CheckBox;
+        return QProxyStyle::sizeFromContents(type, option, size, widget) + QSize(0, isHigh ? 2 : 0);
+    }
+};
+
+} // namespace
+
+void PropertiesDialogLoadTest::rowsMoveTogetherBeforeTheFormGrows()
+{
+    const QFont before = QApplication::font();
+    QFont font = before;
+    font.setPixelSize(16);
+    QApplication::setFont(font);
+    QApplication::setStyle(new StyleWithHighTexts);
+    {
+        const OpenDialog t("LP");
+        QCOMPARE(t.dialog.height(), 489);
+        QCOMPARE(t.dialog.size(), t.dialog.size().expandedTo(t.dialog.minimumSizeHint()));
+    }
+    QApplication::setStyle("Fusion");
     QApplication::setFont(before);
 }
 
