@@ -53,6 +53,8 @@ public:
 
     void look(http_t *http) { ask(http, newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, uri.constData())); }
 
+    // From 2.4.3 on, the scheduler connects to the printer before it answers.
+    bool hasFoundPrinterOff() const { return isPrinterOff; }
     bool exists() const { return !uri.isEmpty(); }
     bool hasReachedPrinter() const { return state == IPP_PSTATE_IDLE || state == IPP_PSTATE_PROCESSING; }
 
@@ -74,6 +76,7 @@ private:
             uri = ippGetString(found, 0, nullptr);
         if (ipp_attribute_t *found = ippFindAttribute(answer, "printer-state", IPP_TAG_ENUM))
             state = ippGetInteger(found, 0);
+        isPrinterOff = cupsLastError() == IPP_STATUS_ERROR_DEVICE;
         ippDelete(answer);
     }
 
@@ -81,6 +84,7 @@ private:
     const QByteArray description;
     const QByteArray device;
     int state = IPP_PSTATE_STOPPED;
+    bool isPrinterOff = false;
 };
 
 QString cannotBeReached(const cups_dest_t &dest)
@@ -96,10 +100,15 @@ QByteArray makeQueue(const cups_dest_t &dest)
 {
     const Clock::time_point end = Clock::now() + Scheduler::currentLimits().toReachPrinter;
     const auto queue = std::make_shared<LocalQueue>(dest);
-    bool isAnswered = Scheduler::ask([queue](http_t *http) { queue->create(http); }) && queue->exists();
+    const QString failure = cannotBeReached(dest);
+    if (!Scheduler::askToReachPrinter([queue](http_t *http) { queue->create(http); }, failure))
+        return QByteArray();
+    if (queue->hasFoundPrinterOff())
+        Scheduler::setLastError(failure);
+    bool isAnswered = queue->exists();
     while (isAnswered && !queue->hasReachedPrinter()) {
         if (Clock::now() >= end) {
-            Scheduler::setLastError(cannotBeReached(dest));
+            Scheduler::setLastError(failure);
             return QByteArray();
         }
         std::this_thread::sleep_for(pauseBetweenQuestions);

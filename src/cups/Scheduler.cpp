@@ -3,6 +3,7 @@
 
 #include "cups/Scheduler.h"
 
+#include "cups/BackgroundThread.h"
 #include "cups/Passwords.h"
 
 #include <QByteArray>
@@ -13,11 +14,9 @@
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
-#include <csignal>
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <system_error>
 #include <thread>
 
 #include <netinet/in.h>
@@ -223,28 +222,11 @@ void run(const std::shared_ptr<Request> &request, const Work &work, const Identi
     request->changed.notify_one();
 }
 
-// A thread that does not receive the host's signals. Nothing if the system has no more threads.
-std::optional<std::thread> startThread(const std::function<void()> &function)
-{
-    sigset_t all;
-    sigset_t before;
-    sigfillset(&all);
-    pthread_sigmask(SIG_SETMASK, &all, &before);
-    std::optional<std::thread> thread;
-    try {
-        thread.emplace(function);
-    } catch (const std::system_error &) {
-        thread.reset();
-    }
-    pthread_sigmask(SIG_SETMASK, &before, nullptr);
-    return thread;
-}
-
 // Calls the function on a thread on which libcups is prepared, and waits. If the system has no more threads, calls it
 // on this thread.
 void callOnThread(const std::function<void()> &prepare, const std::function<void()> &function)
 {
-    std::optional<std::thread> thread = startThread([&] {
+    std::optional<std::thread> thread = startBackgroundThread([&] {
         prepare();
         function();
     });
@@ -260,8 +242,16 @@ void forgetNameServers()
         _res.nscount = 0;
 }
 
+// How long to wait for a request.
+struct Patience
+{
+    Milliseconds altogether;
+    Milliseconds withoutProgress = limits.withoutProgress;
+    QString printerFailure = {}; // what to say if it is over because the scheduler waits for a printer
+};
+
 // Waits until the request has ended or a time limit is reached.
-bool endsInTime(Request &request, std::unique_lock<std::mutex> &lock, Milliseconds altogether)
+bool endsInTime(Request &request, std::unique_lock<std::mutex> &lock, const Patience &patience)
 {
     const Clock::time_point start = Clock::now();
     Clock::time_point lastProgress = start;
@@ -272,7 +262,7 @@ bool endsInTime(Request &request, std::unique_lock<std::mutex> &lock, Millisecon
         if (activity != lastActivity)
             lastProgress = now;
         lastActivity = activity;
-        if (now - lastProgress >= limits.withoutProgress || now - start >= altogether)
+        if (now - lastProgress >= patience.withoutProgress || now - start >= patience.altogether)
             return false;
     }
     return true;
@@ -306,7 +296,7 @@ enum class Outcome {
 };
 
 // Does the work once.
-Outcome converse(const Work &work, Milliseconds altogether)
+Outcome converse(const Work &work, const Patience &patience)
 {
     const Identity identity;
     const auto request = std::make_shared<Request>(identity.serverName());
@@ -319,18 +309,21 @@ Outcome converse(const Work &work, Milliseconds altogether)
             return Outcome::NotAnswered;
         }
     }
-    std::optional<std::thread> thread = startThread([=] { run(request, work, identity, http); });
+    std::optional<std::thread> thread = startBackgroundThread([=] { run(request, work, identity, http); });
     if (!thread) {
         httpClose(http);
         return Outcome::NotAnswered;
     }
     std::unique_lock lock(request->mutex);
-    const bool isInTime = endsInTime(*request, lock, altogether);
+    const bool isInTime = endsInTime(*request, lock, patience);
     const bool hasEnded = isInTime || giveUp(*request, lock);
     lock.unlock();
     hasEnded ? thread->join() : thread->detach();
     if (!isInTime) {
-        rememberTimeOut();
+        if (patience.printerFailure.isEmpty())
+            rememberTimeOut();
+        else
+            Scheduler::setLastError(patience.printerFailure);
         return Outcome::NotAnswered;
     }
     // After a success, libcups' text is about an unrelated earlier error.
@@ -361,7 +354,7 @@ bool Scheduler::ask(const Work &work)
 {
     return !isLeftAlone() && converseWithUser([&work] {
         const Clock::time_point start = Clock::now();
-        const Outcome outcome = converse(work, action.left());
+        const Outcome outcome = converse(work, {action.left()});
         action.add(Clock::now() - start);
         return outcome;
     });
@@ -369,8 +362,14 @@ bool Scheduler::ask(const Work &work)
 
 bool Scheduler::askToPrint(const Work &work, qint64 size)
 {
-    const Milliseconds altogether = limits.altogether + std::chrono::seconds(size / slowestNetwork);
-    return !isLeftAlone() && converseWithUser([&] { return converse(work, altogether); });
+    const Patience patience{limits.altogether + std::chrono::seconds(size / slowestNetwork)};
+    return !isLeftAlone() && converseWithUser([&] { return converse(work, patience); });
+}
+
+bool Scheduler::askToReachPrinter(const Work &work, const QString &failure)
+{
+    const Patience patience{limits.toReachPrinter, limits.toReachPrinter, failure};
+    return !isLeftAlone() && converseWithUser([&] { return converse(work, patience); });
 }
 
 bool Scheduler::isWaitedFor()

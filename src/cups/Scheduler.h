@@ -52,6 +52,12 @@ bool ask(const Work &work);
 /** The same for a job whose documents have @p size bytes; sending them may take longer than other requests. */
 bool askToPrint(const Work &work, qint64 size);
 
+/**
+ * The same for a request that the scheduler answers when it has reached a printer. If that takes too long, lastError() is
+ * @p failure, and other requests are still sent.
+ */
+bool askToReachPrinter(const Work &work, const QString &failure);
+
 /** For @p work of several steps: whether it has not been given up. */
 bool isWaitedFor();
 
