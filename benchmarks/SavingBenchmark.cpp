@@ -27,7 +27,7 @@ Widget *find(QDialog *dialog, const char *name)
     return widget;
 }
 
-// Replaces a file in the same folder as safely as the library does: the fixed cost of each file.
+// Replaces a file in the same folder and waits for the disk: what Apply would cost in addition for each file if it did so.
 void replaceFile()
 {
     QSaveFile file(QDir::homePath() + "/.cups/benchmark");
@@ -98,7 +98,7 @@ void program(const Extent &extent)
     PrivateScheduler scheduler;
     Table table("Apply until everything is saved, beside one cupsSetDests",
                 {"queues", "Apply", "cupsSetDests", "ratio", "growth", "libcups' growth", "with use",
-                 "replacing a file", "ratio without two of these", "requests of Apply"});
+                 "replacing a file", "requests of Apply"});
     double firstApply = 0.0;
     double firstCups = 0.0;
     for (const int queues : extent.sizes({3, 100, 1000}, {2})) {
@@ -110,9 +110,9 @@ void program(const Extent &extent)
             firstCups = m.cups.median();
         }
         table.addRow({QString::number(queues), text(m.apply.median()), text(m.cups.median()),
-                      withGoal(m.apply.median() / m.cups.median(), 1.5), text(m.apply.median() / firstApply),
+                      withGoal(m.apply.median() / m.cups.median(), 1.0), text(m.apply.median() / firstApply),
                       text(m.cups.median() / firstCups), text(m.apply.growth()), text(m.file.median()),
-                      text((m.apply.median() - 2 * m.file.median()) / m.cups.median()), m.requests.join(", ")});
+                      m.requests.join(", ")});
     }
 }
 

@@ -67,6 +67,8 @@ OptionArray OptionsMemory::lost(const OptionArray &saved, const OptionArray &sto
                                 const OptionsSyntax::Reader &reader)
 {
     OptionArray found;
+    if (saved.size() == 0)
+        return found;
     OptionArray now = saved;
     for (int i = 0; i < mostRewritings; ++i) {
         const std::optional<OptionArray> next = OptionsSyntax::rewritten(now, reader);

@@ -154,12 +154,13 @@ OptionsMerge::Change OptionsMerge::changeSince(const QByteArray &earlier, const 
     if (snapshot(dest) == earlier)
         return change;
     const OptionArray before = fromSnapshot(earlier);
-    const OptionArray now(dest);
-    for (const cups_option_t &option : now)
+    for (int i = 0; i < dest.num_options; ++i) {
+        const cups_option_t &option = dest.options[i];
         if (!before.has(option.name, option.value) && !isPrinterAttribute(option))
             change.set.set(option.name, option.value);
+    }
     for (const cups_option_t &option : before)
-        if (!now.value(option.name))
+        if (!cupsGetOption(option.name, dest.num_options, dest.options))
             change.removed.append(option.name);
     return change;
 }

@@ -3,8 +3,9 @@
 
 #include "cups/UserFile.h"
 
+#include "cups/NewFile.h"
+
 #include <QFile>
-#include <QSaveFile>
 #include <QString>
 
 #include <fcntl.h>
@@ -87,7 +88,6 @@ UserFile::~UserFile()
         close(folderFd);
 }
 
-// A path for Qt, which would replace bytes that are not valid text in the user's encoding.
 QByteArray UserFile::pathWithoutLinks() const
 {
     return "/proc/self/fd/" + QByteArray::number(folderFd) + '/' + name;
@@ -160,33 +160,31 @@ UserFile::Result UserFile::replace(const QByteArray &content, mode_t newMode)
         return writeInPlace(content) ? Result::Replaced : Result::Failed;
     }
 
-    errno = 0;
-    QSaveFile file(QFile::decodeName(pathWithoutLinks()));
-    if (!file.open(QIODevice::WriteOnly)) {
-        if (errno == 0)
-            errno = EACCES; // it is read-only, which the superuser's own error number would not tell
+    if (exists && faccessat(folderFd, name.constData(), W_OK, AT_EACCESS) != 0)
         return Result::Failed;
-    }
-    if (exists) {
-        // A file that belongs to another user stays theirs. Only root can and needs to restore the owner.
-        if ((earlier.st_uid != geteuid() || earlier.st_gid != getegid())
-            && fchown(file.handle(), earlier.st_uid, earlier.st_gid) == 0)
-            fchmod(file.handle(), earlier.st_mode & 07777);
-        copyAccessControlList(pathWithoutLinks(), file.handle());
-    } else {
-        struct stat parent = {};
-        if (geteuid() == 0 && fstat(folderFd, &parent) == 0 && parent.st_uid != 0
-            && fchown(file.handle(), parent.st_uid, parent.st_gid) != 0)
-            return Result::Failed;
-        if (newMode != 0)
-            fchmod(file.handle(), newMode);
-    }
-    // commit() alone would not notice failed flushes or a full disk.
-    if (file.write(content) != content.size() || !file.flush() || fsync(file.handle()) != 0)
+    NewFile file(folderFd, name);
+    if (!file.isOpen() || !setAttributes(file.descriptor(), newMode) || !file.write(content))
         return Result::Failed;
     if (!isStillTheSame())
         return Result::Changed;
-    return file.commit() ? Result::Replaced : Result::Failed;
+    return file.replace() ? Result::Replaced : Result::Failed;
+}
+
+bool UserFile::setAttributes(int file, mode_t newMode) const
+{
+    if (exists) {
+        // A file that belongs to another user stays theirs. Only root can and needs to restore the owner.
+        const bool isOurs = earlier.st_uid == geteuid() && earlier.st_gid == getegid();
+        [[maybe_unused]] const bool isRestored = isOurs || fchown(file, earlier.st_uid, earlier.st_gid) == 0;
+        fchmod(file, earlier.st_mode & 07777);
+        copyAccessControlList(pathWithoutLinks(), file);
+        return true;
+    }
+    struct stat parent = {};
+    if (geteuid() == 0 && fstat(folderFd, &parent) == 0 && parent.st_uid != 0
+        && fchown(file, parent.st_uid, parent.st_gid) != 0)
+        return false;
+    return newMode == 0 || fchmod(file, newMode) == 0;
 }
 
 bool UserFile::remove()

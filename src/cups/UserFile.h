@@ -55,6 +55,7 @@ private:
     QByteArray pathWithoutLinks() const;
     bool isStillTheSame() const;
     bool canReplace() const;
+    bool setAttributes(int file, mode_t newMode) const;
     bool writeInPlace(const QByteArray &content) const;
 
     QByteArray folder;

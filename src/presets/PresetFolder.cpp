@@ -3,6 +3,7 @@
 
 #include "presets/PresetFolder.h"
 
+#include "cups/NewFile.h"
 #include "cups/OptionsPlace.h"
 
 #include <QCoreApplication>
@@ -13,7 +14,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
@@ -29,7 +29,6 @@ constexpr mode_t permissionBits = 0777;
 constexpr mode_t executable = 0111;
 constexpr mode_t cupsFolderMode = 0700; // as libcups makes it
 constexpr mode_t folderMode = 0777; // reduced by the umask
-constexpr mode_t fileMode = 0666; // likewise
 
 // What root creates in a user's home belongs to the user. Only root can and needs to change the owner. By descriptor: a
 // file of that name may have been replaced meanwhile.
@@ -87,42 +86,20 @@ PresetFolder::~PresetFolder()
         close(fd);
 }
 
-// Writes a new file that no list shows, and returns its name; empty on failure.
-QByteArray PresetFolder::write(const QByteArray &content, const struct stat *earlier, Sync sync)
+bool PresetFolder::write(NewFile &file, const QByteArray &content, const struct stat *earlier)
 {
-    const QByteArray start = ".new-" + QByteArray::number(QCoreApplication::applicationPid()) + '-';
-    QByteArray name;
-    int descriptor = -1;
-    // A killed process with the same id may have left files.
-    for (int i = 0; descriptor < 0; ++i) {
-        name = start + QByteArray::number(i);
-        descriptor = openat(fd, name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, fileMode);
-        if (descriptor < 0 && errno != EEXIST)
-            return {};
-    }
-
-    QFile file;
     struct stat status = {};
-    bool good = fstat(descriptor, &status) == 0
-                && file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
-    if (good) {
-        if (earlier)
-            giveTo(*earlier, descriptor);
-        else
-            giveToOwnerOf(fd, descriptor);
-        const mode_t mode = (earlier ? earlier->st_mode : status.st_mode) & permissionBits;
-        good = fchmod(descriptor, mode | executable) == 0 && file.write(content) == content.size()
-               && (sync == Later || fsync(descriptor) == 0);
-    } else {
-        close(descriptor);
-    }
-    if (good)
-        return name;
-    unlinkat(fd, name.constData(), 0);
-    return {};
+    if (!file.isOpen() || fstat(file.descriptor(), &status) != 0)
+        return false;
+    if (earlier)
+        giveTo(*earlier, file.descriptor());
+    else
+        giveToOwnerOf(fd, file.descriptor());
+    const mode_t mode = (earlier ? earlier->st_mode : status.st_mode) & permissionBits;
+    return fchmod(file.descriptor(), mode | executable) == 0 && file.write(content);
 }
 
-bool PresetFolder::replace(const QString &name, const QByteArray &content, Sync sync)
+bool PresetFolder::replace(const QString &name, const QByteArray &content)
 {
     const QByteArray place = QFile::encodeName(name);
     struct stat earlier = {};
@@ -133,29 +110,18 @@ bool PresetFolder::replace(const QString &name, const QByteArray &content, Sync 
         return false;
     if (isFile && faccessat(fd, place.constData(), W_OK, AT_EACCESS) != 0)
         return false;
-
-    const QByteArray temporary = write(content, isFile ? &earlier : nullptr, sync);
-    if (temporary.isEmpty())
-        return false;
-    if (renameat(fd, temporary.constData(), fd, place.constData()) == 0)
-        return true;
-    unlinkat(fd, temporary.constData(), 0);
-    return false;
+    NewFile file(fd, place);
+    return write(file, content, isFile ? &earlier : nullptr) && file.replace();
 }
 
 PresetFolder::Result PresetFolder::create(const QString &name, const QByteArray &content)
 {
-    const QByteArray place = QFile::encodeName(name);
-    const QByteArray temporary = write(content, nullptr, ToDisk);
-    if (temporary.isEmpty())
+    NewFile file(fd, QFile::encodeName(name));
+    if (!write(file, content, nullptr))
         return Failed;
-    // Neither call replaces an existing file. File systems support one or the other.
-    const bool done =
-        linkat(fd, temporary.constData(), fd, place.constData(), 0) == 0
-        || (errno != EEXIST && renameat2(fd, temporary.constData(), fd, place.constData(), RENAME_NOREPLACE) == 0);
-    const Result failure = errno == EEXIST ? Taken : Failed;
-    unlinkat(fd, temporary.constData(), 0);
-    return done ? Done : failure;
+    if (file.create())
+        return Done;
+    return errno == EEXIST ? Taken : Failed;
 }
 
 bool PresetFolder::remove(const QString &name)

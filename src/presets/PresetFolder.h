@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+class NewFile;
 struct stat;
 
 /**
@@ -23,11 +24,6 @@ public:
     enum IfMissing {
         LeaveIt,
         MakeIt
-    };
-    /** Whether to wait until the disk has a file. Without that, a crash of the system may leave it empty. */
-    enum Sync {
-        ToDisk,
-        Later
     };
     enum Result {
         Done,
@@ -49,7 +45,7 @@ public:
      * Replaces the file or link @p name atomically by an executable file. The permissions and the owner of an earlier
      * file are kept. Fails if anything else is there, such as a folder or a pipe.
      */
-    bool replace(const QString &name, const QByteArray &content, Sync sync);
+    bool replace(const QString &name, const QByteArray &content);
 
     /** The same for a file that does not exist yet. */
     Result create(const QString &name, const QByteArray &content);
@@ -75,7 +71,7 @@ public:
     static QByteArray linkTarget(const QString &path);
 
 private:
-    QByteArray write(const QByteArray &content, const struct stat *earlier, Sync sync);
+    bool write(NewFile &file, const QByteArray &content, const struct stat *earlier);
 
     int fd = -1; // -1 when the folder could not be opened
 };

@@ -277,10 +277,7 @@ QByteArray PresetScript::text(const Content &content, const QStringList &default
 
 bool PresetScript::write(const QString &path, const QByteArray &script)
 {
-    const QString name = nameOf(path);
-    // A hidden script repeats settings that are on the disk already, and synchronising takes most of Apply's time.
-    const auto sync = name.startsWith(hiddenMark) ? PresetFolder::Later : PresetFolder::ToDisk;
-    return PresetFolder(folderOf(path), PresetFolder::MakeIt).replace(name, script, sync);
+    return PresetFolder(folderOf(path), PresetFolder::MakeIt).replace(nameOf(path), script);
 }
 
 PresetFolder::Result PresetScript::create(const QString &path, const QByteArray &script)

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
+// SPDX-License-Identifier: MIT
+
+#include "cups/NewFile.h"
+
+#include "cups/BackgroundThread.h"
+
+#include <QCoreApplication>
+
+#include <fcntl.h>
+#include <linux/magic.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+
+namespace {
+
+constexpr mode_t mode = 0666; // reduced by the umask
+
+// These file systems write the content of a file before a name that it takes from another file. On others, a power failure
+// soon after the renaming could leave an empty file.
+bool writesContentBeforeName(int fd)
+{
+    struct statfs status = {};
+    if (fstatfs(fd, &status) != 0)
+        return false;
+    return status.f_type == EXT4_SUPER_MAGIC || status.f_type == BTRFS_SUPER_MAGIC;
+}
+
+} // namespace
+
+NewFile::NewFile(int openFolder, const QByteArray &finalName)
+    : folder(openFolder)
+    , name(finalName)
+{
+    const QByteArray start = ".new-" + QByteArray::number(QCoreApplication::applicationPid()) + '-';
+    // A killed process with the same id may have left files.
+    for (int i = 0; fd < 0; ++i) {
+        temporaryName = start + QByteArray::number(i);
+        fd = openat(folder, temporaryName.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode);
+        if (fd < 0 && errno != EEXIST)
+            return;
+    }
+}
+
+NewFile::~NewFile()
+{
+    const int error = errno;
+    if (fd >= 0 && !isNamed)
+        unlinkat(folder, temporaryName.constData(), 0);
+    if (fd >= 0)
+        close(fd);
+    errno = error;
+}
+
+bool NewFile::write(const QByteArray &content)
+{
+    const char *data = content.constData();
+    for (auto left = static_cast<std::size_t>(content.size()); left > 0;) {
+        const ssize_t written = ::write(fd, data, left);
+        if (written < 0 && errno != EINTR)
+            return false;
+        if (written > 0) {
+            data += written;
+            left -= static_cast<std::size_t>(written);
+        }
+    }
+    if (!isNeededOnDisk())
+        return true;
+    isOnDisk = fsync(fd) == 0;
+    return isOnDisk;
+}
+
+bool NewFile::isNeededOnDisk() const
+{
+    struct stat earlier = {};
+    const bool isReplaced =
+        fstatat(folder, name.constData(), &earlier, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(earlier.st_mode);
+    return !isReplaced || !writesContentBeforeName(fd);
+}
+
+// A dialog need not wait for the disk, which can take seconds while other programs write much.
+void NewFile::syncLater()
+{
+    const auto sync = [file = fd] {
+        fsync(file);
+        close(file);
+    };
+    fd = -1;
+    if (auto thread = startBackgroundThread(sync))
+        thread->detach();
+    else
+        sync();
+}
+
+bool NewFile::replace()
+{
+    isNamed = renameat(folder, temporaryName.constData(), folder, name.constData()) == 0;
+    if (isNamed && !isOnDisk)
+        syncLater();
+    return isNamed;
+}
+
+bool NewFile::create()
+{
+    // Neither call replaces an existing file. File systems support one or the other.
+    isNamed = linkat(folder, temporaryName.constData(), folder, name.constData(), 0) == 0;
+    if (isNamed)
+        unlinkat(folder, temporaryName.constData(), 0);
+    else if (errno != EEXIST)
+        isNamed = renameat2(folder, temporaryName.constData(), folder, name.constData(), RENAME_NOREPLACE) == 0;
+    return isNamed;
+}
