@@ -35,7 +35,8 @@ QByteArray scriptOf(bool landscape)
     if (!preset.save({}))
         qFatal("cannot write %s", qPrintable(preset.pathName()));
     QFile file(preset.pathName());
-    file.open(QIODevice::ReadOnly);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(preset.pathName()));
     const QByteArray script = file.readAll();
     file.remove();
     return script;
