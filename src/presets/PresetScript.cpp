@@ -84,10 +84,15 @@ bool climbs(const QString &path)
     return path.contains(QLatin1String("..")) && path.split(QLatin1Char('/')).contains(QLatin1String(".."));
 }
 
+bool isControlCharacter(QChar c)
+{
+    return c.unicode() <= lastControlCharacter;
+}
+
 bool hasControlCharacter(const QString &text)
 {
     return std::any_of(
-        text.cbegin(), text.cend(), [](QChar c) { return c < QLatin1Char(' ') || c == QLatin1Char(0x7f); });
+        text.cbegin(), text.cend(), [](QChar c) { return isControlCharacter(c) || c == QLatin1Char(0x7f); });
 }
 
 QString folderOf(const QString &path)
@@ -105,11 +110,6 @@ QString nameOf(const QString &path)
 QString attribute(const QString &key, const QString &value)
 {
     return QString(attributeLine).arg(key, value);
-}
-
-bool isControlCharacter(QChar c)
-{
-    return c.unicode() <= lastControlCharacter;
 }
 
 // The line for the whole text if its attribute's line, which is read up to the first character beyond ASCII, cannot
@@ -134,8 +134,8 @@ bool isPlain(const QString &queue)
     });
 }
 
-// A value for the shell. Only blanks cause quotes; other characters with a meaning to the shell are written
-// as it is, quotes inside the value included.
+// A value for the shell. Only blanks cause quotes; other characters with a meaning to the shell are written as they are,
+// including quotes inside the value.
 QString shellWord(QString value)
 {
     for (const QLatin1String flag : {QLatin1String("True"), QLatin1String("False")})
@@ -150,7 +150,7 @@ QString optionItem(const QString &keyword, const QStringList &options, const QSt
 {
     const auto own = PresetScript::valueIndex(options, keyword);
     const auto standard = PresetScript::valueIndex(defaults, keyword);
-    // Without a value in the preset the value is the default, which equals the default.
+    // A preset without a value has the default.
     if (standard >= 0 && (own < 0 || options.at(own) == defaults.at(standard)))
         return removeItem + keyword;
     if (own < 0)
@@ -329,7 +329,7 @@ bool PresetScript::parseText(const QByteArray &data, const QString &key, QString
     if (!parseAttribute(data, key, value))
         return false;
     const QByteArray start = '\n' + ('#' + key.toLatin1() + unicodeMark + '=');
-    const auto found = data.lastIndexOf(start); // what else may begin so stands above
+    const auto found = data.lastIndexOf(start); // a name or description that looks like it comes earlier
     if (found < 0)
         return true;
     // With the sign before it: at the start of a text fromUtf8() drops a byte order mark.

@@ -79,7 +79,7 @@ bool Presets::save(const QStringList &defaults)
         const bool isDeleted = preset->state() == Preset::Deleted;
         if (!isDeleted && preset->state() != Preset::Modified)
             continue;
-        // The removal of a script that does not exist is a failure like any other: presets behind it are not written.
+        // The removal of a script that does not exist is a failure like any other: later presets are not written.
         if (!preset->save(defaults))
             return false;
         if (isDeleted)

@@ -452,7 +452,7 @@ void PrintDialog::Private::updateStatus()
     makeRoom();
 }
 
-// Whether the list still shows the destinations that the CupsSupport holds, so that both count them alike.
+// Whether the list still shows the destinations that the CupsSupport holds, so that an index means the same in both.
 bool PrintDialog::Private::listIsCurrent() const
 {
     const QList<PrinterItem> items = readPrinters(*cups);

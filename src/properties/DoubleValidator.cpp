@@ -3,16 +3,12 @@
 
 #include "properties/DoubleValidator.h"
 
-#include <QLocale>
+#include "properties/FieldLocale.h"
 
 DoubleValidator::DoubleValidator(double bottom, double top, int decimals, QObject *parent)
     : QDoubleValidator(bottom, top, decimals, parent)
 {
-    // The fields have a decimal point in every locale; the base class uses the default locale, which may not accept it.
-    // "1,000" could be read as 1 or 1000 and is refused.
-    QLocale locale = QLocale::c();
-    locale.setNumberOptions(locale.numberOptions() | QLocale::RejectGroupSeparator);
-    setLocale(locale);
+    setLocale(fieldLocale());
 }
 
 QValidator::State DoubleValidator::validate(QString &input, int &pos) const

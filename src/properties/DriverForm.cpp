@@ -225,7 +225,7 @@ void DriverForm::showNote()
         const QMargins margins = dialog.layout()->contentsMargins();
         note->setContentsMargins(margins.left(), margins.top(), margins.right(), 0);
         dialog.layout()->setMenuBar(note);
-        note->show(); // the dialog may be about to be shown, with all that it had before
+        note->show(); // a dialog that is just being shown shows only what it had before
     }
     note->setText(PrintPropertiesDialog::tr("The driver of this printer has no label settings. Only the page size and "
                                             "the orientation take effect."));

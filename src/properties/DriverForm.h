@@ -74,7 +74,7 @@ private:
     QDialog &dialog;
     Ui_PrintPropertiesDialog &ui;
     const DriverSettings &driver;
-    QLabel *note = nullptr; // goes with the dialog
+    QLabel *note = nullptr; // owned by the dialog
     std::vector<std::pair<QWidget *, QString>> marked; // with the tool tips that they had before
 };
 

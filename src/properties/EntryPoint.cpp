@@ -6,9 +6,9 @@
 #include "cups/CupsSupport.h"
 #include "cups/Scheduler.h"
 #include "host/HostLocale.h"
-#include "properties/PrintPropertiesDialog.h"
 #include "host/Translation.h"
 #include "host/WindowSystem.h"
+#include "properties/PrintPropertiesDialog.h"
 
 #include <QApplication>
 #include <QPrintEngine>
@@ -22,8 +22,8 @@ namespace {
 // The dialog of this queue; of the default printer if it is null.
 int runDialog(const char *queue)
 {
-    // Qt would request all destinations and the PPD file again and wait without a limit. Nothing
-    // is printed with this printer object, so it only needs the name of the queue.
+    // Qt would request all destinations and the PPD file again and wait without a limit. Nothing is printed with this
+    // printer object, so it only needs the name of the queue.
     std::optional<QPrinter> printer;
     Scheduler::callWithoutScheduler([&printer] { printer.emplace(QPrinter::ScreenResolution); });
     CupsSupport cups;

@@ -4,9 +4,9 @@
 #include "properties/ExtDialog.h"
 
 #include "cups/CupsSupport.h"
+#include "ui_ExtDialog.h"
 #include "widgets/FormButtons.h"
 #include "widgets/FormRoom.h"
-#include "ui_ExtDialog.h"
 
 #include <QEvent>
 #include <QStyle>

@@ -3,9 +3,9 @@
 
 // The members of the dialog that give the form the size that it needs.
 
-#include "widgets/FormRoom.h"
 #include "properties/NumberField.h"
 #include "properties/PrintPropertiesDialogPrivate.h"
+#include "widgets/FormRoom.h"
 
 #include <QScreen>
 #include <QScrollArea>
@@ -23,7 +23,7 @@ constexpr int presetListWidth = 160; // pixels; the form's
 constexpr int asInStyle = -1;
 constexpr int titleBarHeight = 40; // pixels; that of usual window managers, with the frame
 
-// What is above the form.
+// Of the note above the form, if there is one.
 int noteHeight(const QDialog &dialog)
 {
     const QWidget *note = dialog.layout()->menuBar();
@@ -96,7 +96,7 @@ QSize PrintPropertiesDialog::Private::neededSize()
         area->setMinimumWidth(page.width() + area->verticalScrollBar()->sizeHint().width());
         scrolled = std::max(scrolled, page.height() - area->minimumSizeHint().height());
     }
-    ui.tabs->updateGeometry(); // its pages do not tell it
+    ui.tabs->updateGeometry(); // it does not notice the changes of its pages
     return q->minimumSizeHint() + QSize(0, scrolled);
 }
 
@@ -109,7 +109,8 @@ void PrintPropertiesDialog::Private::setRoom(const Room &room)
     ui.gridLayout_20->setContentsMargins(asInStyle, room.aroundForm, asInStyle, room.aroundForm);
 }
 
-// What is on a page goes into a scroll area on it. The pages stay, as the form knows them. Returns whether they were changed.
+// Moves what is on each page into a scroll area on it; the pages themselves stay, since the form refers to them. Returns
+// whether they were changed.
 bool PrintPropertiesDialog::Private::scrollPages()
 {
     if (ui.tabs->findChild<QScrollArea *>())

@@ -77,7 +77,7 @@ void forEachSetting(Function function)
     function("OffsetV", &S::offsetV, &C::getOffsetV, &C::setOffsetV, AsItIs());
 }
 
-// Only numbers can be shown.
+// Infinity and NaN, which an option can contain, cannot be shown.
 template<class Value>
 bool isShowable(const Value &)
 {

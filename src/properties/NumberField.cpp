@@ -6,6 +6,7 @@
 #include "cups/Rounding.h"
 #include "cups/Units.h"
 #include "properties/DoubleValidator.h"
+#include "properties/FieldLocale.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -13,7 +14,6 @@
 #include <QIntValidator>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QLocale>
 #include <QToolTip>
 
 #include <algorithm>
@@ -24,13 +24,6 @@ constexpr int decimals = 2;
 
 // Every number that a line edit shows goes through this.
 const QString numberFormat = QStringLiteral("%1");
-
-QLocale cLocale()
-{
-    QLocale locale = QLocale::c();
-    locale.setNumberOptions(QLocale::RejectGroupSeparator);
-    return locale;
-}
 
 // Many keypads have a comma where the fields have a point.
 QString withPoints(QString text)
@@ -121,7 +114,7 @@ void NumberField::acceptInches(std::initializer_list<QLineEdit *> edits, const M
 void NumberField::acceptDots(std::initializer_list<QLineEdit *> edits, int limit, QObject *parent)
 {
     auto *validator = new QIntValidator(-limit, limit, parent);
-    validator->setLocale(cLocale());
+    validator->setLocale(fieldLocale());
     for (QLineEdit *edit : edits)
         of(edit)->accept(validator, dotsTexts, of(edit)->unitsPerInch);
 }
@@ -184,7 +177,7 @@ std::optional<int> NumberField::rounded(const QLineEdit *edit)
     return value ? std::optional<int>(roundHalfUp(*value)) : std::nullopt;
 }
 
-// ----- what is typed -----
+// ----- typing -----
 
 bool NumberField::eventFilter(QObject *object, QEvent *event)
 {
@@ -252,7 +245,7 @@ bool NumberField::accepts(QString text) const
     return edit->validator()->validate(text, position) != QValidator::Invalid;
 }
 
-// ----- what is said -----
+// ----- tool tips -----
 
 void NumberField::describe()
 {

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-// The members of the dialog that work with presets: the Presets tab, and the list on the Page Setup tab.
+// The members of the dialog that work with presets: the Presets tab, the list on the Page Setup tab, and what saving
+// writes into presets.
 
 #include "cups/Units.h"
 #include "presets/DriverCommand.h"
@@ -213,7 +214,7 @@ void PrintPropertiesDialog::Private::showPresetNote(Preset *preset)
     presetNote->setVisible(!note.isEmpty());
     presetNote->setToolTip(note);
     ui.preset1->setToolTip(note);
-    describe(ui.preset1, note);
+    setDescription(ui.preset1, note);
 }
 
 void PrintPropertiesDialog::on_manageButton_clicked()

@@ -38,8 +38,8 @@ public:
 // The position of a label of these proportions; @p usable is the size of the widget less one pixel on each side.
 //
 // A tall label scales with the usable width and a wide one with the usable height: the widget is square in the dialog,
-// where this makes no difference. The margin is the truncated half of the remainder, on both sides, so
-// that the label stays centred and an odd pixel goes to the label.
+// where this makes no difference. The margin is the truncated half of the remainder, on both sides, so that the label
+// stays centred and an odd pixel goes to the label.
 QRect labelRect(double labelWidth, double labelHeight, const QSize &usable)
 {
     if (usable.isEmpty())
@@ -49,7 +49,7 @@ QRect labelRect(double labelWidth, double labelHeight, const QSize &usable)
     const int available = tall ? usable.width() : usable.height();
     const double shorter = tall ? labelWidth : labelHeight;
     const double longer = tall ? labelHeight : labelWidth;
-    // The bounds, and roundHalfUp() taking no number for 0, make lengths of zero and below harmless.
+    // Lengths of zero and below do no harm: the result is kept within bounds, and roundHalfUp() turns NaN into 0.
     const int scaled = roundHalfUp(std::clamp(shorter * available / longer, 0.0, static_cast<double>(available)));
     const int margin = (available - scaled) / 2;
     if (tall)

@@ -189,8 +189,8 @@ void PrintPropertiesDialog::Private::showStopLabel()
                                                : PrintPropertiesDialog::tr("Stop Position"));
 }
 
-// The texts of screen readers for the preview and for the field whose meaning depends on the chosen radio button.
-void PrintPropertiesDialog::Private::describeFields()
+// What the preview shows, and which command the field holds, which is seen only from the chosen radio button.
+void PrintPropertiesDialog::Private::describeForScreenReaders()
 {
     static constexpr const char *texts[] = {
         QT_TRANSLATE_NOOP("PrintPropertiesDialog", "Orientation: %1"),
@@ -199,12 +199,13 @@ void PrintPropertiesDialog::Private::describeFields()
         QT_TRANSLATE_NOOP("PrintPropertiesDialog", "Orientation: %1, mirrored and negative"),
     };
     const int effects = (preview->mirror ? 1 : 0) + (preview->negative ? 2 : 0);
-    describe(preview, PrintPropertiesDialog::tr(texts[effects]).arg(orientationButton(preview->orientation)->text()));
-    describe(ui.commandEdit, commands.selectedName());
+    setDescription(preview,
+                   PrintPropertiesDialog::tr(texts[effects]).arg(orientationButton(preview->orientation)->text()));
+    setDescription(ui.commandEdit, commands.selectedName());
 }
 
 // Setting a description, even to the same text, makes Qt search the disk for plug-ins.
-void PrintPropertiesDialog::Private::describe(QWidget *widget, const QString &text)
+void PrintPropertiesDialog::Private::setDescription(QWidget *widget, const QString &text)
 {
     if (widget->accessibleDescription() != text)
         widget->setAccessibleDescription(text);
@@ -505,7 +506,7 @@ void PrintPropertiesDialog::updatePreview()
     d->preview->mirror = d->ui.mirroredCheckBox->isChecked();
     d->preview->negative = d->ui.inverseCheckBox->isChecked();
     d->preview->update();
-    d->describeFields();
+    d->describeForScreenReaders();
 }
 
 void PrintPropertiesDialog::Private::previewChanged(bool isChange)
@@ -571,12 +572,12 @@ void PrintPropertiesDialog::on_mediaType_currentIndexChanged(int iIndex)
 // Fills the gap fields from the stored options and thus discards what was typed into them for another type.
 void PrintPropertiesDialog::Private::showMediaType(int type)
 {
-    showGap(type);
+    fillGapFields(type);
     media.showRows(type);
     q->setChanged(true);
 }
 
-void PrintPropertiesDialog::Private::showGap(int mediaType)
+void PrintPropertiesDialog::Private::fillGapFields(int mediaType)
 {
     const auto gap = MediaRows::gapOf(mediaType);
     if (!cups || !gap)
@@ -593,7 +594,7 @@ void PrintPropertiesDialog::Private::selectCommand(bool isSelected, std::size_t 
     if (!isSelected)
         return;
     commands.select(position);
-    describeFields();
+    describeForScreenReaders();
 }
 
 // A table of one-line functions.
@@ -655,5 +656,5 @@ void PrintPropertiesDialog::Private::retranslate()
     ui.darknessValue->setText(darkness);
     showOwnTexts();
     form.describeFields();
-    describeFields();
+    describeForScreenReaders();
 }

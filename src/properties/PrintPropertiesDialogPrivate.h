@@ -33,13 +33,14 @@ struct PrintPropertiesDialog::Private
 {
     Private(PrintPropertiesDialog *dialog, QPrinter *printer_, CupsSupport *cups_);
 
+    // Construction
     void turnToPrinter();
     void fitToPrinter();
-    void createPresets();
     void createValidators();
     void fillLists();
     void hideUnusedRows();
 
+    // The size of the form: FormSize.cpp
     struct Room;
     void makeRoom();
     QSize tightenedSize();
@@ -47,12 +48,15 @@ struct PrintPropertiesDialog::Private
     void setRoom(const Room &room);
     bool scrollPages();
     void widenFields();
-    void describeFields();
-    static void describe(QWidget *widget, const QString &text);
+
+    // Texts
+    void describeForScreenReaders();
+    static void setDescription(QWidget *widget, const QString &text);
     void retranslate();
     void showOwnTexts();
     void showStopLabel();
 
+    // Fields
     void showPageSize();
     void showFamily();
     void show(const LabelSettings &settings);
@@ -62,26 +66,29 @@ struct PrintPropertiesDialog::Private
     void fillEmptyFields();
     QRadioButton *orientationButton(int code) const;
     void showMediaType(int type);
-    void showGap(int mediaType);
+    void fillGapFields(int mediaType);
     void previewChanged(bool isChange);
     void selectCommand(bool isSelected, std::size_t position);
 
+    // Saving
     bool saveOptions();
     void storeFields();
     QStringList optionsOfFields();
     void markConflicts();
-    QStringList defaultsForPresets() const;
-    void apply(Preset &preset);
-    void emptyCommands(const QStringList &options);
-    void takePageSize(Preset &preset);
-    void applyPageSize(const QSizeF &size);
-    bool savePresets(const QSizeF &size, const QStringList &defaults);
-    bool saveCurrentSettings(const QSizeF &size, const QStringList &defaults);
 
+    // Presets: PresetsTab.cpp
+    void createPresets();
     int positionOf(Preset *preset, const QComboBox *list) const;
     Preset *selectedPreset() const;
     void choosePreset(int index);
     void showPresetNote(Preset *preset);
+    void apply(Preset &preset);
+    void emptyCommands(const QStringList &options);
+    void takePageSize(Preset &preset);
+    void applyPageSize(const QSizeF &size);
+    QStringList defaultsForPresets() const;
+    bool savePresets(const QSizeF &size, const QStringList &defaults);
+    bool saveCurrentSettings(const QSizeF &size, const QStringList &defaults);
 
     PrintPropertiesDialog *const q;
     QPrinter *printer;
@@ -95,8 +102,8 @@ struct PrintPropertiesDialog::Private
     MediaRows media;
     UserCommands commands;
     Presets presets;
-    Preview *preview = nullptr; // goes with the frame that it is in
-    QAction *presetNote = nullptr; // goes with the name field that it is in
+    Preview *preview = nullptr; // owned by the frame that it is in
+    QAction *presetNote = nullptr; // owned by the name field
     bool updatingPresets = false;
     bool fillingFields = true; // until they are filled for the first time
     bool changed = true;
