@@ -63,9 +63,12 @@ std::optional<Credentials> Passwords::known(const QByteArray &server)
 
 bool Passwords::ask(const QByteArray &server, bool isRefused)
 {
-    if (isRefused || enteredFor != server)
+    if (enteredFor != server)
         entered.reset();
     enteredFor = server;
+    Credentials answer{entered ? entered->user : QString::fromUtf8(cupsUser()), QString()};
+    if (isRefused)
+        entered.reset();
     if (isAsking || Clock::now() - declined < pauseBetweenActions) {
         decline();
         return false;
@@ -73,7 +76,6 @@ bool Passwords::ask(const QByteArray &server, bool isRefused)
     const bool asksInWindow = windowPrompt && hasWindows();
     if (!asksInWindow && isInBackground())
         return false;
-    Credentials answer{QString::fromUtf8(cupsUser()), QString()};
     isAsking = true;
     const bool isAnswered = asksInWindow ? windowPrompt(&answer, isRefused) : askAsLibcups(&answer, server);
     isAsking = false;

@@ -50,13 +50,16 @@ private:
             return;
         }
         ++asked;
-        askedAgain += window->findChild<QLabel *>("refusedLabel")->isVisible() ? 1 : 0;
+        // After a wrong password the user name need not be typed again.
+        const bool isAgain = window->findChild<QLabel *>("refusedLabel")->isVisible();
+        auto *userEdit = window->findChild<QLineEdit *>("userEdit");
+        askedAgain += isAgain && userEdit->text() == "user" ? 1 : 0;
         auto *dialog = qobject_cast<QDialog *>(window);
         if (toEnter.isEmpty()) {
             dialog->reject();
             return;
         }
-        window->findChild<QLineEdit *>("userEdit")->setText("user");
+        userEdit->setText("user");
         window->findChild<QLineEdit *>("passwordEdit")->setText(toEnter.takeFirst());
         dialog->accept();
     }
