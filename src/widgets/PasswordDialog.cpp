@@ -8,6 +8,7 @@
 #include "widgets/FormButtons.h"
 
 #include <QApplication>
+#include <QEvent>
 
 namespace {
 
@@ -51,4 +52,11 @@ QString PasswordDialog::user() const
 QString PasswordDialog::password() const
 {
     return ui->passwordEdit->text();
+}
+
+void PasswordDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        ui->retranslateUi(this);
 }

@@ -26,6 +26,10 @@ public:
     QString user() const;
     QString password() const;
 
+protected:
+    /** Updates the texts after a change of language. */
+    void changeEvent(QEvent *event) override;
+
 private:
     const std::unique_ptr<Ui_PasswordDialog> ui;
 };

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "OpenDialog.h"
 #include "Pictures.h"
 #include "TestMain.h"
 #include "widgets/PasswordDialog.h"
@@ -14,8 +15,21 @@ class PasswordDialogTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void textsChangeWithTheLanguage();
     void buttonsKeepIconAndTextInArabic();
 };
+
+void PasswordDialogTest::textsChangeWithTheLanguage()
+{
+    PasswordDialog dialog(nullptr, "user", false);
+    dialog.show();
+    const MarkingTranslator translator;
+    QCoreApplication::processEvents();
+    QCOMPARE(dialog.windowTitle(), QString("PasswordDialog: Password"));
+    QCOMPARE(childOf<QLabel>(dialog, "userLabel")->text(), QString("PasswordDialog: User name:"));
+    QCOMPARE(dialog.user(), QString("user"));
+    QVERIFY(!childOf<QLabel>(dialog, "refusedLabel")->isVisible());
+}
 
 void PasswordDialogTest::buttonsKeepIconAndTextInArabic()
 {
