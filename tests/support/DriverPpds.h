@@ -20,21 +20,17 @@ public:
      * @param name a PPD file of CUPS itself ("zebra", "zebracpl", "zebraep1", "zebraep2", "intelbar", "dymo", "epson9", "laserjet"),
      *             or DRIVER:MODEL, with a part of what the driver calls the model, such as "ptouch:QL-820NWB" and
      *             "dymo:lm450".
-     * @return the path of the file, which this object removes.
+     * @return the path of the file; if a driver made it, this object removes it.
      */
     QString ppd(const QString &name)
     {
-        const QString path = folder.filePath(QString(name).replace(':', '-') + ".ppd");
-        if (QFile::exists(path))
-            return path;
         const QString driver = name.section(':', 0, 0);
         const QString model = name.section(':', 1);
         if (model.isEmpty())
-            PrivateScheduler::run("ppdc", {"-l", "en", "-d", folder.path(), "/usr/share/cups/drv/sample.drv"});
-        else
-            write(path, PrivateScheduler::run(program(driver), {"cat", uri(driver, model)}));
+            return PrivateScheduler::samplePpd("cups/" + name);
+        const QString path = folder.filePath(QString(name).replace(':', '-') + ".ppd");
         if (!QFile::exists(path))
-            qFatal("no PPD file %s", qPrintable(name));
+            write(path, PrivateScheduler::run(program(driver), {"cat", uri(driver, model)}));
         return path;
     }
 

@@ -11,6 +11,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <cups/ipp.h>
+
 /** What one print job sent to its printer. */
 struct CapturedJob
 {
@@ -83,7 +85,7 @@ public:
     /** Waits for the job with this number. */
     CapturedJob job(int number);
 
-    /** The path of a sample PPD file: label-203, label-300, every-option or few-options. */
+    /** The path of a sample PPD file: label-203, label-300, every-option or few-options, or cups/NAME, see DriverPpds. */
     static QString samplePpd(const QString &name);
 
     /** The path of a copy of @p ppd with texts replaced; each must occur in it. */
@@ -97,6 +99,7 @@ public:
 
 private:
     void script(const QString &command);
+    void send(ipp_t *request, const QString &file = {}) const;
     QList<CapturedJob> capturedNow() const;
     QByteArray accessLog() const;
 
