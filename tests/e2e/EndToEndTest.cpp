@@ -98,7 +98,7 @@ public:
         for (look(); !condition(); look()) {
             if (timer.elapsed() > patienceMs)
                 qFatal("waited in vain for %s; the dialog: %s", what, QJsonDocument(state).toJson().constData());
-            QTest::qWait(20);
+            QTest::qWait(5);
         }
     }
 
@@ -157,7 +157,8 @@ public:
         waitFor(name, [&] { return widget(name).value("focus").toBool(); });
     }
 
-    void key(const QString &name) { xdotool({"key", name}); }
+    void key(const QString &name) { keys({name}); }
+    void keys(const QStringList &names) { xdotool(QStringList("key") + names); }
     void type(const QString &text) { xdotool({"type", "--delay", "5", text}); }
 
     void retype(const char *name, const QString &text)
@@ -173,8 +174,7 @@ public:
         focusOn(name);
         key("Home");
         waitUntilShown(name, 0);
-        for (int i = 0; i < value; ++i)
-            key("Right");
+        keys(QVector<QString>(value, "Right").toList());
         waitUntilShown(name, value);
     }
 
@@ -183,10 +183,7 @@ public:
     {
         click(name);
         waitFor(name, [&] { return state.value("popup").toBool(); });
-        key("Home");
-        for (int i = 0; i < index; ++i)
-            key("Down");
-        key("Return");
+        keys(QStringList("Home") + QVector<QString>(index, "Down").toList() + QStringList("Return"));
     }
 
     void apply()
