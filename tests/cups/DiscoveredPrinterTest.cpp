@@ -195,7 +195,7 @@ void DiscoveredPrinterTest::unreachable()
     const Discovered dest(isListening ? "Silent" : "Closed", "Printer in the cellar", port.number);
     if (!isListening)
         port.closeNow();
-    Scheduler::setLimits({5s, 15s, 1500ms});
+    Scheduler::setLimits({5s, 15s, 500ms});
     QElapsedTimer timer;
     timer.start();
     QCOMPARE(dest.print(), 0);

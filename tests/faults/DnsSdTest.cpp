@@ -204,6 +204,7 @@ void DnsSdTest::unreachable_data()
 void DnsSdTest::unreachable()
 {
     QFETCH(QString, description);
+    Scheduler::setLimits({5s, 15s, 1s});
     const CupsSupport cups;
     QElapsedTimer timer;
     timer.start();

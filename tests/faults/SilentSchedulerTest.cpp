@@ -17,7 +17,6 @@
 
 #include <cstdio>
 #include <functional>
-#include <future>
 #include <memory>
 #include <vector>
 
@@ -208,7 +207,6 @@ const QList<Action> &actions()
 // The scheduler falls silent while the dialog is open: PROCESS ACTION
 int fallSilent(int &argc, char **argv)
 {
-    Scheduler::setLimits(shortLimits);
     const QApplication app(argc, argv);
     const pid_t scheduler = QByteArray(argv[1]).toInt();
     OpenDialog open;
@@ -229,7 +227,6 @@ const TestMain::ChildFunction fallSilentFunction("fall-silent", fallSilent);
 // Another printer is chosen in the print dialog after the scheduler has fallen silent: PROCESS
 int changePrinter(int &argc, char **argv)
 {
-    Scheduler::setLimits(shortLimits);
     const QApplication app(argc, argv);
     const pid_t scheduler = QByteArray(argv[1]).toInt();
     QPrinter printer(QPrinter::ScreenResolution);
@@ -285,31 +282,32 @@ private slots:
     void initTestCase();
     void cleanup();
 
+    // The processes with the faults wait in the meantime.
     void member_data();
     void member();
-    void fault_data();
-    void fault();
-    void usualLimits();
-    void brokenPpdFile();
     void whileOpen_data();
     void whileOpen();
     void printerIsChanged();
     void answersAgain();
 
+    void fault_data();
+    void fault();
+    void usualLimits();
+    void brokenPpdFile();
+
 private:
     void runsInTime(const char *function, const QStringList &arguments);
 
+    static void addQueues(PrivateScheduler &to);
     void startFaults();
-    void collectFaults();
     QString socketOf(FaultyScheduler::Fault fault) const;
 
+    PrivateScheduler upstream; // of the faulty ones; the other is stopped at times
     PrivateScheduler scheduler;
     QTemporaryDir folder{"/tmp/pd-XXXXXX"};
     std::vector<std::unique_ptr<FaultyScheduler>> faulty;
-    std::vector<std::pair<FaultyScheduler::Fault, std::future<TestMain::ChildResult>>> children;
-    std::future<TestMain::ChildResult> patient;
-    QMap<FaultyScheduler::Fault, QList<TestMain::ChildResult>> faultResults;
-    TestMain::ChildResult patientResult;
+    std::vector<std::pair<FaultyScheduler::Fault, std::unique_ptr<TestMain::Child>>> children;
+    std::unique_ptr<TestMain::Child> patient;
     Outcomes running;
     Outcomes silent;
     Outcomes noPrinter;
@@ -318,10 +316,8 @@ private:
 
 void SilentSchedulerTest::initTestCase()
 {
-    scheduler.addQueue("LP1", PrivateScheduler::samplePpd("every-option"), "First Printer");
-    scheduler.addQueue("LP2", PrivateScheduler::samplePpd("label-300"), "Second Printer");
-    scheduler.addQueue("LP3", QString(), "Raw Printer");
-    scheduler.setServerDefault("LP1");
+    addQueues(upstream);
+    addQueues(scheduler);
     for (const char *queue : {"LP1", "LP3"})
         scheduler.setUserOptions(queue, {"Darkness=5", "GapSize=4.5", "JobStart=begin", "Back=30"});
     writeFile(document(), "text\n");
@@ -330,7 +326,6 @@ void SilentSchedulerTest::initTestCase()
     running = callEach(cups);
     noPpdFile = callEach(cups, [](CupsSupport &c) { c.setCurrentPrinter(2); });
     startFaults();
-    collectFaults();
     Scheduler::setLimits(shortestLimits);
     kill(processOf(scheduler), SIGSTOP);
     silent = callEach(cups);
@@ -343,14 +338,21 @@ void SilentSchedulerTest::cleanup()
     kill(processOf(scheduler), SIGCONT);
 }
 
+void SilentSchedulerTest::addQueues(PrivateScheduler &to)
+{
+    to.addQueue("LP1", PrivateScheduler::samplePpd("every-option"), "First Printer");
+    to.addQueue("LP2", PrivateScheduler::samplePpd("label-300"), "Second Printer");
+    to.addQueue("LP3", QString(), "Raw Printer");
+    to.setServerDefault("LP1");
+}
+
 // Each action with each fault, in a process and a HOME of its own, all at the same time.
 void SilentSchedulerTest::startFaults()
 {
-    // The processes are forked before there are other threads.
     for (const auto &[fault, name] : faults()) {
         const bool isBetween = fault >= FaultyScheduler::OnlyOptions;
         faulty.push_back(
-            std::make_unique<FaultyScheduler>(socketOf(fault), fault, isBetween ? scheduler.socket() : QString()));
+            std::make_unique<FaultyScheduler>(socketOf(fault), fault, isBetween ? upstream.socket() : QString()));
     }
     for (const auto &[fault, name] : faults())
         for (const char *function : {"all-members", "whole-dialog", "print-dialog", "print-job"}) {
@@ -358,22 +360,12 @@ void SilentSchedulerTest::startFaults()
             writeFile(home + "/document.txt", "text\n");
             const QString socket = socketOf(fault);
             const bool isLater = qstrcmp(function, "print-job") == 0;
-            const QMap<QString, QString> environment{{"CUPS_SERVER", isLater ? scheduler.socket() : socket},
+            const QMap<QString, QString> environment{{"CUPS_SERVER", isLater ? upstream.socket() : socket},
                                                      {"HOME", home}};
-            children.emplace_back(fault, std::async(std::launch::async, [=] {
-                                      return TestMain::runChild(function, {socket}, environment);
-                                  }));
+            children.emplace_back(fault, std::make_unique<TestMain::Child>(function, QStringList{socket}, environment));
         }
-    patient = std::async(std::launch::async, [socket = socketOf(FaultyScheduler::NeverAnswers)] {
-        return TestMain::runChild("open-patiently", {}, {{"CUPS_SERVER", socket}});
-    });
-}
-
-void SilentSchedulerTest::collectFaults()
-{
-    for (auto &[fault, child] : children)
-        faultResults[fault] << child.get();
-    patientResult = patient.get();
+    const QMap<QString, QString> environment{{"CUPS_SERVER", socketOf(FaultyScheduler::NeverAnswers)}};
+    patient = std::make_unique<TestMain::Child>("open-patiently", QStringList(), environment);
 }
 
 QString SilentSchedulerTest::socketOf(FaultyScheduler::Fault fault) const
@@ -418,7 +410,10 @@ void SilentSchedulerTest::fault_data()
 void SilentSchedulerTest::fault()
 {
     QFETCH(FaultyScheduler::Fault, fault);
-    for (const TestMain::ChildResult &result : faultResults.value(fault)) {
+    for (const auto &[faultOfChild, child] : children) {
+        if (faultOfChild != fault)
+            continue;
+        const TestMain::ChildResult result = child->result();
         QCOMPARE(result.exitCode, 0);
         qInfo("%s", result.output.simplified().constData());
         const QList<QByteArray> times = result.output.simplified().split(' ');
@@ -430,8 +425,9 @@ void SilentSchedulerTest::fault()
 // The limits that users have.
 void SilentSchedulerTest::usualLimits()
 {
-    QCOMPARE(patientResult.exitCode, 0);
-    QVERIFY2(patientResult.output.toLongLong() < 5000 + 20000, patientResult.output.constData());
+    const TestMain::ChildResult result = patient->result();
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.output.toLongLong() < 5000 + 20000, result.output.constData());
 }
 
 // An incomplete PPD file is not used: options in the rest would seem to be missing.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "cups/Scheduler.h"
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
@@ -15,6 +16,8 @@
 #include <csignal>
 #include <functional>
 #include <memory>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -57,6 +60,7 @@ int showWithoutAnswer(int &argc, char **argv)
     QPrinter printer;
     CupsSupport cups;
     PrintDialog dialog(nullptr, &printer, &cups);
+    Scheduler::setLimits({1500ms, 3000ms}); // the usual ones would only take longer
     kill(process, SIGSTOP);
     QElapsedTimer timer;
     timer.start();

@@ -4,7 +4,6 @@
 #include "TestMain.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <cups/cups.h>
@@ -158,8 +157,7 @@ TestMain::ChildFunction::ChildFunction(const char *name, Function function)
     childFunctions().insert(name, function);
 }
 
-TestMain::ChildResult TestMain::runChild(const char *name, const QStringList &arguments,
-                                         const QMap<QString, QString> &environment)
+TestMain::Child::Child(const char *name, const QStringList &arguments, const QMap<QString, QString> &environment)
 {
     QProcessEnvironment childEnvironment = QProcessEnvironment::systemEnvironment();
     for (auto it = environment.begin(); it != environment.end(); ++it)
@@ -167,10 +165,13 @@ TestMain::ChildResult TestMain::runChild(const char *name, const QStringList &ar
             childEnvironment.remove(it.key());
         else
             childEnvironment.insert(it.key(), it.value());
-    QProcess process;
     process.setProcessEnvironment(childEnvironment);
     process.start(QStringLiteral("/proc/self/exe"), QStringList{childArgument, name} + arguments);
-    if (!process.waitForFinished(120000)) {
+}
+
+TestMain::ChildResult TestMain::Child::result()
+{
+    if (process.state() != QProcess::NotRunning && !process.waitForFinished(120000)) {
         process.kill(); // which counts as a crash
         process.waitForFinished();
     }
@@ -180,6 +181,12 @@ TestMain::ChildResult TestMain::runChild(const char *name, const QStringList &ar
     result.errors = process.readAllStandardError();
     std::fputs(result.errors.constData(), stderr);
     return result;
+}
+
+TestMain::ChildResult TestMain::runChild(const char *name, const QStringList &arguments,
+                                         const QMap<QString, QString> &environment)
+{
+    return Child(name, arguments, environment).result();
 }
 
 int TestMain::prepare(int &argc, char **argv)

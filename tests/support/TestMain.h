@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QByteArray>
 #include <QMap>
+#include <QProcess>
 #include <QString>
 #include <QStringList>
 #include <QTest>
@@ -40,11 +41,23 @@ struct ChildResult
     QByteArray errors;
 };
 
-/**
- * Runs a registered function in a new process of this program, with the same HOME and environment but for
- * @p environment, where a null value removes a variable. No application object exists there. argv[0] is the program and
- * is followed by @p arguments. Its standard error is also shown.
- */
+/** A registered function that runs in a new process of this program. */
+class Child
+{
+public:
+    /**
+     * Starts it with the same HOME and environment but for @p environment, where a null value removes a variable. No
+     * application object exists there. argv[0] is the program and is followed by @p arguments.
+     */
+    explicit Child(const char *name, const QStringList &arguments = {}, const QMap<QString, QString> &environment = {});
+
+    /** Waits until it has ended. Its standard error is also shown. */
+    ChildResult result();
+
+    QProcess process; ///< To talk with it.
+};
+
+/** Runs a Child to its end. */
 ChildResult runChild(const char *name, const QStringList &arguments = {},
                      const QMap<QString, QString> &environment = {});
 
