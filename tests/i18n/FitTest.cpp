@@ -171,9 +171,16 @@ void examine(const QWidget &window, const QString &what)
         const_cast<QWidget &>(window).grab().save(folder + '/' + QString(what).replace(' ', '-') + ".png");
 }
 
+void show(QWidget &dialog)
+{
+    // The sizes do not depend on painting, which would take much of the time.
+    dialog.setUpdatesEnabled(qEnvironmentVariableIsSet("FIT_PICTURES"));
+    dialog.show();
+}
+
 void examineTabs(QWidget &dialog, const QString &what)
 {
-    dialog.show();
+    show(dialog);
     auto *tabs = dialog.findChild<QTabWidget *>("tabs");
     auto *media = dialog.findChild<QComboBox *>("mediaType");
     for (int tab = 0; tab < tabs->count(); ++tab) {
@@ -195,7 +202,7 @@ void examineAll(const AllDialogs &dialogs, const QString &what)
     dialogs.properties->hide();
     for (const char *name : {"print", "question", "offset", "password"}) {
         QDialog *dialog = dialogs.byName().value(name);
-        dialog->show();
+        show(*dialog);
         examine(*dialog, what + ' ' + name);
         dialog->hide();
     }
