@@ -216,7 +216,8 @@ private:
 
     void clickAt(const QPoint &place)
     {
-        xdotool({"mousemove", QString::number(place.x()), QString::number(place.y()), "click", "1"});
+        // Otherwise it waits for 100 ms after the click.
+        xdotool({"mousemove", QString::number(place.x()), QString::number(place.y()), "click", "--delay", "0", "1"});
     }
 
     void xdotool(const QStringList &arguments, bool mayFail = false)

@@ -167,10 +167,21 @@ void PrivateScheduler::setUserDefault(const QString &name)
 
 void PrivateScheduler::setUserOptions(const QString &name, const QStringList &options)
 {
-    QStringList arguments{"-p", name};
+    const Connection connection = connectTo(socket());
+    const QByteArray queue = name.section('/', 0, 0).toUtf8();
+    const QByteArray instance = name.section('/', 1).toUtf8();
+    cups_dest_t *dests = nullptr;
+    int count = cupsGetDests2(connection.get(), &dests);
+    count = cupsAddDest(queue.constData(), instance.isEmpty() ? nullptr : instance.constData(), count, &dests);
+    cups_dest_t *dest =
+        cupsGetDest(queue.constData(), instance.isEmpty() ? nullptr : instance.constData(), count, dests);
+    if (!dest)
+        qFatal("there is no queue %s", queue.constData());
     for (const QString &option : options)
-        arguments << "-o" << option;
-    run("lpoptions", arguments);
+        dest->num_options = cupsParseOptions(option.toUtf8().constData(), dest->num_options, &dest->options);
+    if (cupsSetDests2(connection.get(), count, dests) != 0)
+        qFatal("the options of %s cannot be saved: %s", qPrintable(name), cupsLastErrorString());
+    cupsFreeDests(count, dests);
 }
 
 QByteArray PrivateScheduler::run(const QString &program, const QStringList &arguments)

@@ -40,17 +40,12 @@ public:
             qFatal("weston is not installed");
         const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + "/pd-wayland";
         for (int tries = 0; !QFile::exists(socket); ++tries) {
-            if (tries == 6000)
+            if (tries == 600)
                 qFatal("weston does not start");
-            QThread::msleep(10);
+            QThread::msleep(100);
         }
         // Without a window manager, nothing else gives it the keyboard focus.
-        const QStringList focusWindow{"search", "--onlyvisible", "--class", "weston", "windowfocus"};
-        for (int tries = 0; QProcess::execute("xdotool", focusWindow) != 0; ++tries) {
-            if (tries == 600)
-                qFatal("weston shows no window");
-            QThread::msleep(50);
-        }
+        runTool({"search", "--sync", "--onlyvisible", "--class", "weston", "windowfocus"});
     }
     ~Compositor()
     {
