@@ -299,11 +299,10 @@ int CupsSupport::setDests()
         change.isDamaged = stored.isDamaged;
         if (change.isEmpty())
             continue;
-        // Without the PPD file, which is only open for the current printer, the empty value is the safe side.
-        const bool areDefaultsKnown = i == currentIndex && !isPpdFileOutOfReach();
-        change.isNeededEmpty = [this, areDefaultsKnown](const char *keyword) {
-            const char *defaultValue = areDefaultsKnown ? getDefaultValue(keyword) : nullptr;
-            return !areDefaultsKnown || (defaultValue && *defaultValue);
+        // The PPD file is only open for the current printer.
+        change.areDefaultsKnown = i == currentIndex && !isPpdFileOutOfReach();
+        change.defaultValue = [this, isKnown = change.areDefaultsKnown](const char *keyword) {
+            return isKnown ? getDefaultValue(keyword) : nullptr;
         };
         changes.push_back(std::move(change));
     }

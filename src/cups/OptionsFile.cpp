@@ -26,8 +26,10 @@ const int lockPauseMs = 2;
 const int rewritePauseMs = 20;
 const int mostAttempts = 10;
 
-// As for all programs that use libcups when the superuser has saved.
+// What the superuser saves applies to all users, who must be able to read it.
 const mode_t systemWideMode = 0644;
+const mode_t systemWideFolderMode = 0755;
+const mode_t folderMode = 0700; // as libcups makes it
 
 void pause(int milliseconds)
 {
@@ -88,6 +90,14 @@ bool readWhole(UserFile &file, QByteArray &content)
     return file.read(content);
 }
 
+OptionArray systemWideOptions(const QByteArray &path, const OptionsMerge::Change &change)
+{
+    QByteArray content;
+    if (!UserFile(path, UserFile::Links::Follow).read(content))
+        return {};
+    return OptionsMerge::optionsIn(content, change, &OptionsSyntax::readWithLibcups);
+}
+
 } // namespace
 
 std::vector<OptionsFile::Stored> OptionsFile::prepare(cups_dest_t *dests, int count)
@@ -112,12 +122,15 @@ QString OptionsFile::save(std::vector<OptionsMerge::Change> changes)
         return {};
     const OptionsPlace::Circumstances circumstances = OptionsPlace::current();
     const OptionsPlace::Place place = OptionsPlace::find(circumstances);
-    if (!UserFile::makeFolder(place.folder))
+    if (!UserFile::makeFolder(place.folder, place.isSystemWide ? systemWideFolderMode : folderMode))
         return systemReason(place.folder);
     const Lock lock(place.folder);
     const QByteArray home = OptionsPlace::home(circumstances);
-    for (OptionsMerge::Change &change : changes)
+    for (OptionsMerge::Change &change : changes) {
         change.savedEarlier = OptionsMemory::recall(home, change.name, change.instance);
+        if (!place.isSystemWide)
+            change.systemWide = systemWideOptions(OptionsPlace::systemWideFile(circumstances), change);
+    }
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
         UserFile file(place.file(), UserFile::Links::Follow);
         QByteArray content;

@@ -38,11 +38,21 @@ QByteArray keyOf(const QByteArray &name, const QByteArray &instance)
     return (name + '/' + instance).toLower();
 }
 
+// The printer's own value of an option, if its absence would not suffice: another value applies to all users.
+const char *neededDefault(const OptionsMerge::Change &change, const char *name)
+{
+    const char *value = change.systemWide.value(name) ? change.defaultValue(name) : nullptr;
+    return value && !change.systemWide.has(name, value) ? value : nullptr;
+}
+
 OptionArray changed(const OptionArray &earlier, const OptionsMerge::Change &change)
 {
     OptionArray options = earlier;
-    for (const QByteArray &name : change.removed)
+    for (const QByteArray &name : change.removed) {
         options.remove(name.constData());
+        if (const char *value = neededDefault(change, name.constData()))
+            options.set(name.constData(), *value ? value : OptionsMerge::storedEmpty);
+    }
     for (const cups_option_t &option : change.set)
         if (*option.value)
             options.set(option.name, option.value);
@@ -134,6 +144,12 @@ private:
 
 } // namespace
 
+bool OptionsMerge::Change::isNeededEmpty(const char *option) const
+{
+    const char *value = areDefaultsKnown ? defaultValue(option) : nullptr;
+    return !areDefaultsKnown || (value && *value) || systemWide.value(option);
+}
+
 QByteArray OptionsMerge::snapshot(const cups_dest_t &dest)
 {
     QByteArray all;
@@ -163,6 +179,17 @@ OptionsMerge::Change OptionsMerge::changeSince(const QByteArray &earlier, const 
         if (!cupsGetOption(option.name, dest.num_options, dest.options))
             change.removed.append(option.name);
     return change;
+}
+
+OptionArray OptionsMerge::optionsIn(const QByteArray &content, const Change &change,
+                                    const OptionsSyntax::Reader &reader)
+{
+    OptionArray options;
+    Lines lines;
+    if (!content.isEmpty() && lines.read(content, reader))
+        for (const OptionsSyntax::Entry &entry : lines.entriesOf(change))
+            options.parse(entry.options.constData());
+    return options;
 }
 
 OptionsMerge::Result OptionsMerge::merge(const QByteArray &content, const std::vector<Change> &changes,

@@ -29,12 +29,18 @@ struct Change
     QList<QByteArray> removed;
     OptionArray savedEarlier; ///< see OptionsMemory
 
+    OptionArray systemWide; ///< what applies where the user has no option
+
+    /** The value that the printer has for an option; null if it is not known. */
+    std::function<const char *(const char *)> defaultValue;
+
     /**
      * Whether an option must be overridden by an empty value, which is then stored as one blank, because other programs
      * turn an empty one into "true". An option for which it is false is left out instead.
      */
-    std::function<bool(const char *)> isNeededEmpty;
+    bool isNeededEmpty(const char *name) const;
 
+    bool areDefaultsKnown = true; ///< otherwise an empty value is the safe side
     bool isDamaged = false; ///< other programs have damaged it, so it is written even without another change
 
     bool isEmpty() const { return set.size() == 0 && removed.isEmpty() && !isDamaged; }
@@ -60,6 +66,9 @@ struct Result
     const Change *impossible = nullptr; ///< whose line no program could read back
     bool isReadable = true; ///< false: the text could not be read; see errno
 };
+
+/** The options of the changed destination in this text. */
+OptionArray optionsIn(const QByteArray &content, const Change &change, const OptionsSyntax::Reader &reader);
 
 /** Lines of destinations that were not changed stay as they are, byte for byte. */
 Result merge(const QByteArray &content, const std::vector<Change> &changes, const OptionsSyntax::Reader &reader);

@@ -35,6 +35,21 @@ QByteArray libcupsName()
     return name;
 }
 
+bool isFrom(const OptionsPlace::Circumstances &c, int major, int minor, int patch)
+{
+    return std::make_tuple(c.major, c.minor, c.patch) >= std::make_tuple(major, minor, patch);
+}
+
+QByteArray systemWideFolder(const OptionsPlace::Circumstances &c)
+{
+    for (const char *variable : {"CUPS_SYSCONFIG", "CUPS_SERVERROOT"}) {
+        const bool isKnown = isFrom(c, 2, 5, 0) || std::strcmp(variable, "CUPS_SERVERROOT") == 0;
+        if (const QByteArray folder = c.environment(variable); isKnown && !folder.isNull())
+            return folder;
+    }
+    return "/etc/cups";
+}
+
 } // namespace
 
 OptionsPlace::Circumstances OptionsPlace::fromVersion(const QByteArray &name)
@@ -73,18 +88,11 @@ QByteArray OptionsPlace::home(const Circumstances &circumstances)
 
 OptionsPlace::Place OptionsPlace::find(const Circumstances &c)
 {
-    const auto version = std::make_tuple(c.major, c.minor, c.patch);
-    const bool rootHasTheSystems = version >= std::make_tuple(2, 4, 10);
-    const bool followsDesktop = version >= std::make_tuple(2, 5, 0);
+    const bool rootHasTheSystems = isFrom(c, 2, 4, 10);
+    const bool followsDesktop = isFrom(c, 2, 5, 0);
 
-    if (c.isRoot && rootHasTheSystems) {
-        for (const char *variable : {"CUPS_SYSCONFIG", "CUPS_SERVERROOT"}) {
-            const bool isKnown = followsDesktop || std::strcmp(variable, "CUPS_SERVERROOT") == 0;
-            if (const QByteArray folder = c.environment(variable); isKnown && !folder.isNull())
-                return {folder, true};
-        }
-        return {"/etc/cups", true};
-    }
+    if (c.isRoot && rootHasTheSystems)
+        return {systemWideFolder(c), true};
 
     const QByteArray traditional = home(c) + traditionalFolder;
     if (!followsDesktop)
@@ -95,6 +103,11 @@ OptionsPlace::Place OptionsPlace::find(const Circumstances &c)
         if (const QByteArray folder = c.environment(variable); !folder.isNull())
             return {folder + "/cups", false};
     return {c.exists(traditional) ? traditional : home(c) + desktopFolder, false};
+}
+
+QByteArray OptionsPlace::systemWideFile(const Circumstances &circumstances)
+{
+    return Place{systemWideFolder(circumstances), true}.file();
 }
 
 void OptionsPlace::keepInUse()

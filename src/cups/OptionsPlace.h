@@ -42,6 +42,9 @@ struct Place
 
 Place find(const Circumstances &circumstances);
 
+/** The file whose options apply to all users who have no others; for root it may be that of find(). */
+QByteArray systemWideFile(const Circumstances &circumstances);
+
 /**
  * Call this before creating anything in ~/.cups. As soon as that folder exists, libcups 2.5 and later read the file in
  * it instead of the one in ~/.config/cups. If the latter is in use, this makes ~/.cups a link to its folder.

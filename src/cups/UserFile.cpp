@@ -192,7 +192,7 @@ bool UserFile::remove()
     return unlinkat(folderFd, name.constData(), 0) == 0 || errno == ENOENT;
 }
 
-bool UserFile::makeFolder(const QByteArray &path)
+bool UserFile::makeFolder(const QByteArray &path, mode_t mode)
 {
     struct stat status = {};
     if (stat(path.constData(), &status) == 0) {
@@ -202,9 +202,9 @@ bool UserFile::makeFolder(const QByteArray &path)
     QByteArray parent = folderOf(path);
     while (parent.size() > 1 && parent.endsWith('/'))
         parent.chop(1);
-    if (parent == path || !makeFolder(parent) || stat(parent.constData(), &status) != 0)
+    if (parent == path || !makeFolder(parent, mode) || stat(parent.constData(), &status) != 0)
         return false;
-    if (mkdir(path.constData(), 0700) != 0)
+    if (mkdir(path.constData(), mode) != 0)
         return errno == EEXIST;
     if (geteuid() == 0 && status.st_uid != 0 && lchown(path.constData(), status.st_uid, status.st_gid) != 0)
         return false;

@@ -46,10 +46,8 @@ public:
 
     bool remove();
 
-    /**
-     * Creates a folder and those above it, each with mode 0700 and the owner of the folder that it is in.
-     */
-    static bool makeFolder(const QByteArray &path);
+    /** Creates a folder and those above it, each with this mode and the owner of the folder that it is in. */
+    static bool makeFolder(const QByteArray &path, mode_t mode = 0700);
 
 private:
     QByteArray pathWithoutLinks() const;

@@ -113,6 +113,21 @@ private:
     TestMain::Child child{"printOptionsOfEach"};
 };
 
+// Chooses a value, saves, and prints the value as a dialog finds it then: PRINTER KEYWORD VALUE
+static int choose(int &, char **argv)
+{
+    CupsSupport cups;
+    cups.setCurrentPrinter(QByteArray(argv[1]).toInt());
+    cups.setValue(argv[2], argv[3]);
+    if (cups.setDests() != 0)
+        return 1;
+    CupsSupport again;
+    again.setCurrentPrinter(QByteArray(argv[1]).toInt());
+    std::printf("%s\n", again.getValue(argv[2]));
+    return 0;
+}
+static const TestMain::ChildFunction chooseFunction("choose", choose);
+
 // Whether the user is root, whose options are the system's with newer versions of libcups; see TestMain.
 static const bool isSystemWide = qEnvironmentVariableIsSet("CUPS_SERVERROOT");
 
@@ -171,6 +186,8 @@ private slots:
     void folderThatCannotBeWritten();
     void newFolderBelongsToItsUser();
     void homeThatIsNoText();
+    void defaultHoldsAgainstSystemWideOption_data();
+    void defaultHoldsAgainstSystemWideOption();
     void symbolicLinkIsKept_data();
     void symbolicLinkIsKept();
     void linkToNothing();
@@ -903,7 +920,7 @@ void OptionsFileTest::newFolder()
     QCOMPARE(cups.setDests(), 0);
     struct stat status = {};
     QCOMPARE(stat(QFile::encodeName(QFileInfo(optionsPath()).path()), &status), 0);
-    QCOMPARE(int(status.st_mode & 07777), 0700);
+    QCOMPARE(int(status.st_mode & 07777), isSystemWide ? 0755 : 0700);
 }
 
 void OptionsFileTest::permissionsAreKept_data()
@@ -1015,6 +1032,46 @@ void OptionsFileTest::newFolderBelongsToItsUser()
     QCOMPARE(folder.st_gid, isRoot ? gid_t(54321) : getegid());
     QCOMPARE(file.st_uid, folder.st_uid);
     QCOMPARE(file.st_gid, folder.st_gid);
+}
+
+void OptionsFileTest::defaultHoldsAgainstSystemWideOption_data()
+{
+    QTest::addColumn<int>("printer");
+    QTest::addColumn<QByteArray>("keyword");
+    QTest::addColumn<QByteArray>("chosen");
+    QTest::newRow("number") << int(LP1) << QByteArray("Darkness") << QByteArray("10");
+    QTest::newRow("command") << int(LP2) << QByteArray("JobStart") << QByteArray();
+}
+
+// An administrator has saved options for all users, and this user goes back to those of the printer.
+void OptionsFileTest::defaultHoldsAgainstSystemWideOption()
+{
+    QFETCH(int, printer);
+    QFETCH(QByteArray, keyword);
+    QFETCH(QByteArray, chosen);
+    const QString folder = QDir::homePath() + "/system";
+    QVERIFY(QDir().mkpath(folder));
+    writeFile(folder + "/lpoptions", "Dest LP1 Darkness=15 Feed=24\nDest LP2 JobStart=^XA Feed=24\n");
+    const QMap<QString, QString> environment{{"CUPS_SERVERROOT", folder}};
+    const auto read = [&] {
+        const QByteArray output =
+            TestMain::runChild("printOptions", {QString("LP%1").arg(printer + 1)}, environment).output;
+        const auto start = ('\n' + output).indexOf('\n' + keyword + ' ');
+        return start < 0 ? QByteArray()
+                         : QByteArray::fromHex(output.mid(start + keyword.size() + 1).split('\n').first());
+    };
+    QVERIFY(!read().isEmpty());
+    const auto choose = [&] {
+        return TestMain::runChild("choose", {QString::number(printer), QString(keyword), QString(chosen)}, environment)
+            .output;
+    };
+    QCOMPARE(choose(), chosen + "\n");
+    QVERIFY2(QByteArrayList({chosen, QByteArray(), QByteArray(" ")}).contains(read()), read().constData());
+    // It stays so when it is saved again, and options that the user did not touch are not copied.
+    QCOMPARE(choose(), chosen + "\n");
+    if (!isSystemWide)
+        QVERIFY(!readOptionsFile().contains("Feed"));
+    QVERIFY(QDir(folder).removeRecursively());
 }
 
 void OptionsFileTest::homeThatIsNoText()

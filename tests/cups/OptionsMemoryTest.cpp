@@ -206,7 +206,7 @@ void OptionsMemoryTest::merging()
     std::vector<OptionsMerge::Change> changes(1);
     changes[0].name = "LP1";
     changes[0].set.set("JobStart", command.constData());
-    changes[0].isNeededEmpty = [](const char *) { return false; };
+    changes[0].defaultValue = [](const char *) -> const char * { return nullptr; };
     const OptionsMerge::Result result =
         OptionsMerge::merge("Dest LP2 X=\"\\\\\\\\r\"\nDest LP1 X=\"\\\\\\\\r\"\n", changes, &readLikeNewer);
     QCOMPARE(result.content,
@@ -223,7 +223,7 @@ void OptionsMemoryTest::merging()
     // Without a change it is restored too, unless somebody else has changed it since.
     std::vector<OptionsMerge::Change> damaged(1);
     damaged[0].name = "LP1";
-    damaged[0].isNeededEmpty = changes[0].isNeededEmpty;
+    damaged[0].defaultValue = changes[0].defaultValue;
     damaged[0].savedEarlier.set("X", "\\\\r");
     QVERIFY(damaged[0].isEmpty());
     damaged[0].isDamaged = true;
