@@ -10,6 +10,9 @@ set(CMAKE_C_STANDARD 11)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
+# As libcups has it: on 32-bit systems, calls fail for files with large inode numbers otherwise.
+add_compile_definitions(_FILE_OFFSET_BITS=64)
+
 option(PROPERTIESDIALOG_SANITIZE "Build with AddressSanitizer (leaks included) and UndefinedBehaviorSanitizer" OFF)
 if(PROPERTIESDIALOG_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

@@ -27,7 +27,8 @@ bool writesContentBeforeName(int fd)
     struct statfs status = {};
     if (fstatfs(fd, &status) != 0)
         return false;
-    return status.f_type == EXT4_SUPER_MAGIC || status.f_type == BTRFS_SUPER_MAGIC;
+    const auto type = static_cast<unsigned>(status.f_type);
+    return type == EXT4_SUPER_MAGIC || type == BTRFS_SUPER_MAGIC;
 }
 
 } // namespace
