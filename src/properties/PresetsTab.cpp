@@ -294,8 +294,8 @@ void PrintPropertiesDialog::Private::applyPageSize(const QSizeF &size)
         DriverCommand::run(preset->ppdhack());
 }
 
-// While the PPD file is out of reach, the defaults are not known. An option without a value has its default all the same,
-// and the scripts must restore it.
+// While the PPD file is out of reach, the defaults are not known. An option without a value still has its default, and
+// the scripts must restore it.
 QStringList PrintPropertiesDialog::Private::defaultsForPresets() const
 {
     QStringList defaults = cups->ppdDefaults();
