@@ -10,6 +10,7 @@
 #include "widgets/FormRoom.h"
 #include "widgets/Icons.h"
 #include "widgets/MessageBox.h"
+#include "widgets/WheelGuard.h"
 
 #include <QEvent>
 #include <QList>
@@ -360,6 +361,7 @@ void PrintDialog::Private::setUp(QWidget *page, QPushButton *yesButton, QPushBut
     Icons::showStyleIcon(yesButton, QStyle::SP_DialogYesButton);
     Icons::showStyleIcon(noButton, QStyle::SP_DialogNoButton);
     FormButtons::keepIconsBesideTexts(*q);
+    new WheelGuard(q);
     yesButton->setDefault(true); // otherwise Qt would give Enter to Properties
     // In Arabic and others, the box would have other digits than all other numbers.
     for (QSpinBox *box : {ui.numCopies, ui.numCopies_2})

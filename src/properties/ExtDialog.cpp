@@ -7,6 +7,7 @@
 #include "ui_ExtDialog.h"
 #include "widgets/FormButtons.h"
 #include "widgets/FormRoom.h"
+#include "widgets/WheelGuard.h"
 
 #include <QEvent>
 #include <QStyle>
@@ -57,6 +58,7 @@ ExtDialog::ExtDialog(QWidget *parent, CupsSupport *cups)
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
     d->ui.setupUi(this);
     FormButtons::keepIconsBesideTexts(*this);
+    new WheelGuard(this);
     for (const char *text : offsetTexts)
         d->ui.offset->addItem(tr(text));
     d->makeRoom(*this);

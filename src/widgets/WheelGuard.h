@@ -4,15 +4,16 @@
 #ifndef WHEELGUARD_H
 #define WHEELGUARD_H
 
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QSlider>
 
-/** Lets the wheel change a list or a slider only while it has the focus. The wheel does not give it the focus. */
+/** Lets the wheel change lists, sliders and spin boxes only while they have the focus, which it does not give them. */
 class WheelGuard : public QObject
 {
 public:
-    /** Guards the lists and sliders that @p form has now. @p form owns the guard. */
+    /** Guards the fields that @p form has now. @p form owns the guard. */
     explicit WheelGuard(QWidget *form)
         : QObject(form)
     {
@@ -20,6 +21,8 @@ public:
             guard(list);
         for (QSlider *slider : form->findChildren<QSlider *>())
             guard(slider);
+        for (QAbstractSpinBox *box : form->findChildren<QAbstractSpinBox *>())
+            guard(box);
     }
 
     bool eventFilter(QObject *object, QEvent *event) override

@@ -6,6 +6,7 @@
 
 #include "PrivateScheduler.h"
 #include "TestMain.h"
+#include "Wheel.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -13,6 +14,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QMessageBox>
+#include <QMetaProperty>
 #include <QPainter>
 #include <QPrinter>
 #include <QProxyStyle>
@@ -284,6 +286,8 @@ private Q_SLOTS:
     void printToFileFixesTheCopies();
     void copiesAreThoseOfTheShortForm();
     void copiesOfTheShownForm();
+    void wheelNeedsTheFocus_data();
+    void wheelNeedsTheFocus();
 
     void useDefaultChoosesTheDefaultPrinter();
     void useDefaultReturnsToTheEarlierChoice();
@@ -818,6 +822,40 @@ void PrintDialogTest::copiesOfTheShownForm()
     QCOMPARE(dialog->copies(), 5);
     click(*dialog, "chkPrintToFile");
     QCOMPARE(dialog->copies(), 1);
+}
+
+void PrintDialogTest::wheelNeedsTheFocus_data()
+{
+    QTest::addColumn<bool>("isShortForm");
+    QTest::addColumn<QByteArray>("field");
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("printers") << false << QByteArray("cboPrinterName") << QByteArray("yesButton_2");
+    QTest::newRow("copies") << false << QByteArray("numCopies_2") << QByteArray("yesButton_2");
+    QTest::newRow("copies in the short form") << true << QByteArray("numCopies") << QByteArray("yesButton");
+}
+
+// Who scrolls something else must not print on another printer or more labels.
+void PrintDialogTest::wheelNeedsTheFocus()
+{
+    QFETCH(bool, isShortForm);
+    QFETCH(QByteArray, field);
+    QFETCH(QByteArray, button);
+    PrintDialog shortForm(nullptr);
+    PrintDialog &form = isShortForm ? shortForm : *dialog;
+    for (QSpinBox *copies : form.findChildren<QSpinBox *>())
+        copies->setValue(5);
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    auto *widget = child<QWidget>(form, field.constData());
+    const QMetaProperty shown = widget->metaObject()->userProperty();
+    const QVariant before = shown.read(widget);
+    child<QWidget>(form, button.constData())->setFocus();
+    turnWheel(widget);
+    QCOMPARE(shown.read(widget), before);
+    QVERIFY(!widget->hasFocus());
+    widget->setFocus();
+    turnWheel(widget);
+    QVERIFY(shown.read(widget) != before);
 }
 
 void PrintDialogTest::useDefaultChoosesTheDefaultPrinter()

@@ -6,6 +6,7 @@
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
+#include "Wheel.h"
 
 #include <QDialogButtonBox>
 #include <QMetaMethod>
@@ -58,6 +59,7 @@ private Q_SLOTS:
     void slotsAloneDoTheWholeWork();
     void execEnds_data();
     void execEnds();
+    void wheelNeedsTheFocus();
     void opensWithoutAPrinter();
 
 private:
@@ -398,6 +400,20 @@ void ExtDialogTest::execEnds()
     QVERIFY(!dialog->isVisible());
     QCOMPARE(acceptedSpy.count(), accepted ? 1 : 0);
     QCOMPARE(rejectedSpy.count(), accepted ? 0 : 1);
+}
+
+void ExtDialogTest::wheelNeedsTheFocus()
+{
+    makeDialog("dpi203", 0);
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    button(QDialogButtonBox::Ok)->setFocus();
+    turnWheel(list());
+    QCOMPARE(list()->currentText(), QString(" 0.00mm"));
+    QVERIFY(!list()->hasFocus());
+    list()->setFocus();
+    turnWheel(list());
+    QCOMPARE(list()->currentText(), QString(" 0.25mm"));
 }
 
 void ExtDialogTest::opensWithoutAPrinter()

@@ -6,6 +6,7 @@
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
+#include "Wheel.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -19,7 +20,6 @@
 #include <QStyleOptionFrame>
 #include <QTabWidget>
 #include <QToolTip>
-#include <QWheelEvent>
 
 #include <memory>
 
@@ -68,14 +68,6 @@ int roomIn(const QLineEdit *edit)
     option.lineWidth = edit->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, edit);
     const int margin = 2; // on both sides of the text
     return edit->style()->subElementRect(QStyle::SE_LineEditContents, &option, edit).width() - 2 * margin;
-}
-
-void turnWheel(QWidget *widget)
-{
-    const QPointF place(5, 5);
-    QWheelEvent event(place, widget->mapToGlobal(place.toPoint()), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(widget, &event);
 }
 
 } // namespace
