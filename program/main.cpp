@@ -264,16 +264,15 @@ protected:
     {
         const auto *dialog = qobject_cast<PrintPropertiesDialog *>(object);
         if (dialog && event->type() == QEvent::Hide)
-            failure = dialog->lastSaveSucceeded() ? QString() : reason();
+            failure = dialog->lastSaveSucceeded() ? QString() : textOf(dialog->lastSaveError());
         return false;
     }
 
 private:
-    static QString reason()
+    static QString textOf(const QString &error)
     {
-        const QString ofOptionsFile = QString::fromUtf8(CupsSupport::getCupsError());
-        return ofOptionsFile.isEmpty() ? Program::tr("The presets could not be saved.")
-                                       : Program::tr("The settings could not be saved: %1").arg(ofOptionsFile);
+        return error.isEmpty() ? Program::tr("The presets could not be saved.")
+                               : Program::tr("The settings could not be saved: %1").arg(error);
     }
 };
 

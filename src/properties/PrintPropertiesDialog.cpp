@@ -348,6 +348,7 @@ void PrintPropertiesDialog::saveValues()
         PrinterProperties::set(*d->printer, orientation(), d->cups);
     QStringList defaults;
     d->isSaved = true;
+    d->saveError.clear();
     if (d->cups) {
         d->isSaved = d->saveOptions();
         defaults = d->defaultsForPresets();
@@ -364,12 +365,19 @@ bool PrintPropertiesDialog::lastSaveSucceeded() const
     return d->isSaved;
 }
 
+QString PrintPropertiesDialog::lastSaveError() const
+{
+    return d->saveError;
+}
+
 bool PrintPropertiesDialog::Private::saveOptions()
 {
     storeFields();
     loaded = shown();
     pageSize.setUnchanged();
     const bool isStored = cups->setDests() == 0;
+    if (!isStored)
+        saveError = QString::fromUtf8(CupsSupport::getCupsError()); // before the next request replaces it
     showStored();
     return isStored;
 }

@@ -61,6 +61,13 @@ public:
      */
     bool lastSaveSucceeded() const;
 
+    /**
+     * Why the last saving could not write the user's options file, as a text for the user. Later requests and savings
+     * elsewhere do not change it. Empty when the file was written: if lastSaveSucceeded() is false all the same, a
+     * preset could not be written.
+     */
+    QString lastSaveError() const;
+
     /** Sets whether there are unsaved changes, and with it whether Apply is enabled. */
     void setChanged(bool value);
 

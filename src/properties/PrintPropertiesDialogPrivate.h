@@ -108,6 +108,7 @@ struct PrintPropertiesDialog::Private
     bool fillingFields = true; // until they are filled for the first time
     bool changed = true;
     bool isSaved = true; // whether the last saving succeeded
+    QString saveError; // of the options file, in the last saving
     bool arePresetsSaved = true; // whether the last saving of the presets did; otherwise the next one tries again
     LabelSettings loaded; // what the fields held when they were last loaded or saved
     bool hasFallbacks = false; // whether the PPD file was out of reach when the fields were loaded

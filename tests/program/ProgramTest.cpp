@@ -22,6 +22,11 @@ using TitlesAndKeys = QList<QPair<QString, QString>>;
 
 const QString listTitle = "Label Printer Properties";
 
+// Keys for the properties dialog, which opens with the focus on its tabs. Apply gives it back to them.
+const QString changeMirrored = "Tab Tab Tab space";
+const QString applyIt = "shift+Tab shift+Tab shift+Tab shift+Tab space";
+const QString chooseNextPreset = "Tab Tab Tab Tab Tab Down";
+
 QString dialogTitle(const QString &queue)
 {
     return queue + " Printing Preferences";
@@ -79,6 +84,7 @@ private slots:
     void saysThatThereIsNoDisplay_data();
     void saysThatThereIsNoDisplay();
     void savesForTheNamedQueue();
+    void saysWhyItCannotSave_data();
     void saysWhyItCannotSave();
     void asksAboutConflicts_data();
     void asksAboutConflicts();
@@ -288,17 +294,37 @@ void ProgramTest::savesForTheNamedQueue()
     QVERIFY(!untouched.contains("orientation-requested"));
 }
 
-// A folder that is not empty has the path of the options file.
+void ProgramTest::saysWhyItCannotSave_data()
+{
+    QTest::addColumn<QString>("obstacle");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("errors");
+    const QString options = "The settings could not be saved: " + homePath(".cups/lpoptions: ");
+    const QString presets = "The presets could not be saved.\n";
+    // A preset with a page size has the PPD file requested again.
+    const QString later = changeMirrored + " " + applyIt + " " + chooseNextPreset + " Escape";
+    QTest::newRow("options, OK") << ".cups/lpoptions/folder"
+                                 << "Return" << options;
+    QTest::newRow("options, Apply, another request, Cancel") << ".cups/lpoptions/folder" << later << options;
+    QTest::newRow("presets, OK") << ".cups/First/_current.sh/folder" << changeMirrored + " Return" << presets;
+    QTest::newRow("presets, Apply, another request, Cancel") << ".cups/First/_current.sh/folder" << later << presets;
+}
+
+// A folder that is not empty has the path of the file.
 void ProgramTest::saysWhyItCannotSave()
 {
+    QFETCH(QString, obstacle);
+    QFETCH(QString, keys);
+    QFETCH(QString, errors);
     clearHome();
-    QVERIFY(QDir().mkpath(homePath(".cups/lpoptions/folder")));
-    const Result result = press({"-p", "First"}, {{dialogTitle("First"), "Return"}});
+    QVERIFY(QDir().mkpath(homePath(obstacle)));
+    writeFile(homePath(".cups/First/1.sh"), "#!/bin/bash\nlpoptions -pFirst\n"); // the current one
+    writeFile(homePath(".cups/First/2.sh"), "#!/bin/bash\nlpoptions -pFirst\nppdhack 4.00 2.00 First\n");
+    const DriverCommand command("exit 0\n");
+    const Result result = press({"-p", "First"}, {{dialogTitle("First"), keys}});
     clearHome();
     QVERIFY2(result.exitStatus == 3, qPrintable(QString::number(result.exitStatus) + result.errors));
-    const QString beginning = "label-printer-properties: The settings could not be saved: ";
-    QVERIFY2(result.errors.startsWith(beginning) && result.errors.size() > beginning.size() + 1,
-             qPrintable(result.errors));
+    QVERIFY2(result.errors.startsWith("label-printer-properties: " + errors), qPrintable(result.errors));
 }
 
 void ProgramTest::asksAboutConflicts_data()

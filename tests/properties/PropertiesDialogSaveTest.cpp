@@ -1097,8 +1097,18 @@ void PropertiesDialogSaveTest::optionsFileCannotBeWritten()
     open.slide("darknessSlider", 4);
     open.click("okButton");
     QCOMPARE(open.dialog.result(), 1);
+    QVERIFY(!open.dialog.lastSaveSucceeded());
+    const QString error = open.dialog.lastSaveError();
+    QVERIFY2(error.startsWith(cupsFolder() + "/lpoptions: "), qPrintable(error));
+    const CupsSupport another; // sends a request
+    QCOMPARE(open.dialog.lastSaveError(), error);
     QVERIFY(QDir(cupsFolder() + "/lpoptions/in the way").exists());
     QVERIFY(fileContent(scriptPath("Q", "_current")).contains(" -oDarkness=4 "));
+
+    QVERIFY(QDir(cupsFolder() + "/lpoptions").removeRecursively());
+    open.dialog.saveValues();
+    QVERIFY(open.dialog.lastSaveSucceeded());
+    QCOMPARE(open.dialog.lastSaveError(), QString());
 }
 
 // OK after a failed Apply has nothing new to save, but must still save the preset as soon as that is possible.
@@ -1114,6 +1124,7 @@ void PropertiesDialogSaveTest::presetCannotBeWritten()
     QVERIFY(!open.dialog.lastSaveSucceeded());
     open.dialog.saveValues();
     QVERIFY(!open.dialog.lastSaveSucceeded());
+    QCOMPARE(open.dialog.lastSaveError(), QString());
 
     QVERIFY(QDir().rmdir(scriptPath("Q", "Mine")));
     open.click("okButton");
