@@ -3,13 +3,13 @@
 
 #include "host/HostSettings.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include "cups/UserFile.h"
+
+#include <QByteArray>
 
 bool HostSettings::alwaysUseUserPageSize()
 {
-    const QString path = qEnvironmentVariable("HOME") + QStringLiteral("/.gconf/apps/Dashvane/%gconf.xml");
-    QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)
-           && file.readAll().contains("<stringvalue>adobe</stringvalue>");
+    UserFile file(qgetenv("HOME") + "/.gconf/apps/Dashvane/%gconf.xml", UserFile::Links::Follow);
+    QByteArray content;
+    return file.read(content) && content.contains("<stringvalue>adobe</stringvalue>");
 }

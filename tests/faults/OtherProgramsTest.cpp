@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "Forked.h"
+#include "HomeOfBytes.h"
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
@@ -50,6 +51,24 @@ void rewriteFile(QRandomGenerator &random)
         lpoptions({"-p", "LP3", "-r", "copies"});
     }
 }
+
+// Saves a command that libcups cannot keep, and reads it after libcups has rewritten the file.
+int keepCommand(int &, char **)
+{
+    {
+        CupsSupport cups;
+        selectQueue(cups, "LP1");
+        cups.setJobEnd("^FD#1");
+        if (cups.setDests() != 0)
+            return 1;
+    }
+    if (std::system("lpoptions -p LP3 -o copies=2") != 0)
+        return 2;
+    CupsSupport cups;
+    selectQueue(cups, "LP1");
+    return cups.getJobEnd() == "^FD#1\n" ? 0 : 3;
+}
+const TestMain::ChildFunction keepCommandFunction("keep-command", keepCommand);
 
 // ----- texts -----
 
@@ -218,6 +237,7 @@ private slots:
     void emptyCommands_data();
     void emptyCommands();
     void emptyCommandBehindOneThatIsCut();
+    void commandInAHomeOfBytes();
     void commandTexts();
     void appliedTextsAndScript();
     void interleavings();
@@ -297,6 +317,14 @@ void OtherProgramsTest::emptyCommandBehindOneThatIsCut()
     selectQueue(cups, "LP1");
     QCOMPARE(cups.getJobEnd(), QString("^FD#1\n"));
     QCOMPARE(cups.getJobStart(), QString(""));
+}
+
+// Whose path no QString holds.
+void OtherProgramsTest::commandInAHomeOfBytes()
+{
+    const HomeOfBytes home;
+    QCOMPARE(HomeOfBytes::runChild("keep-command").exitCode, 0);
+    QCOMPARE(access((HomeOfBytes::path() + "/.cups/LP1/_saved-options").constData(), F_OK), 0);
 }
 
 void OtherProgramsTest::commandTexts()

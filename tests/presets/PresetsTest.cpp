@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "HomeOfBytes.h"
 #include "PresetFiles.h"
 #include "TestMain.h"
 
@@ -75,20 +76,6 @@ int useFolder(int &, char **)
     return preset && preset == presets.currentPreset() && preset->options() == QStringList({"Darkness", "12"}) ? 0 : 2;
 }
 const TestMain::ChildFunction useFolderFunction("useFolder", useFolder);
-
-// The same in a HOME whose name is no UTF-8, which no QString holds.
-int useFolderOfBytes(int &, char **argv)
-{
-    const QByteArray home = qgetenv("HOME") + "/h\xff\xe4";
-    if (mkdir(home.constData(), 0700) != 0 || !qputenv("HOME", home))
-        return 3;
-    char run[] = "--run-child";
-    char name[] = "useFolder";
-    char *arguments[] = {argv[0], run, name, nullptr};
-    execv("/proc/self/exe", arguments);
-    return 4;
-}
-const TestMain::ChildFunction useFolderOfBytesFunction("useFolderOfBytes", useFolderOfBytes);
 
 QString nameOf(Preset *preset)
 {
@@ -1045,8 +1032,9 @@ void PresetsTest::homeOfBytes()
 {
     const QByteArray home = qgetenv("HOME");
     const QStringList before = PresetFiles::entries(QFile::decodeName(home));
-    QCOMPARE(TestMain::runChild("useFolderOfBytes").exitCode, 0);
-    const QByteArray inside = home + "/h\xff\xe4";
+    const HomeOfBytes homeOfBytes;
+    QCOMPARE(HomeOfBytes::runChild("useFolder").exitCode, 0);
+    const QByteArray inside = HomeOfBytes::path();
     struct stat status = {};
     QCOMPARE(lstat((inside + "/.cups/LP1/Wide.sh").constData(), &status), 0);
     char text[4096] = {};

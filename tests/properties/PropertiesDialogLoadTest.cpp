@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "HomeOfBytes.h"
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "properties/PropertiesDialog.h"
@@ -21,6 +22,8 @@
 
 #include <clocale>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <functional>
 
 namespace {
@@ -124,10 +127,19 @@ int callWithoutDisplay(int &, char **)
     return 0;
 }
 
+int showPageSizeGroup(int &argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    OpenDialog open("LP");
+    open.dialog.show();
+    std::printf("stockGroupBox=%s\n", qPrintable(open.shown("stockGroupBox")));
+    return 0;
+}
+
 const TestMain::ChildFunction children[] = {
     {"without-application", callWithoutApplication}, {"application", callWithApplication},
     {"core-application", callWithCoreApplication},   {"gui-application", callWithGuiApplication},
-    {"without-display", callWithoutDisplay},
+    {"without-display", callWithoutDisplay},         {"show-page-size-group", showPageSizeGroup},
 };
 
 struct FamilyOf
@@ -236,6 +248,7 @@ private slots:
     void hostSettingsForceThePageSize_data();
     void hostSettingsForceThePageSize();
     void hostSettingsAreReadOnce();
+    void hostSettingsInAHomeOfBytes();
 
     // bad input
     void badValues_data();
@@ -1052,6 +1065,18 @@ void PropertiesDialogLoadTest::hostSettingsAreReadOnce()
     QCOMPARE(before.shown("stockGroupBox"), "False");
     during.dialog.show();
     QCOMPARE(during.shown("stockGroupBox"), "True");
+}
+
+// Whose path no QString holds.
+void PropertiesDialogLoadTest::hostSettingsInAHomeOfBytes()
+{
+    const HomeOfBytes home;
+    const std::filesystem::path file((HomeOfBytes::path() + '/' + hostSettings).constData());
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file) << "<stringvalue>adobe</stringvalue>";
+    const TestMain::ChildResult result = HomeOfBytes::runChild("show-page-size-group");
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, QByteArray("stockGroupBox=True\n"));
 }
 
 // ----- bad input -----
