@@ -93,6 +93,7 @@ private slots:
 
     void toolTip_data();
     void toolTip();
+    void refusalIsExplained_data();
     void refusalIsExplained();
     void emptiedFieldAfterApply();
 
@@ -276,28 +277,56 @@ void NumberFieldTest::toolTip()
     QTEST(open.edit(field)->toolTip(), "expected");
 }
 
+void NumberFieldTest::refusalIsExplained_data()
+{
+    QTest::addColumn<QString>("queue");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("accepted");
+    QTest::addColumn<QString>("refused"); // at its end
+    QTest::addColumn<QString>("explanation");
+    const auto row = [](const char *queue, const char *field, const char *accepted, const char *refused,
+                        const char *explanation) {
+        QTest::addRow("%s %s %s%s", queue, field, accepted, refused)
+            << QString(queue) << QString(field) << QString(accepted) << QString(refused) << QString(explanation);
+    };
+    row("LP", "stop", "1.57", "0", "Only numbers from 0.00 to 1.57, with two decimals at most.");
+    row("LP-ZED", "stop", "-0.5", "-", "Only numbers from -1.00 to 1.00, with two decimals at most.");
+    row("LP", "horizontalEdit", "100", "0", "Only whole numbers from -100 to 100.");
+    row("LP", "verticalEdit", "-5", ".", "Only whole numbers from -100 to 100.");
+    row("LP-ZED", "verticalEdit", "20", "x", "Only whole numbers from -203 to 203.");
+}
+
 void NumberFieldTest::refusalIsExplained()
 {
-    OpenDialog open;
-    open.widget<QTabWidget>("tabs")->setCurrentIndex(2);
+    QFETCH(QString, queue);
+    QFETCH(QString, field);
+    QFETCH(QString, accepted);
+    QFETCH(QString, refused);
+    OpenDialog open(queue);
+    open.dialog.show();
+    QLineEdit *edit = open.edit(field);
+    auto *tabs = open.widget<QTabWidget>("tabs");
+    while (!edit->isVisible())
+        tabs->setCurrentIndex(tabs->currentIndex() + 1);
     QVERIFY(QTest::qWaitForWindowActive(&open.dialog));
-    QLineEdit *edit = open.edit("stop");
     edit->setFocus();
-    edit->setText("1.5");
-    QTest::keyClicks(edit, "7");
-    QCOMPARE(edit->text(), QString("1.57"));
+    edit->selectAll();
+    QTest::keyClicks(edit, accepted);
+    QCOMPARE(edit->text(), accepted);
     QVERIFY(!QToolTip::isVisible());
-    QTest::keyClicks(edit, "0");
-    QCOMPARE(edit->text(), QString("1.57"));
+    QTest::keyClicks(edit, refused);
+    QCOMPARE(edit->text(), accepted);
     QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), QString("Only numbers from 0.00 to 1.57, with two decimals at most."));
+    QTEST(QToolTip::text(), "explanation");
 }
 
 void NumberFieldTest::emptiedFieldAfterApply()
 {
-    scheduler.setUserOptions("LP", {"OffsetH=7", "Stop=25.4", "GapSize=2.54", "LabelCategory=1"});
+    scheduler.setUserOptions(
+        "LP", {"OffsetH=7", "OffsetV=-3", "Stop=25.4", "GapSize=2.54", "GapOffset=5.08", "LabelCategory=1"});
     OpenDialog open;
-    const QStringList fields = {"widthEdit", "heightEdit", "gapSize", "feed", "stop", "horizontalEdit"};
+    const QStringList fields = {"widthEdit", "heightEdit", "gapSize",        "gapOffset",
+                                "feed",      "stop",       "horizontalEdit", "verticalEdit"};
     QStringList before;
     for (const QString &field : fields) {
         before << open.text(field);
@@ -307,7 +336,9 @@ void NumberFieldTest::emptiedFieldAfterApply()
     open.click("applyButton");
     for (int i = 0; i < fields.size(); ++i)
         QCOMPARE(open.text(fields.at(i)), before.at(i));
+    QCOMPARE(open.text("gapOffset"), QString("0.20"));
     QCOMPARE(open.text("horizontalEdit"), QString("7"));
+    QCOMPARE(open.text("verticalEdit"), QString("-3"));
     QVERIFY(!open.isChanged());
 }
 
