@@ -2,15 +2,22 @@
 // SPDX-License-Identifier: MIT
 
 #include "OpenDialog.h"
+#include "Programs.h"
 #include "TestMain.h"
 
 #include <QIcon>
 #include <QImage>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
-// The dialog on screens with more pixels: a child process each, since Qt reads the factor at its start.
+// The dialog on screens with more pixels and on small ones: a child process each, since Qt reads the factor and the size
+// of the screen at its start.
 
 namespace {
 
@@ -148,11 +155,54 @@ int examineDialog(int &argc, char **argv)
     return 0;
 }
 
+// Pages scroll only if they are higher than the screen.
+void examinePage(const QWidget *page)
+{
+    const auto *area = page->findChild<QScrollArea *>();
+    const QWidget *content = area ? area->widget() : page;
+    check(content->width() >= content->minimumSizeHint().width()
+              && content->height() >= content->minimumSizeHint().height(),
+          "a page is squeezed");
+    if (!area)
+        return;
+    const QSize room = area->viewport()->size();
+    check(content->width() <= room.width(), "a page is cut off at its side");
+    check(area->verticalScrollBar()->maximum() == std::max(0, content->height() - room.height()),
+          "the end of a page is out of reach");
+}
+
+// Argument: the size of the font in points. Prints the size of the screen and the faults.
+int examineOnSmallScreen(int &argc, char **argv)
+{
+    constexpr int titleBar = 30; // of a window manager, which does not run here
+    QApplication application(argc, argv);
+    QApplication::setStyle("Fusion");
+    QFont font = QApplication::font();
+    font.setPointSize(QByteArray(argv[1]).toInt());
+    QApplication::setFont(font);
+    OpenDialog open;
+    const QRect screen = open.dialog.screen()->availableGeometry();
+    std::printf("%dx%d\n", screen.width(), screen.height());
+    check(open.dialog.width() <= screen.width() && open.dialog.height() + titleBar <= screen.height(),
+          "the dialog is larger than the screen");
+    for (const char *button : {"okButton", "cancelButton", "applyButton"})
+        check(open.dialog.rect().contains(open.widget(button)->geometry()), "a button is out of reach");
+    auto *tabs = open.widget<QTabWidget>("tabs");
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        QCoreApplication::processEvents();
+        examinePage(tabs->currentWidget());
+    }
+    return 0;
+}
+
 const TestMain::ChildFunction examineDialogChild("examineDialog", examineDialog);
+const TestMain::ChildFunction examineOnSmallScreenChild("examineOnSmallScreen", examineOnSmallScreen);
 
 } // namespace
 
-// If this fails, the dialog is blurred or clipped on high-resolution screens.
+// If this fails, the dialog is blurred or clipped on high-resolution screens, or parts of it are out of reach on small
+// ones.
 class ScalingTest : public QObject
 {
     Q_OBJECT
@@ -160,6 +210,8 @@ class ScalingTest : public QObject
 private Q_SLOTS:
     void dialogIsSharpAndWhole_data();
     void dialogIsSharpAndWhole();
+    void dialogFitsSmallScreen_data();
+    void dialogFitsSmallScreen();
 };
 
 void ScalingTest::dialogIsSharpAndWhole_data()
@@ -177,6 +229,47 @@ void ScalingTest::dialogIsSharpAndWhole()
                            {{"QT_SCALE_FACTOR", factor}, {"QT_FONT_DPI", "96"}, {"CUPS_SERVER", "/nonexistent"}});
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.output, QByteArray("examined\n"));
+}
+
+void ScalingTest::dialogFitsSmallScreen_data()
+{
+    QTest::addColumn<QString>("screen");
+    QTest::addColumn<QString>("factor");
+    QTest::addColumn<QString>("points");
+    QTest::addColumn<QString>("scaled");
+    QTest::newRow("800x600, large font") << "800x600"
+                                         << "1"
+                                         << "14"
+                                         << "800x600";
+    QTest::newRow("800x600, 125 %") << "800x600"
+                                    << "1.25"
+                                    << "10"
+                                    << "640x480";
+    QTest::newRow("1366x768, 150 %") << "1366x768"
+                                     << "1.5"
+                                     << "10"
+                                     << "911x512";
+    QTest::newRow("1366x768, 150 %, large font") << "1366x768"
+                                                 << "1.5"
+                                                 << "14"
+                                                 << "911x512";
+}
+
+void ScalingTest::dialogFitsSmallScreen()
+{
+    QFETCH(QString, screen);
+    QFETCH(QString, factor);
+    QFETCH(QString, points);
+    QFETCH(QString, scaled);
+    const Programs::Result result = Programs::run(
+        {WITH_XVFB, QCoreApplication::applicationFilePath(), "--run-child", "examineOnSmallScreen", points},
+        {{"XVFB_SCREEN", screen},
+         {"QT_QPA_PLATFORM", "xcb"},
+         {"QT_SCALE_FACTOR", factor},
+         {"QT_FONT_DPI", "96"},
+         {"CUPS_SERVER", "/nonexistent"}});
+    QVERIFY2(result.exitStatus == 0, qPrintable(result.errors));
+    QCOMPARE(result.output, scaled + '\n');
 }
 
 PROPERTIESDIALOG_TEST_MAIN(ScalingTest)
