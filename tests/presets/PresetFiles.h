@@ -70,22 +70,22 @@ class Unprivileged
 public:
     Unprivileged()
     {
-        if (m_user == 0)
-            m_dropped = setresuid(65534, 65534, 0) == 0;
+        if (user == 0)
+            isDropped = setresuid(65534, 65534, 0) == 0;
     }
     ~Unprivileged()
     {
-        if (m_dropped && setresuid(0, 0, 0) != 0)
+        if (isDropped && setresuid(0, 0, 0) != 0)
             qFatal("cannot become root again");
     }
     Unprivileged(const Unprivileged &) = delete;
     Unprivileged &operator=(const Unprivileged &) = delete;
 
-    bool isBound() const { return m_user != 0 || m_dropped; }
+    bool isBound() const { return user != 0 || isDropped; }
 
 private:
-    const uid_t m_user = geteuid();
-    bool m_dropped = false;
+    const uid_t user = geteuid();
+    bool isDropped = false;
 };
 
 /** While this object exists, answers message boxes with Ok and keeps what they showed. */
@@ -94,42 +94,42 @@ class BoxCloser
 public:
     BoxCloser()
     {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+        QObject::connect(&timer, &QTimer::timeout, &timer, [this] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             if (!box)
                 return;
-            m_titles << box->windowTitle();
-            m_texts << box->text();
-            m_areWarnings = m_areWarnings && box->icon() == QMessageBox::Warning && !box->parent()
-                            && box->standardButtons() == QMessageBox::Ok;
+            shownTitles << box->windowTitle();
+            shownTexts << box->text();
+            areAllWarnings = areAllWarnings && box->icon() == QMessageBox::Warning && !box->parent()
+                             && box->standardButtons() == QMessageBox::Ok;
             if (box->isRightToLeft())
                 examine(box->button(QMessageBox::Ok));
             box->button(QMessageBox::Ok)->click();
         });
-        m_timer.start(1);
+        timer.start(1);
     }
 
-    QStringList titles() const { return m_titles; }
-    QStringList texts() const { return m_texts; }
+    QStringList titles() const { return shownTitles; }
+    QStringList texts() const { return shownTexts; }
     /** Whether all of them were warnings without a parent and with the one button. */
-    bool areWarnings() const { return m_areWarnings; }
+    bool areWarnings() const { return areAllWarnings; }
     /** Whether those from right to left had the icons of their buttons beside the texts. */
-    bool areButtonsWhole() const { return m_areButtonsWhole; }
+    bool areButtonsWhole() const { return areAllButtonsWhole; }
 
 private:
     void examine(QAbstractButton *button)
     {
-        m_timer.stop(); // while events are processed
+        timer.stop(); // while events are processed
         button->setFixedWidth(200);
-        m_areButtonsWhole = m_areButtonsWhole && isTogether(button);
-        m_timer.start();
+        areAllButtonsWhole = areAllButtonsWhole && isTogether(button);
+        timer.start();
     }
 
-    QTimer m_timer;
-    QStringList m_titles;
-    QStringList m_texts;
-    bool m_areWarnings = true;
-    bool m_areButtonsWhole = true;
+    QTimer timer;
+    QStringList shownTitles;
+    QStringList shownTexts;
+    bool areAllWarnings = true;
+    bool areAllButtonsWhole = true;
 };
 
 /** For its time, every translated text is its context and itself. */

@@ -57,23 +57,23 @@ private Q_SLOTS:
     void emptyValues();
 
 private:
-    QByteArray ppdhackLog() const { return PresetFiles::readFile(m_log); }
+    QByteArray ppdhackLog() const { return PresetFiles::readFile(logPath); }
     int run(const Preset &preset) const;
 
-    PrivateScheduler m_scheduler;
-    QString m_log = qEnvironmentVariable("HOME") + "/ppdhack.log";
+    PrivateScheduler scheduler;
+    QString logPath = qEnvironmentVariable("HOME") + "/ppdhack.log";
 };
 
 void PresetRunTest::initTestCase()
 {
-    m_scheduler.addQueue("LP1", PrivateScheduler::samplePpd("every-option"));
-    m_scheduler.addQueue("LP2");
+    scheduler.addQueue("LP1", PrivateScheduler::samplePpd("every-option"));
+    scheduler.addQueue("LP2");
 }
 
 void PresetRunTest::init()
 {
     QVERIFY(PresetFiles::reset());
-    QVERIFY(PresetFiles::writeFile(m_log, ""));
+    QVERIFY(PresetFiles::writeFile(logPath, ""));
 }
 
 int PresetRunTest::run(const Preset &preset) const
@@ -81,7 +81,7 @@ int PresetRunTest::run(const Preset &preset) const
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("PATH", PrivateScheduler::commandDir() + ':' + environment.value("PATH"));
-    environment.insert("PPDHACK_LOG", m_log);
+    environment.insert("PPDHACK_LOG", logPath);
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedChannels);
     process.start(preset.pathName(), QStringList());
@@ -90,7 +90,7 @@ int PresetRunTest::run(const Preset &preset) const
 
 void PresetRunTest::queue()
 {
-    m_scheduler.setUserOptions("LP1", {"GapSize=2.000", "Feed=24", "Darkness=4"});
+    scheduler.setUserOptions("LP1", {"GapSize=2.000", "Feed=24", "Darkness=4"});
     Preset preset("LP1", "Wide",
                   {"Darkness", "12", "Direct", "true", "GapSize", "3.000", "MirrorPrint", "False", "OffsetH", "-8",
                    "orientation-requested", "4", "Stop", "-12.700"},
@@ -106,7 +106,7 @@ void PresetRunTest::queue()
 
 void PresetRunTest::instance()
 {
-    m_scheduler.setUserOptions("LP1", {"Darkness=4"});
+    scheduler.setUserOptions("LP1", {"Darkness=4"});
     Preset preset("LP1/draft", "Wide", {"Darkness", "7"}, QString(), QString(), -1);
     QVERIFY(preset.save({}));
     QCOMPARE(run(preset), 0);
@@ -145,7 +145,7 @@ void PresetRunTest::values()
 // In lpoptions, libcups would write them as "true".
 void PresetRunTest::emptyValues()
 {
-    m_scheduler.setUserOptions("LP1", {"Darkness=4", "JobStart=^XA"});
+    scheduler.setUserOptions("LP1", {"Darkness=4", "JobStart=^XA"});
     Preset preset("LP1", "_current",
                   {"Darkness", "9", "JobEnd", "", "JobStart", "", "LabelEnd", QString(), "LabelStart", " "}, QString(),
                   QString(), -1);

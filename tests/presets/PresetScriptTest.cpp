@@ -46,14 +46,14 @@ public:
     explicit FileSizeLimit(rlim_t bytes)
     {
         std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_earlier);
-        const rlimit limit{bytes, m_earlier.rlim_max};
+        getrlimit(RLIMIT_FSIZE, &earlier);
+        const rlimit limit{bytes, earlier.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);
     }
-    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &m_earlier); }
+    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &earlier); }
 
 private:
-    rlimit m_earlier{};
+    rlimit earlier{};
 };
 
 mode_t modeOf(const QString &path)
