@@ -2,16 +2,22 @@
 // SPDX-License-Identifier: MIT
 
 #include "OpenDialog.h"
+#include "PrinterList.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
+#include "widgets/MessageBox.h"
+#include "widgets/PasswordDialog.h"
 
 #include <PropertiesDialog/ExtDialog.h>
 #include <PropertiesDialog/PrintDialog.h>
 
+#include <QDialogButtonBox>
 #include <QListView>
 #include <QProcess>
 #include <QSpinBox>
 #include <QThread>
+#include <QTimer>
+#include <QTreeWidget>
 
 namespace {
 
@@ -92,7 +98,7 @@ void clickMark(const QAbstractButton *button)
 
 } // namespace
 
-// A user of a Wayland desktop works with each dialog, by pointer and by keyboard.
+// If this fails, users of a Wayland desktop cannot work with some dialog by pointer or by keyboard.
 class WaylandTest : public QObject
 {
     Q_OBJECT
@@ -106,6 +112,9 @@ private slots:
     void printDialogByKeyboard();
     void shortPrintDialog();
     void offsetDialog();
+    void passwordDialog();
+    void printerList();
+    void messageBox();
 
 private:
     PrivateScheduler scheduler;
@@ -228,6 +237,51 @@ void WaylandTest::offsetDialog()
     press("Return");
     QTRY_VERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void WaylandTest::passwordDialog()
+{
+    PasswordDialog dialog(nullptr, "user", false);
+    dialog.open();
+    QTRY_VERIFY(dialog.isActiveWindow());
+
+    auto *password = dialog.findChild<QLineEdit *>("passwordEdit");
+    click(password);
+    QTRY_VERIFY(password->hasFocus());
+    for (const char *key : {"a", "b", "c"})
+        press(key);
+    QTRY_COMPARE(dialog.password(), QString("abc"));
+    press("Return");
+    QTRY_VERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void WaylandTest::printerList()
+{
+    const CupsSupport cups;
+    PrinterList dialog(cups, "LP", QString());
+    dialog.open();
+    QTRY_VERIFY(dialog.isActiveWindow());
+
+    auto *printers = dialog.findChild<QTreeWidget *>();
+    click(printers->viewport(), printers->visualItemRect(printers->topLevelItem(1)).center());
+    QTRY_COMPARE(dialog.queue(), QString("LP2"));
+    click(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok));
+    QTRY_VERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void WaylandTest::messageBox()
+{
+    QTimer::singleShot(0, [] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        // So that a missed click fails the test and does not hold it up.
+        QTimer::singleShot(10000, box, &QDialog::reject);
+        if (QTest::qWaitFor([box] { return box->isActiveWindow(); }))
+            click(box->button(QMessageBox::Yes));
+    });
+    QCOMPARE(MessageBox::show(QMessageBox::Question, "Title", "Question", QMessageBox::Yes | QMessageBox::No),
+             QMessageBox::Yes);
 }
 
 int main(int argc, char **argv)
