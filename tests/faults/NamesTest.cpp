@@ -134,6 +134,7 @@ const TestMain::ChildFunction askLibcupsFunction("ask-libcups", askLibcups);
 
 } // namespace
 
+// If this fails, the dialogs hang on a machine whose own name does not resolve.
 class NamesTest : public QObject
 {
     Q_OBJECT

@@ -399,10 +399,11 @@ void SavingFaultsTest::presetScript()
 }
 
 // A file system that writes the content of a file before its name keeps the earlier or the new settings by itself. There,
-// a busy disk does not hold up a dialog. The disk gets the settings all the same.
+// a busy disk does not hold up a dialog. The disk still gets the settings.
 void SavingFaultsTest::diskIsWaitedForOnlyIfNeeded()
 {
-    const bool isOrdered = QList<QByteArray>{"ext2", "ext3", "ext4", "btrfs"}.contains(QStorageInfo(folder()).fileSystemType());
+    const bool isOrdered =
+        QList<QByteArray>{"ext2", "ext3", "ext4", "btrfs"}.contains(QStorageInfo(folder()).fileSystemType());
     setState(*cups, 1);
     setState(*preset, 1);
     const int result = inCopy([&] {
@@ -474,11 +475,13 @@ void SavingFaultsTest::notAFile()
     close(fd);
 }
 
-// A process that is killed while it saves leaves a file beside the one that it was to replace.
+// A process that is killed while it saves leaves a file beside the one that it was to replace. A later process may have its
+// id.
 void SavingFaultsTest::leftoversDoNotMatter()
 {
-    write(folder() + "/lpoptions.AbCdEf", "Dest LP1 Dark");
-    write(folder() + "/LP1/P.sh.AbCdEf", "#!/bin");
+    const QString leftover = QString("/.new-%1-0").arg(QCoreApplication::applicationPid());
+    write(folder() + leftover, "Dest LP1 Dark");
+    write(folder() + "/LP1" + leftover, "#!/bin");
     setState(*cups, 1);
     QCOMPARE(cups->setDests(), 0);
     setState(*preset, 1);
@@ -487,6 +490,8 @@ void SavingFaultsTest::leftoversDoNotMatter()
     other.setCurrentPrinter(0);
     QCOMPARE(QByteArray(other.getValue("JobStart")), longValue);
     QCOMPARE(Preset("LP1", "P", {}, QString(), QString(), -1).options().value(1), QString("9"));
+    QCOMPARE(content(folder() + leftover), QByteArray("Dest LP1 Dark"));
+    QCOMPARE(content(folder() + "/LP1" + leftover), QByteArray("#!/bin"));
 }
 
 // ----- processes that end or meet while saving -----

@@ -42,8 +42,6 @@ private slots:
     void presetSavedWithoutPpdFile();
 
     void savingSucceeds();
-    void optionsFileCannotBeWritten();
-    void presetCannotBeWritten();
 
 private:
     QByteArray presetWithPageSize();
@@ -232,34 +230,6 @@ void PropertiesDialogInputTest::savingSucceeds()
     open.slide("darknessSlider", 4);
     open.click("applyButton");
     QVERIFY(open.dialog.lastSaveSucceeded());
-}
-
-void PropertiesDialogInputTest::optionsFileCannotBeWritten()
-{
-    OpenDialog open;
-    open.slide("darknessSlider", 4);
-    QVERIFY(QDir().mkpath(cupsFolder() + "/lpoptions/in the way"));
-    open.click("applyButton");
-    QVERIFY(!open.dialog.lastSaveSucceeded());
-    QVERIFY(QDir(cupsFolder() + "/lpoptions").removeRecursively());
-    open.slide("darknessSlider", 5);
-    open.click("okButton");
-    QVERIFY(open.dialog.lastSaveSucceeded());
-}
-
-void PropertiesDialogInputTest::presetCannotBeWritten()
-{
-    for (const QString file : {"a", "_current"}) {
-        const QString script = cupsFolder() + "/Q/" + file + ".sh";
-        writeFile(cupsFolder() + "/Q/a.sh", "#!/bin/bash\nlpoptions -pQ\n");
-        OpenDialog open;
-        open.setPlainText("descriptionEdit", "typed");
-        QFile::remove(script);
-        QVERIFY(QDir().mkpath(script + "/in the way"));
-        open.click("applyButton");
-        QVERIFY2(!open.dialog.lastSaveSucceeded(), qPrintable(file));
-        QVERIFY(QDir(cupsFolder() + "/Q").removeRecursively());
-    }
 }
 
 PROPERTIESDIALOG_TEST_MAIN(PropertiesDialogInputTest)

@@ -48,8 +48,7 @@ QStringList seenIn(const QDialog &dialog)
 
 } // namespace
 
-// With several printers: a dialog that the program keeps shows the printer that it is opened for, and nothing of the
-// one before.
+// If this fails, a dialog that the program keeps shows or saves something of the printer that it was opened for before.
 class PropertiesDialogQueueTest : public QObject
 {
     Q_OBJECT

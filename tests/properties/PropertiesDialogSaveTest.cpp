@@ -200,6 +200,7 @@ private slots:
     // Failures.
     void optionsFileCannotBeWritten();
     void presetCannotBeWritten();
+    void currentSettingsCannotBeWritten();
     void noScheduler();
 
 private:
@@ -1130,6 +1131,16 @@ void PropertiesDialogSaveTest::presetCannotBeWritten()
     open.click("okButton");
     QVERIFY(open.dialog.lastSaveSucceeded());
     QVERIFY(fileContent(scriptPath("Q", "Mine")).contains("#name=Yours\n"));
+}
+
+void PropertiesDialogSaveTest::currentSettingsCannotBeWritten()
+{
+    QVERIFY(QDir().mkpath(scriptPath("Q", "_current")));
+    OpenDialog open;
+    open.slide("darknessSlider", 4);
+    open.click("applyButton");
+    QVERIFY(!open.dialog.lastSaveSucceeded());
+    QCOMPARE(storedOptions("Q").value("Darkness"), QByteArray("4"));
 }
 
 void PropertiesDialogSaveTest::noScheduler()
