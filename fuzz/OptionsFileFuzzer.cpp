@@ -77,7 +77,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     std::vector<OptionsMerge::Change> changes(1);
     OptionsMerge::Change &change = changes.front();
     change.name = queue;
-    change.isNeededEmpty = [](const char *keyword) { return std::strlen(keyword) % 2 == 0; };
+    change.defaultValue = [](const char *keyword) { return std::strlen(keyword) % 2 == 0 ? "default" : nullptr; };
     for (int i = 1; i + 1 < parts.size(); i += 2)
         change.set.set(keywordFrom(parts.at(i)).constData(), parts.at(i + 1).constData());
 
