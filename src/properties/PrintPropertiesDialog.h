@@ -63,8 +63,8 @@ public:
 
     /**
      * Why the last saving could not write the user's options file, as a text for the user. Later requests and savings
-     * elsewhere do not change it. Empty when the file was written: if lastSaveSucceeded() is false all the same, a
-     * preset could not be written.
+     * elsewhere do not change it. Empty when the file was written: if lastSaveSucceeded() is still false, a preset
+     * could not be written.
      */
     QString lastSaveError() const;
 

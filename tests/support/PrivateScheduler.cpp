@@ -179,6 +179,9 @@ void PrivateScheduler::setUserOptions(const QString &name, const QStringList &op
         qFatal("there is no queue %s", queue.constData());
     for (const QString &option : options)
         dest->num_options = cupsParseOptions(option.toUtf8().constData(), dest->num_options, &dest->options);
+    // libcups expects the system's folder to exist.
+    if (qEnvironmentVariableIsSet("CUPS_SERVERROOT"))
+        QDir().mkpath(qEnvironmentVariable("CUPS_SERVERROOT"));
     if (cupsSetDests2(connection.get(), count, dests) != 0)
         qFatal("the options of %s cannot be saved: %s", qPrintable(name), cupsLastErrorString());
     cupsFreeDests(count, dests);
