@@ -38,7 +38,7 @@ struct Change
      * Whether an option must be overridden by an empty value, which is then stored as one blank, because other programs
      * turn an empty one into "true". An option for which it is false is left out instead.
      */
-    bool isNeededEmpty(const char *name) const;
+    bool isNeededEmpty(const char *option) const;
 
     bool areDefaultsKnown = true; ///< otherwise an empty value is the safe side
     bool isDamaged = false; ///< other programs have damaged it, so it is written even without another change

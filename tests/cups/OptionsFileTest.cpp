@@ -123,7 +123,8 @@ static int choose(int &, char **argv)
         return 1;
     CupsSupport again;
     again.setCurrentPrinter(QByteArray(argv[1]).toInt());
-    std::printf("%s\n", again.getValue(argv[2]));
+    const char *value = again.getValue(argv[2]);
+    std::printf("%s\n", value ? value : "");
     return 0;
 }
 static const TestMain::ChildFunction chooseFunction("choose", choose);

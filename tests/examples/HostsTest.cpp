@@ -275,9 +275,14 @@ void HostsTest::keepsFileNames()
 {
     QFETCH(QString, language);
     const QTemporaryDir folder("/tmp/pd-Büro-XXXXXX");
-    const Result result = Programs::press(
-        host(language, {"C", "-", "First"}), {{windowTitle, "Escape"}, {"First Printing Preferences", "Return"}},
-        withLibrary({{"LC_ALL", "de_DE.UTF-8"}, {"LANGUAGE", "en"}, {"HOME", folder.path()}}));
+    // If root runs the tests, libcups may use the second of these folders.
+    const QMap<QString, QString> environment{{"LC_ALL", "de_DE.UTF-8"},
+                                             {"LANGUAGE", "en"},
+                                             {"HOME", folder.path()},
+                                             {"CUPS_SERVERROOT", folder.filePath(".cups")}};
+    const Result result =
+        Programs::press(host(language, {"C", "-", "First"}),
+                        {{windowTitle, "Escape"}, {"First Printing Preferences", "Return"}}, withLibrary(environment));
     QVERIFY2(result.exitStatus == 0, qPrintable(result.errors));
     QVERIFY(QFile::exists(folder.filePath(".cups/lpoptions")));
 }

@@ -77,6 +77,13 @@ void addText(const Request &request, ipp_tag_t type, const char *attribute, cons
     ippAddString(request.get(), IPP_TAG_PRINTER, type, attribute, nullptr, text.toUtf8().constData());
 }
 
+// libcups writes root's options to the system's folder and does not create it.
+void makeFolderOfOptions()
+{
+    if (qEnvironmentVariableIsSet("CUPS_SERVERROOT"))
+        QDir().mkpath(qEnvironmentVariable("CUPS_SERVERROOT"));
+}
+
 } // namespace
 
 QByteArray CapturedJob::option(const char *keyword) const
@@ -162,6 +169,7 @@ void PrivateScheduler::setServerDefault(const QString &name)
 
 void PrivateScheduler::setUserDefault(const QString &name)
 {
+    makeFolderOfOptions();
     run("lpoptions", {"-d", name});
 }
 
@@ -179,9 +187,7 @@ void PrivateScheduler::setUserOptions(const QString &name, const QStringList &op
         qFatal("there is no queue %s", queue.constData());
     for (const QString &option : options)
         dest->num_options = cupsParseOptions(option.toUtf8().constData(), dest->num_options, &dest->options);
-    // libcups expects the system's folder to exist.
-    if (qEnvironmentVariableIsSet("CUPS_SERVERROOT"))
-        QDir().mkpath(qEnvironmentVariable("CUPS_SERVERROOT"));
+    makeFolderOfOptions();
     if (cupsSetDests2(connection.get(), count, dests) != 0)
         qFatal("the options of %s cannot be saved: %s", qPrintable(name), cupsLastErrorString());
     cupsFreeDests(count, dests);
