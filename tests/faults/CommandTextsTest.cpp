@@ -62,12 +62,14 @@ QChar randomCharacter(QRandomGenerator &random, int alphabet)
 }
 
 // How long the text may get in the options file: a line break is a carriage return's escape sequence with two
-// backslashes, and some characters have a backslash before them.
+// backslashes, and some characters have a backslash before them. From libcups 2.4.17 on, all backslashes are doubled.
 int lengthInFile(const QString &text)
 {
     int length = 5;
-    for (const QChar c : text)
-        length += c == '\n' || c == '\r' || c == QChar::ParagraphSeparator || c == QChar::LineSeparator ? 5 : 2;
+    for (const QChar c : text) {
+        const bool isLineBreak = c == '\n' || c == '\r' || c == QChar::ParagraphSeparator || c == QChar::LineSeparator;
+        length += isLineBreak ? 9 : c == '\\' || c == '#' ? 4 : 3;
+    }
     return length;
 }
 
