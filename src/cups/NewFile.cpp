@@ -3,8 +3,6 @@
 
 #include "cups/NewFile.h"
 
-#include "cups/BackgroundThread.h"
-
 #include <QCoreApplication>
 
 #include <fcntl.h>
@@ -69,10 +67,8 @@ bool NewFile::write(const QByteArray &content)
             left -= static_cast<std::size_t>(written);
         }
     }
-    if (!isNeededOnDisk())
-        return true;
-    isOnDisk = fsync(fd) == 0;
-    return isOnDisk;
+    // A dialog need not wait for the disk otherwise, which can take seconds while other programs write much.
+    return !isNeededOnDisk() || fsync(fd) == 0;
 }
 
 bool NewFile::isNeededOnDisk() const
@@ -83,25 +79,9 @@ bool NewFile::isNeededOnDisk() const
     return !isReplaced || !writesContentBeforeName(fd);
 }
 
-// A dialog need not wait for the disk, which can take seconds while other programs write much.
-void NewFile::syncLater()
-{
-    const auto sync = [file = fd] {
-        fsync(file);
-        close(file);
-    };
-    fd = -1;
-    if (auto thread = startBackgroundThread(sync))
-        thread->detach();
-    else
-        sync();
-}
-
 bool NewFile::replace()
 {
     isNamed = renameat(folder, temporaryName.constData(), folder, name.constData()) == 0;
-    if (isNamed && !isOnDisk)
-        syncLater();
     return isNamed;
 }
 

@@ -33,13 +33,11 @@ public:
 
 private:
     bool isNeededOnDisk() const;
-    void syncLater();
 
     const int folder;
     const QByteArray name;
     QByteArray temporaryName;
     int fd = -1;
-    bool isOnDisk = false;
     bool isNamed = false;
 };
 
