@@ -6,6 +6,7 @@
 #include "cups/CLocale.h"
 #include "cups/Conflicts.h"
 #include "cups/Dialect.h"
+#include "cups/OptionArray.h"
 #include "cups/OptionsFile.h"
 #include "cups/PpdFile.h"
 #include "cups/PrintJob.h"
@@ -20,7 +21,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <iterator>
 #include <string>
@@ -69,15 +69,9 @@ const ppd_size_t *findPageSize(const ppd_file_t *ppd, const char *name)
     return ppd ? findRecord(ppd->sizes, ppd->num_sizes, isNamed) : nullptr;
 }
 
-// Removes a saved option. libcups keeps the memory of an array that has become empty, and allocates another one for the
-// next option.
 void removeOption(cups_dest_t *dest, const char *keyword)
 {
-    dest->num_options = cupsRemoveOption(keyword, dest->num_options, &dest->options);
-    if (dest->num_options == 0) {
-        std::free(dest->options);
-        dest->options = nullptr;
-    }
+    removeOption(keyword, &dest->num_options, &dest->options);
 }
 
 // A job's title: Latin-1 like all texts, but encoded in UTF-8. Otherwise the scheduler calls the job "Untitled".

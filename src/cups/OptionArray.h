@@ -7,8 +7,19 @@
 #include <cups/cups.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <utility>
+
+/** libcups itself keeps the memory of an array that has become empty, and allocates another one for the next option. */
+inline void removeOption(const char *name, int *count, cups_option_t **options)
+{
+    *count = cupsRemoveOption(name, *count, options);
+    if (*count == 0) {
+        std::free(*options);
+        *options = nullptr;
+    }
+}
 
 /** An array of libcups' options, sorted by name as libcups keeps it, with at most one option of each name. */
 class OptionArray
@@ -39,14 +50,7 @@ public:
     ~OptionArray() { cupsFreeOptions(count, options); }
 
     void set(const char *name, const char *value) { count = cupsAddOption(name, value, count, &options); }
-    void remove(const char *name)
-    {
-        // libcups keeps the memory of an array that has become empty and never frees it.
-        if (count == 1 && value(name))
-            *this = OptionArray();
-        else
-            count = cupsRemoveOption(name, count, &options);
-    }
+    void remove(const char *name) { removeOption(name, &count, &options); }
     /** Adds the options of a line of the options file. */
     void parse(const char *text) { count = cupsParseOptions(text, count, &options); }
 

@@ -53,7 +53,7 @@ public:
 
     void look(http_t *http) { ask(http, newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, uri.constData())); }
 
-    // From 2.4.3 on, the scheduler connects to the printer before it answers.
+    // The scheduler of CUPS 2.4.10 connects to the printer before it answers; that of 2.4.2 answers first.
     bool hasFoundPrinterOff() const { return isPrinterOff; }
     bool exists() const { return !uri.isEmpty(); }
     bool hasReachedPrinter() const { return state == IPP_PSTATE_IDLE || state == IPP_PSTATE_PROCESSING; }

@@ -3,7 +3,6 @@
 
 #include "cups/Scheduler.h"
 
-#include "cups/BackgroundThread.h"
 #include "cups/Passwords.h"
 
 #include <QByteArray>
@@ -14,9 +13,11 @@
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
+#include <csignal>
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 
 #include <netinet/in.h>
@@ -222,11 +223,31 @@ void run(const std::shared_ptr<Request> &request, const Work &work, const Identi
     request->changed.notify_one();
 }
 
+// A thread that does not receive the host's signals. Nothing if the system has no more threads.
+std::optional<std::thread> startThread(const std::function<void()> &function)
+{
+    sigset_t blocked;
+    sigset_t before;
+    sigfillset(&blocked);
+    // Those that report a fault of the thread itself go to the host's handlers. Blocked, they would end the process.
+    for (const int fault : {SIGBUS, SIGFPE, SIGILL, SIGSEGV, SIGSYS, SIGTRAP})
+        sigdelset(&blocked, fault);
+    pthread_sigmask(SIG_SETMASK, &blocked, &before);
+    std::optional<std::thread> thread;
+    try {
+        thread.emplace(function);
+    } catch (const std::system_error &) {
+        thread.reset();
+    }
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    return thread;
+}
+
 // Calls the function on a thread on which libcups is prepared, and waits. If the system has no more threads, calls it
 // on this thread.
 void callOnThread(const std::function<void()> &prepare, const std::function<void()> &function)
 {
-    std::optional<std::thread> thread = startBackgroundThread([&] {
+    std::optional<std::thread> thread = startThread([&] {
         prepare();
         function();
     });
@@ -309,7 +330,7 @@ Outcome converse(const Work &work, const Patience &patience)
             return Outcome::NotAnswered;
         }
     }
-    std::optional<std::thread> thread = startBackgroundThread([=] { run(request, work, identity, http); });
+    std::optional<std::thread> thread = startThread([=] { run(request, work, identity, http); });
     if (!thread) {
         httpClose(http);
         return Outcome::NotAnswered;

@@ -88,6 +88,7 @@ UserFile::~UserFile()
         close(folderFd);
 }
 
+// For getxattr(), which does not take the descriptor of a folder.
 QByteArray UserFile::pathWithoutLinks() const
 {
     return "/proc/self/fd/" + QByteArray::number(folderFd) + '/' + name;

@@ -4,9 +4,9 @@
 #include "host/PrinterProperties.h"
 
 #include "cups/CupsSupport.h"
+#include "cups/Scheduler.h"
 
 #include <QPrintEngine>
-#include <QPrinter>
 
 #include <algorithm>
 
@@ -35,6 +35,11 @@ void setMarginsToZero(QPrinter &printer)
 }
 
 } // namespace
+
+void PrinterProperties::createWithoutRequests(std::optional<QPrinter> &printer)
+{
+    Scheduler::callWithoutScheduler([&printer] { printer.emplace(QPrinter::ScreenResolution); });
+}
 
 void PrinterProperties::set(QPrinter &printer, QPageLayout::Orientation orientation, const CupsSupport *cups)
 {

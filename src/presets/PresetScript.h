@@ -58,9 +58,6 @@ constexpr qint64 sizeLimit = qint64{1024} * 1024; // bytes
 /** The suffix of a script's file name. */
 const QLatin1String suffix(".sh");
 
-/** What the file names of presets that no list shows begin with: copies of what the options file holds. */
-const QLatin1Char hiddenMark('_');
-
 /**
  * The folder of @p printer's scripts: $HOME/.cups/PRINTER, with $HOME as it was when the library was loaded.
  *

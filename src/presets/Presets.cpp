@@ -15,6 +15,8 @@
 
 namespace {
 
+// Presets that no list shows: copies of what the options file holds.
+const QLatin1Char hiddenMark('_');
 const QLatin1Char hiddenFileMark('.');
 const QString linkName = QStringLiteral("currentPreset");
 
@@ -63,7 +65,7 @@ bool Presets::load()
 
     const QStringList entries = PresetFolder::files(folder, PresetScript::suffix);
     for (const QString &entry : entries)
-        if (!entry.startsWith(PresetScript::hiddenMark) && !entry.startsWith(hiddenFileMark))
+        if (!entry.startsWith(hiddenMark) && !entry.startsWith(hiddenFileMark))
             addPreset(new Preset(d->printerName, withoutSuffix(entry), {}, QString(), QString(), -1));
 
     const QString target = QFile::decodeName(PresetFolder::linkTarget(linkPathName()));

@@ -4,8 +4,8 @@
 #include "properties/PropertiesDialog.h"
 
 #include "cups/CupsSupport.h"
-#include "cups/Scheduler.h"
 #include "host/HostLocale.h"
+#include "host/PrinterProperties.h"
 #include "host/Translation.h"
 #include "host/WindowSystem.h"
 #include "properties/PrintPropertiesDialog.h"
@@ -22,10 +22,9 @@ namespace {
 // The dialog of this queue; of the default printer if it is null.
 int runDialog(const char *queue)
 {
-    // Qt would request all destinations and the PPD file again and wait without a limit. Nothing is printed with this
-    // printer object, so it only needs the name of the queue.
+    // Nothing is printed with this printer object, so it only needs the name of the queue.
     std::optional<QPrinter> printer;
-    Scheduler::callWithoutScheduler([&printer] { printer.emplace(QPrinter::ScreenResolution); });
+    PrinterProperties::createWithoutRequests(printer);
     CupsSupport cups;
     if (queue) {
         const int index = cups.getQueueIndex(QString::fromUtf8(queue));
