@@ -165,7 +165,7 @@ private:
 
 static int askSilentScheduler(int &, char **)
 {
-    Scheduler::setLimits({2s, 4s}); // the usual ones would only take longer
+    Scheduler::setLimits({5s, 500ms}); // the usual ones would only take longer
     const QTemporaryDir folder;
     SilentScheduler silent(folder.filePath("s"));
     CupsSupport cups;

@@ -220,7 +220,7 @@ void DnsSdTest::unreachable_data()
 void DnsSdTest::unreachable()
 {
     QFETCH(QString, description);
-    Scheduler::setLimits({5s, 15s, 1s});
+    Scheduler::setLimits({5s, 15s, 500ms});
     const auto cups = supportThatLists(description);
     QElapsedTimer timer;
     timer.start();

@@ -60,7 +60,7 @@ int showWithoutAnswer(int &argc, char **argv)
     QPrinter printer;
     CupsSupport cups;
     PrintDialog dialog(nullptr, &printer, &cups);
-    Scheduler::setLimits({1500ms, 3000ms}); // the usual ones would only take longer
+    Scheduler::setLimits({5s, 500ms}); // the usual ones would only take longer
     kill(process, SIGSTOP);
     QElapsedTimer timer;
     timer.start();

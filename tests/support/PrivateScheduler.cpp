@@ -155,6 +155,8 @@ void PrivateScheduler::addQueue(const QString &name, const QString &ppd, const Q
 void PrivateScheduler::removeQueue(const QString &name)
 {
     send(requestFor(IPP_OP_CUPS_DELETE_PRINTER, name).release());
+    if (name == serverDefault)
+        serverDefault.clear();
 }
 
 void PrivateScheduler::setPpd(const QString &queue, const QString &ppd)
@@ -164,7 +166,11 @@ void PrivateScheduler::setPpd(const QString &queue, const QString &ppd)
 
 void PrivateScheduler::setServerDefault(const QString &name)
 {
+    // Tests say this for each row. The scheduler would write its files each time.
+    if (name == serverDefault)
+        return;
     send(requestFor(IPP_OP_CUPS_SET_DEFAULT, name).release());
+    serverDefault = name;
 }
 
 void PrivateScheduler::setUserDefault(const QString &name)

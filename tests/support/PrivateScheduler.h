@@ -104,6 +104,7 @@ private:
     QByteArray accessLog() const;
 
     QTemporaryDir temporaryDir;
+    QString serverDefault;
     int loggedBefore = 0;
     int markers = 0;
     int editedPpds = 0;
