@@ -4,6 +4,10 @@
 #include "OpenDialog.h"
 #include "Programs.h"
 #include "TestMain.h"
+#include "widgets/PasswordDialog.h"
+
+#include <PropertiesDialog/ExtDialog.h>
+#include <PropertiesDialog/PrintDialog.h>
 
 #include <QIcon>
 #include <QImage>
@@ -15,6 +19,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <initializer_list>
 
 // The dialog on screens with more pixels and on small ones: a child process each, since Qt reads the factor and the size
 // of the screen at its start.
@@ -171,10 +176,35 @@ void examinePage(const QWidget *page)
           "the end of a page is out of reach");
 }
 
+void examineSize(const QWidget &dialog)
+{
+    constexpr int titleBar = 30; // of a window manager, which does not run here
+    const QRect screen = dialog.screen()->availableGeometry();
+    check(dialog.width() <= screen.width() && dialog.height() + titleBar <= screen.height(),
+          "a dialog is larger than the screen");
+    for (QAbstractButton *button : dialog.findChildren<QAbstractButton *>())
+        if (button->isVisible() && button->inherits("QPushButton"))
+            check(dialog.rect().contains(QRect(button->mapTo(&dialog, QPoint()), button->size())),
+                  "a button is out of reach");
+}
+
+// Those that have no pages that scroll.
+void examineOtherDialogs(QPrinter &printer, CupsSupport &cups)
+{
+    PrintDialog print(nullptr, &printer, &cups);
+    PrintDialog question(nullptr);
+    ExtDialog offset(nullptr, &cups);
+    PasswordDialog password(nullptr, "user", true);
+    for (QDialog *dialog : std::initializer_list<QDialog *>{&print, &question, &offset, &password}) {
+        dialog->show();
+        QCoreApplication::processEvents();
+        examineSize(*dialog);
+    }
+}
+
 // Argument: the size of the font in points. Prints the size of the screen and the faults.
 int examineOnSmallScreen(int &argc, char **argv)
 {
-    constexpr int titleBar = 30; // of a window manager, which does not run here
     QApplication application(argc, argv);
     QApplication::setStyle("Fusion");
     QFont font = QApplication::font();
@@ -183,16 +213,14 @@ int examineOnSmallScreen(int &argc, char **argv)
     OpenDialog open;
     const QRect screen = open.dialog.screen()->availableGeometry();
     std::printf("%dx%d\n", screen.width(), screen.height());
-    check(open.dialog.width() <= screen.width() && open.dialog.height() + titleBar <= screen.height(),
-          "the dialog is larger than the screen");
-    for (const char *button : {"okButton", "cancelButton", "applyButton"})
-        check(open.dialog.rect().contains(open.widget(button)->geometry()), "a button is out of reach");
+    examineSize(open.dialog);
     auto *tabs = open.widget<QTabWidget>("tabs");
     for (int i = 0; i < tabs->count(); ++i) {
         tabs->setCurrentIndex(i);
         QCoreApplication::processEvents();
         examinePage(tabs->currentWidget());
     }
+    examineOtherDialogs(open.printer, open.cups);
     return 0;
 }
 
@@ -210,8 +238,8 @@ class ScalingTest : public QObject
 private Q_SLOTS:
     void dialogIsSharpAndWhole_data();
     void dialogIsSharpAndWhole();
-    void dialogFitsSmallScreen_data();
-    void dialogFitsSmallScreen();
+    void dialogsFitSmallScreen_data();
+    void dialogsFitSmallScreen();
 };
 
 void ScalingTest::dialogIsSharpAndWhole_data()
@@ -231,7 +259,7 @@ void ScalingTest::dialogIsSharpAndWhole()
     QCOMPARE(result.output, QByteArray("examined\n"));
 }
 
-void ScalingTest::dialogFitsSmallScreen_data()
+void ScalingTest::dialogsFitSmallScreen_data()
 {
     QTest::addColumn<QString>("screen");
     QTest::addColumn<QString>("factor");
@@ -255,7 +283,7 @@ void ScalingTest::dialogFitsSmallScreen_data()
                                                  << "911x512";
 }
 
-void ScalingTest::dialogFitsSmallScreen()
+void ScalingTest::dialogsFitSmallScreen()
 {
     QFETCH(QString, screen);
     QFETCH(QString, factor);
