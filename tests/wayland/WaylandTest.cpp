@@ -77,10 +77,13 @@ void click(const QWidget *widget, const QPoint &place)
     const QWidget *window = widget->window();
     const QPoint corner((screenWidth - window->width()) / 2, (screenHeight - window->height()) / 2);
     const QPoint screen = corner + widget->mapTo(window, place);
-    // The second movement is inside the window: the compositor ignores a click before that.
-    for (const int x : {screen.x() - 1, screen.x()}) {
-        runTool({"mousemove", QString::number(x), QString::number(screen.y())});
-        QTest::qWait(50);
+    // The compositor ignores a click before a movement inside the window.
+    const auto isThere = [&] { return widget->mapFromGlobal(QCursor::pos()) == place; };
+    for (int tries = 0; tries < 100; ++tries) {
+        for (const int x : {screen.x() - 1, screen.x()})
+            runTool({"mousemove", QString::number(x), QString::number(screen.y())});
+        if (QTest::qWaitFor(isThere, 50))
+            break;
     }
     runTool({"click", "1"});
 }
