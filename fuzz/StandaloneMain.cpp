@@ -19,6 +19,7 @@ int main(int argc, char **argv)
         QTemporaryDir home;
         qputenv("HOME", QFile::encodeName(home.path()));
         qputenv("TMPDIR", QFile::encodeName(home.path()));
+        qputenv("CUPS_SERVERROOT", QFile::encodeName(home.path()) + "/system-wide"); // root's options may be there
         qputenv(homeIsFresh, "1");
         const pid_t child = fork();
         if (child == 0) {

@@ -129,9 +129,6 @@ static int choose(int &, char **argv)
 }
 static const TestMain::ChildFunction chooseFunction("choose", choose);
 
-// Whether the user is root, whose options are the system's with newer versions of libcups; see TestMain.
-static const bool isSystemWide = qEnvironmentVariableIsSet("CUPS_SERVERROOT");
-
 // If this fails, saved settings of this or other printers are lost or read back differently.
 class OptionsFileTest : public CupsTest
 {
@@ -911,7 +908,7 @@ void OptionsFileTest::newFile()
     struct stat status = {};
     QCOMPARE(stat(QFile::encodeName(optionsPath()), &status), 0);
     // The one of the system is for everybody.
-    QCOMPARE(int(status.st_mode & 07777), isSystemWide ? 0644 : 0640);
+    QCOMPARE(int(status.st_mode & 07777), TestMain::isOptionsFileSystemWide() ? 0644 : 0640);
 }
 
 void OptionsFileTest::newFolder()
@@ -921,7 +918,7 @@ void OptionsFileTest::newFolder()
     QCOMPARE(cups.setDests(), 0);
     struct stat status = {};
     QCOMPARE(stat(QFile::encodeName(QFileInfo(optionsPath()).path()), &status), 0);
-    QCOMPARE(int(status.st_mode & 07777), isSystemWide ? 0755 : 0700);
+    QCOMPARE(int(status.st_mode & 07777), TestMain::isOptionsFileSystemWide() ? 0755 : 0700);
 }
 
 void OptionsFileTest::permissionsAreKept_data()
@@ -1070,7 +1067,7 @@ void OptionsFileTest::defaultHoldsAgainstSystemWideOption()
     QVERIFY2(QByteArrayList({chosen, QByteArray(), QByteArray(" ")}).contains(read()), read().constData());
     // It stays so when it is saved again, and options that the user did not touch are not copied.
     QCOMPARE(choose(), chosen + "\n");
-    if (!isSystemWide)
+    if (!TestMain::isOptionsFileSystemWide())
         QVERIFY(!readOptionsFile().contains("Feed"));
     QVERIFY(QDir(folder).removeRecursively());
 }
@@ -1083,12 +1080,12 @@ void OptionsFileTest::homeThatIsNoText()
                               "ro\xff";
     QCOMPARE(mkdir(home, 0700), 0);
     qputenv("HOME", home);
-    if (isSystemWide)
+    if (TestMain::isOptionsFileSystemWide())
         qputenv("CUPS_SERVERROOT", home + "/.cups");
     const TestMain::ChildResult saved = TestMain::runChild("saveWithLimit", {"100000"});
     const TestMain::ChildResult read = TestMain::runChild("printOptions", {"LP1"});
     qputenv("HOME", earlier);
-    if (isSystemWide)
+    if (TestMain::isOptionsFileSystemWide())
         qputenv("CUPS_SERVERROOT", earlier + "/.cups");
     QCOMPARE(saved.output, QByteArray("0\n"));
     QVERIFY2(read.output.contains("Darkness 35"), read.output.constData());

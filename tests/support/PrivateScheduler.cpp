@@ -3,6 +3,8 @@
 
 #include "PrivateScheduler.h"
 
+#include "TestMain.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -80,7 +82,7 @@ void addText(const Request &request, ipp_tag_t type, const char *attribute, cons
 // libcups writes root's options to the system's folder and does not create it.
 void makeFolderOfOptions()
 {
-    if (qEnvironmentVariableIsSet("CUPS_SERVERROOT"))
+    if (TestMain::isOptionsFileSystemWide())
         QDir().mkpath(qEnvironmentVariable("CUPS_SERVERROOT"));
 }
 

@@ -67,14 +67,6 @@ void failOnWarning(QtMsgType type, const QMessageLogContext &, const QString &me
     }
 }
 
-bool hasSystemWideOptions()
-{
-    cupsEncryption(); // so that libcups reads client.conf, without which newer ones give no name
-    int version[] = {0, 0, 0};
-    std::sscanf(cupsUserAgent(), "CUPS/%d.%d.%d", &version[0], &version[1], &version[2]);
-    return std::make_tuple(version[0], version[1], version[2]) >= std::make_tuple(2, 4, 10);
-}
-
 // Makes look-ups of names on this thread fail immediately. QPrinter looks up the name of this machine for each PPD
 // file, which takes long if that name does not resolve; all schedulers here are on local sockets.
 void forgetNameServers()
@@ -93,9 +85,9 @@ void forgetNameServers()
     setenv("HOME", home.constData(), 1);
     setenv("XDG_RUNTIME_DIR", home.constData(), 1);
     setenv(homeIsFresh, "1", 1);
-    // From 2.4.10 on, libcups reads root's options from the system's folder, which tests must not change.
-    if (getuid() == 0 && hasSystemWideOptions())
-        setenv("CUPS_SERVERROOT", (home + "/.cups").constData(), 1);
+    // The folder of the options for all users. Tests must not find those of this machine.
+    const char *folder = TestMain::isOptionsFileSystemWide() ? "/.cups" : "/system-wide";
+    setenv("CUPS_SERVERROOT", (home + folder).constData(), 1);
     setenv("RES_OPTIONS", "timeout:1 attempts:1", 1); // lpadmin also looks up the name of this machine
     for (const char *variable : {"LPDEST", "PRINTER", "CUPS_SERVER", "XDG_CONFIG_HOME", "LANGUAGE"})
         unsetenv(variable);
@@ -151,6 +143,14 @@ int runTestsInFreshHome(char **argv)
 }
 
 } // namespace
+
+bool TestMain::isOptionsFileSystemWide()
+{
+    cupsEncryption(); // so that libcups reads client.conf, without which newer ones give no name
+    int version[] = {0, 0, 0};
+    std::sscanf(cupsUserAgent(), "CUPS/%d.%d.%d", &version[0], &version[1], &version[2]);
+    return getuid() == 0 && std::make_tuple(version[0], version[1], version[2]) >= std::make_tuple(2, 4, 10);
+}
 
 TestMain::ChildFunction::ChildFunction(const char *name, Function function)
 {

@@ -61,6 +61,12 @@ public:
 ChildResult runChild(const char *name, const QStringList &arguments = {},
                      const QMap<QString, QString> &environment = {});
 
+/**
+ * Whether the user is root and libcups keeps root's options in the folder of those for all users, as from 2.4.10 on. That
+ * folder is then HOME/.cups, where tests expect the options of whoever runs them.
+ */
+bool isOptionsFileSystemWide();
+
 /** Gives the process its HOME, or runs a child function; returns the exit code, or -1 to go on with the tests. */
 int prepare(int &argc, char **argv);
 
