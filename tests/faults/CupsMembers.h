@@ -284,22 +284,10 @@ inline void withoutPrinter(CupsSupport &cups)
     cups.setCurrentPrinter(-1);
 }
 
-/** The process of a private scheduler. */
-inline pid_t processOf(const PrivateScheduler &scheduler)
-{
-    QFile file(scheduler.dir() + "/run/cupsd.pid");
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("no scheduler runs");
-    const pid_t process = file.readAll().trimmed().toInt();
-    if (process <= 1)
-        qFatal("no scheduler runs");
-    return process;
-}
-
 /** Ends the scheduler without a chance to clean up; start() starts it again. */
 inline void killScheduler(const PrivateScheduler &scheduler)
 {
-    const pid_t process = processOf(scheduler);
+    const pid_t process = scheduler.process();
     kill(process, SIGKILL);
     QFile arguments(QString("/proc/%1/cmdline").arg(process));
     while (arguments.open(QIODevice::ReadOnly) && !arguments.readAll().isEmpty()) {

@@ -327,15 +327,15 @@ void SilentSchedulerTest::initTestCase()
     noPpdFile = callEach(cups, [](CupsSupport &c) { c.setCurrentPrinter(2); });
     startFaults();
     Scheduler::setLimits(shortestLimits);
-    kill(processOf(scheduler), SIGSTOP);
+    kill(scheduler.process(), SIGSTOP);
     silent = callEach(cups);
     noPrinter = callEach(cups, withoutPrinter);
-    kill(processOf(scheduler), SIGCONT);
+    kill(scheduler.process(), SIGCONT);
 }
 
 void SilentSchedulerTest::cleanup()
 {
-    kill(processOf(scheduler), SIGCONT);
+    kill(scheduler.process(), SIGCONT);
 }
 
 void SilentSchedulerTest::addQueues(PrivateScheduler &to)
@@ -378,7 +378,7 @@ QString SilentSchedulerTest::socketOf(FaultyScheduler::Fault fault) const
 void SilentSchedulerTest::runsInTime(const char *function, const QStringList &arguments)
 {
     const TestMain::ChildResult result = TestMain::runChild(function, arguments);
-    kill(processOf(scheduler), SIGCONT);
+    kill(scheduler.process(), SIGCONT);
     QCOMPARE(result.exitCode, 0);
     QVERIFY(!result.output.isEmpty());
     QVERIFY2(result.output.toLongLong() < longest, result.output.constData());
@@ -455,7 +455,7 @@ void SilentSchedulerTest::whileOpen()
     writeFile(cupsFolder() + "/LP1/Plain.sh", "#!/bin/bash\nlpoptions -pLP1 -oDarkness=3\n");
     writeFile(cupsFolder() + "/LP1/Sized.sh", "#!/bin/bash\nlpoptions -pLP1 -oDarkness=3\nppdhack 4.00 3.00 LP1\n");
     const DriverCommand ppdhack("exit 0\n");
-    runsInTime("fall-silent", {QString::number(processOf(scheduler)), QString::number(action)});
+    runsInTime("fall-silent", {QString::number(scheduler.process()), QString::number(action)});
 
     // Whether something was saved or not, what was stored still is.
     const QByteArray stored = fileContent(options);
@@ -480,16 +480,16 @@ void SilentSchedulerTest::whileOpen()
 
 void SilentSchedulerTest::printerIsChanged()
 {
-    runsInTime("change-printer", {QString::number(processOf(scheduler))});
+    runsInTime("change-printer", {QString::number(scheduler.process())});
 }
 
 // It is asked again once it had time to recover.
 void SilentSchedulerTest::answersAgain()
 {
     CupsSupport cups;
-    kill(processOf(scheduler), SIGSTOP);
+    kill(scheduler.process(), SIGSTOP);
     QVERIFY(!cups.getPpdFile());
-    kill(processOf(scheduler), SIGCONT);
+    kill(scheduler.process(), SIGCONT);
     QTRY_VERIFY_WITH_TIMEOUT(cups.getPpdFile(), int(longest));
 }
 

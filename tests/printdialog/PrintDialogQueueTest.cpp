@@ -411,8 +411,7 @@ void PrintDialogQueueTest::statusWithoutAScheduler()
 
 void PrintDialogQueueTest::statusWithoutAnAnswer()
 {
-    const QByteArray process = fileContent(scheduler.dir() + "/run/cupsd.pid").trimmed();
-    QCOMPARE(TestMain::runChild("showWithoutAnswer", {process}).exitCode, 0);
+    QCOMPARE(TestMain::runChild("showWithoutAnswer", {QByteArray::number(scheduler.process())}).exitCode, 0);
 }
 
 PROPERTIESDIALOG_TEST_MAIN(PrintDialogQueueTest)

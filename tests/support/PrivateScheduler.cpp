@@ -299,6 +299,14 @@ QString PrivateScheduler::socket() const
     return temporaryDir.filePath("run/cups.sock");
 }
 
+pid_t PrivateScheduler::process() const
+{
+    const pid_t process = readFile(temporaryDir.filePath("pid")).trimmed().toInt();
+    if (process <= 1)
+        qFatal("no scheduler runs"); // kill() takes such a number for many processes
+    return process;
+}
+
 void PrivateScheduler::script(const QString &command)
 {
     QStringList arguments{command, temporaryDir.path()};

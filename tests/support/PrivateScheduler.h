@@ -13,6 +13,8 @@
 
 #include <cups/ipp.h>
 
+#include <sys/types.h>
+
 /** What one print job sent to its printer. */
 struct CapturedJob
 {
@@ -96,6 +98,7 @@ public:
 
     QString dir() const { return temporaryDir.path(); }
     QString socket() const;
+    pid_t process() const; ///< It must be running.
 
 private:
     void script(const QString &command);
