@@ -15,7 +15,9 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -289,6 +291,7 @@ private slots:
     void whileOpen();
     void printerIsChanged();
     void answersAgain();
+    void signalsOfTheHost();
 
     void fault_data();
     void fault();
@@ -491,6 +494,26 @@ void SilentSchedulerTest::answersAgain()
     QVERIFY(!cups.getPpdFile());
     kill(scheduler.process(), SIGCONT);
     QTRY_VERIFY_WITH_TIMEOUT(cups.getPpdFile(), int(longest));
+}
+
+// The host's signals are handled on the host's threads. A crash is reported by the host's crash handler, which does not
+// run if the signal is blocked.
+void SilentSchedulerTest::signalsOfTheHost()
+{
+    sigset_t before;
+    sigset_t after;
+    const auto during = std::make_shared<sigset_t>();
+    Scheduler::setLimits({});
+    QTRY_VERIFY_WITH_TIMEOUT(!Scheduler::isLeftAlone(), int(longest));
+    pthread_sigmask(SIG_SETMASK, nullptr, &before);
+    QVERIFY(Scheduler::ask([during](http_t *) { pthread_sigmask(SIG_SETMASK, nullptr, during.get()); }));
+    pthread_sigmask(SIG_SETMASK, nullptr, &after);
+    for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGCHLD, SIGALRM, SIGUSR1, SIGUSR2, SIGPIPE})
+        QVERIFY2(sigismember(during.get(), signal), strsignal(signal));
+    for (const int signal : {SIGBUS, SIGFPE, SIGILL, SIGSEGV, SIGSYS, SIGTRAP})
+        QVERIFY2(!sigismember(during.get(), signal), strsignal(signal));
+    for (int signal = 1; signal < SIGRTMIN; ++signal)
+        QCOMPARE(sigismember(&after, signal), sigismember(&before, signal));
 }
 
 PROPERTIESDIALOG_TEST_MAIN(SilentSchedulerTest)
