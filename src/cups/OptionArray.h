@@ -11,7 +11,7 @@
 #include <cstring>
 #include <utility>
 
-/** libcups itself keeps the memory of an array that has become empty, and allocates another one for the next option. */
+/** Frees an array that becomes empty. libcups itself keeps its memory and allocates another one for the next option. */
 inline void removeOption(const char *name, int *count, cups_option_t **options)
 {
     *count = cupsRemoveOption(name, *count, options);

@@ -7,6 +7,7 @@
 #include "cups/Scheduler.h"
 
 #include <QPrintEngine>
+#include <QPrinter>
 
 #include <algorithm>
 
@@ -36,9 +37,11 @@ void setMarginsToZero(QPrinter &printer)
 
 } // namespace
 
-void PrinterProperties::createWithoutRequests(std::optional<QPrinter> &printer)
+std::unique_ptr<QPrinter> PrinterProperties::createWithoutRequests()
 {
-    Scheduler::callWithoutScheduler([&printer] { printer.emplace(QPrinter::ScreenResolution); });
+    std::unique_ptr<QPrinter> printer;
+    Scheduler::callWithoutScheduler([&printer] { printer = std::make_unique<QPrinter>(QPrinter::ScreenResolution); });
+    return printer;
 }
 
 void PrinterProperties::set(QPrinter &printer, QPageLayout::Orientation orientation, const CupsSupport *cups)

@@ -5,18 +5,18 @@
 #define PRINTERPROPERTIES_H
 
 #include <QPageLayout>
-#include <QPrinter>
 #include <QVariant>
 
-#include <optional>
+#include <memory>
 
 class CupsSupport;
+class QPrinter;
 
 /** The settings that a QPrinter receives. */
 namespace PrinterProperties {
 
-/** Qt would request all destinations and the PPD file, and wait without a limit. */
-void createWithoutRequests(std::optional<QPrinter> &printer);
+/** A printer object for which Qt does not request destinations and PPD file, which it does without a time limit. */
+std::unique_ptr<QPrinter> createWithoutRequests();
 
 /**
  * Sets orientation and margins and, unless @p cups is null, the CUPS properties of the print engine: the marked options

@@ -15,6 +15,7 @@
 #include <QPrinter>
 #include <QThread>
 
+#include <memory>
 #include <optional>
 
 namespace {
@@ -23,8 +24,7 @@ namespace {
 int runDialog(const char *queue)
 {
     // Nothing is printed with this printer object, so it only needs the name of the queue.
-    std::optional<QPrinter> printer;
-    PrinterProperties::createWithoutRequests(printer);
+    const std::unique_ptr<QPrinter> printer = PrinterProperties::createWithoutRequests();
     CupsSupport cups;
     if (queue) {
         const int index = cups.getQueueIndex(QString::fromUtf8(queue));
@@ -33,7 +33,7 @@ int runDialog(const char *queue)
         cups.setCurrentPrinter(index);
     }
     printer->printEngine()->setProperty(QPrintEngine::PPK_PrinterName, cups.getCurrentQueueName());
-    PrintPropertiesDialog dialog(nullptr, &*printer, &cups);
+    PrintPropertiesDialog dialog(nullptr, printer.get(), &cups);
     return dialog.exec();
 }
 
