@@ -500,20 +500,16 @@ void SilentSchedulerTest::answersAgain()
 // run if the signal is blocked.
 void SilentSchedulerTest::signalsOfTheHost()
 {
-    sigset_t before;
-    sigset_t after;
     const auto during = std::make_shared<sigset_t>();
+    sigset_t after;
     Scheduler::setLimits({});
     QTRY_VERIFY_WITH_TIMEOUT(!Scheduler::isLeftAlone(), int(longest));
-    pthread_sigmask(SIG_SETMASK, nullptr, &before);
     QVERIFY(Scheduler::ask([during](http_t *) { pthread_sigmask(SIG_SETMASK, nullptr, during.get()); }));
     pthread_sigmask(SIG_SETMASK, nullptr, &after);
     for (const int signal : {SIGHUP, SIGINT, SIGTERM, SIGCHLD, SIGALRM, SIGUSR1, SIGUSR2, SIGPIPE})
-        QVERIFY2(sigismember(during.get(), signal), strsignal(signal));
+        QVERIFY2(sigismember(during.get(), signal) && !sigismember(&after, signal), strsignal(signal));
     for (const int signal : {SIGBUS, SIGFPE, SIGILL, SIGSEGV, SIGSYS, SIGTRAP})
         QVERIFY2(!sigismember(during.get(), signal), strsignal(signal));
-    for (int signal = 1; signal < SIGRTMIN; ++signal)
-        QCOMPARE(sigismember(&after, signal), sigismember(&before, signal));
 }
 
 PROPERTIESDIALOG_TEST_MAIN(SilentSchedulerTest)
