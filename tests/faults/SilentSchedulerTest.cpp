@@ -320,6 +320,7 @@ private:
 void SilentSchedulerTest::initTestCase()
 {
     addQueues(upstream);
+    startFaults();
     addQueues(scheduler);
     for (const char *queue : {"LP1", "LP3"})
         scheduler.setUserOptions(queue, {"Darkness=5", "GapSize=4.5", "JobStart=begin", "Back=30"});
@@ -328,7 +329,6 @@ void SilentSchedulerTest::initTestCase()
     CupsSupport cups;
     running = callEach(cups);
     noPpdFile = callEach(cups, [](CupsSupport &c) { c.setCurrentPrinter(2); });
-    startFaults();
     Scheduler::setLimits(shortestLimits);
     kill(scheduler.process(), SIGSTOP);
     silent = callEach(cups);

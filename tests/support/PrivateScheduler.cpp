@@ -98,7 +98,7 @@ QByteArray CapturedJob::option(const char *keyword) const
 }
 
 PrivateScheduler::PrivateScheduler()
-    : temporaryDir(QStringLiteral("/tmp/pd-XXXXXX"))
+    : temporaryDir(TestMain::scratchFolder() + "/pd-XXXXXX")
 {
     qputenv("CUPS_SERVER", QFile::encodeName(socket()));
     // Debian does not put administrators' commands such as lpadmin on a user's path.

@@ -17,8 +17,11 @@
 #include <cstring>
 #include <tuple>
 
+#include <linux/magic.h>
 #include <resolv.h>
 #include <sys/prctl.h>
+#include <sys/statvfs.h>
+#include <sys/vfs.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -88,6 +91,7 @@ void forgetNameServers()
     // The folder of the options for all users. Tests must not find those of this machine.
     const char *folder = TestMain::isOptionsFileSystemWide() ? "/.cups" : "/system-wide";
     setenv("CUPS_SERVERROOT", (home + folder).constData(), 1);
+    setenv("TMPDIR", TestMain::scratchFolder().toLatin1().constData(), 1); // of each PPD file that libcups fetches
     setenv("RES_OPTIONS", "timeout:1 attempts:1", 1); // lpadmin also looks up the name of this machine
     for (const char *variable : {"LPDEST", "PRINTER", "CUPS_SERVER", "XDG_CONFIG_HOME", "LANGUAGE"})
         unsetenv(variable);
@@ -143,6 +147,17 @@ int runTestsInFreshHome(char **argv)
 }
 
 } // namespace
+
+QString TestMain::scratchFolder()
+{
+    const char *memory = "/dev/shm";
+    const quint64 enough = 1 << 30;
+    struct statfs state = {};
+    const bool isUsable = access(memory, W_OK) == 0 && statfs(memory, &state) == 0 && state.f_type == TMPFS_MAGIC
+                          && (state.f_flags & ST_NOEXEC) == 0
+                          && quint64(state.f_bavail) * quint64(state.f_bsize) >= enough;
+    return QString::fromLatin1(isUsable ? memory : "/tmp");
+}
 
 bool TestMain::isOptionsFileSystemWide()
 {

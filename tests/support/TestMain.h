@@ -62,6 +62,12 @@ ChildResult runChild(const char *name, const QStringList &arguments = {},
                      const QMap<QString, QString> &environment = {});
 
 /**
+ * A folder for files of other programs, such as the scheduler's thousands: in memory if the machine lets programs run
+ * there, otherwise on the disk. HOME, where the library saves, is on the disk.
+ */
+QString scratchFolder();
+
+/**
  * Whether the user is root and libcups keeps root's options in the folder of those for all users, as from 2.4.10 on. That
  * folder is then HOME/.cups, where tests expect the options of whoever runs them.
  */
