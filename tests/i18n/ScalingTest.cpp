@@ -220,7 +220,7 @@ int examineOnSmallScreen(int &argc, char **argv)
         QCoreApplication::processEvents();
         examinePage(tabs->currentWidget());
     }
-    examineOtherDialogs(open.printer, open.cups);
+    examineOtherDialogs(*open.printer, open.cups);
     return 0;
 }
 

@@ -256,12 +256,12 @@ void TranslationsTest::fixedTextsStay()
 
     PrivateScheduler::run("cupsdisable", {"Labels"});
     CupsSupport stopped;
-    PrintDialog print(nullptr, &open.printer, &stopped);
+    PrintDialog print(nullptr, open.printer.get(), &stopped);
     const QString status = print.findChild<QLabel *>("lblStatusInfo")->text();
     PrivateScheduler::run("cupsenable", {"Labels"});
     QVERIFY2(status.startsWith("Stopped"), qPrintable(status));
     CupsSupport idle;
-    PrintDialog printAgain(nullptr, &open.printer, &idle);
+    PrintDialog printAgain(nullptr, open.printer.get(), &idle);
     QCOMPARE(printAgain.findChild<QLabel *>("lblStatusInfo")->text(), QString("Idle"));
 }
 

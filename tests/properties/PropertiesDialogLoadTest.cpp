@@ -324,7 +324,7 @@ void PropertiesDialogLoadTest::parentIsKept()
 {
     OpenDialog t("LP");
     QWidget parent;
-    auto *dialog = new PrintPropertiesDialog(&parent, &t.printer, &t.cups);
+    auto *dialog = new PrintPropertiesDialog(&parent, t.printer.get(), &t.cups);
     QCOMPARE(dialog->parentWidget(), &parent);
     QVERIFY(dialog->isWindow());
 }
@@ -705,7 +705,7 @@ void PropertiesDialogLoadTest::loadsWithoutCups()
                          "LabelStart",  "A",          "LabelEnd",
                          "A",           "JobEnd",     "A"});
     t.dialog.show();
-    t.printer.setPageOrientation(printerOrientation);
+    t.printer->setPageOrientation(printerOrientation);
     t.edit("widthEdit")->setText("7.77");
     const auto &parts = t.dialog.*partsOf(Reach());
     parts->cups = nullptr;

@@ -113,7 +113,7 @@ int workWithExtendedList(int &argc, char **argv)
 {
     const QApplication app(argc, argv);
     OpenDialog open;
-    const QByteArray queue = open.printer.printerName().toLatin1();
+    const QByteArray queue = open.printer->printerName().toLatin1();
     open.slide("darknessSlider", 4);
     open.click("applyButton");
     open.click("presetNewButton");

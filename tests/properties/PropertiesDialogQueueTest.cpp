@@ -80,8 +80,8 @@ void PropertiesDialogQueueTest::initTestCase()
 void PropertiesDialogQueueTest::turn(OpenDialog &open, const QString &queue)
 {
     selectQueue(open.cups, queue);
-    open.printer.setPrinterName(queue);
-    QCOMPARE(open.printer.printerName(), queue);
+    open.printer->setPrinterName(queue);
+    QCOMPARE(open.printer->printerName(), queue);
 }
 
 void PropertiesDialogQueueTest::turnedDialogIsLikeANewOne_data()

@@ -260,30 +260,30 @@ void PropertiesDialogSaveTest::printerOrientation()
 {
     QFETCH(QByteArray, radio);
     QFETCH(QPageLayout::Orientation, orientation);
-    OpenDialog open;
-    open.printer.setPageSize(label);
+    OpenDialog open(std::make_unique<QPrinter>(QPrinter::ScreenResolution));
+    open.printer->setPageSize(label);
     const bool isLandscape = orientation == QPageLayout::Landscape;
-    open.printer.setPageOrientation(isLandscape ? QPageLayout::Portrait : QPageLayout::Landscape);
+    open.printer->setPageOrientation(isLandscape ? QPageLayout::Portrait : QPageLayout::Landscape);
     open.click(radio);
     open.dialog.saveValues();
-    QCOMPARE(open.printer.pageLayout().orientation(), orientation);
+    QCOMPARE(open.printer->pageLayout().orientation(), orientation);
     // The sheet is what it was.
-    QCOMPARE(open.printer.pageLayout().pageSize().size(QPageSize::Point), QSizeF(288, 144));
+    QCOMPARE(open.printer->pageLayout().pageSize().size(QPageSize::Point), QSizeF(288, 144));
 }
 
 void PropertiesDialogSaveTest::printerMargins()
 {
-    OpenDialog open;
-    open.printer.setPageMargins(QMarginsF(10, 11, 12, 13), QPageLayout::Point);
-    QCOMPARE(open.printer.pageLayout().margins(QPageLayout::Point), QMarginsF(10, 11, 12, 13));
+    OpenDialog open(std::make_unique<QPrinter>(QPrinter::ScreenResolution));
+    open.printer->setPageMargins(QMarginsF(10, 11, 12, 13), QPageLayout::Point);
+    QCOMPARE(open.printer->pageLayout().margins(QPageLayout::Point), QMarginsF(10, 11, 12, 13));
     open.dialog.saveValues();
-    QCOMPARE(open.printer.pageLayout().margins(QPageLayout::Point), QMarginsF(0, 0, 0, 0));
+    QCOMPARE(open.printer->pageLayout().margins(QPageLayout::Point), QMarginsF(0, 0, 0, 0));
 
     // The host decides whether it counts from the edge of the sheet.
     for (bool fullPage : {true, false}) {
-        open.printer.setFullPage(fullPage);
+        open.printer->setFullPage(fullPage);
         open.dialog.saveValues();
-        QCOMPARE(open.printer.fullPage(), fullPage);
+        QCOMPARE(open.printer->fullPage(), fullPage);
     }
 }
 
@@ -341,25 +341,25 @@ void PropertiesDialogSaveTest::engineProperties()
 void PropertiesDialogSaveTest::engineOptionsOfTheRealEngine()
 {
     scheduler.setUserOptions("Q", {"PageSize=Custom.288x144"});
-    OpenDialog open;
-    QCOMPARE(open.printer.printerName(), QString("Q"));
-    open.printer.setPageSize(label);
+    OpenDialog open(std::make_unique<QPrinter>(QPrinter::ScreenResolution));
+    QCOMPARE(open.printer->printerName(), QString("Q"));
+    open.printer->setPageSize(label);
     QStringList options = open.cups.options();
     QVERIFY(options.contains("Custom"));
     options.replaceInStrings(QRegularExpression("^Custom$"), "Custom.288.00x144.00");
     open.dialog.saveValues();
     const auto key = QPrintEngine::PrintEnginePropertyKey(0xFE00);
-    QCOMPARE(open.printer.printEngine()->property(key).toStringList(), options);
+    QCOMPARE(open.printer->printEngine()->property(key).toStringList(), options);
 }
 
 void PropertiesDialogSaveTest::engineOptionsAreThoseBeforeSaving()
 {
     scheduler.setUserOptions("Q", {"Darkness=4"});
-    OpenDialog open;
+    OpenDialog open(std::make_unique<QPrinter>(QPrinter::ScreenResolution));
     open.slide("darknessSlider", 6);
     open.dialog.saveValues();
     const auto key = QPrintEngine::PrintEnginePropertyKey(0xFE00);
-    QCOMPARE(open.printer.printEngine()->property(key).toStringList(), QStringList({"Darkness", "4"}));
+    QCOMPARE(open.printer->printEngine()->property(key).toStringList(), QStringList({"Darkness", "4"}));
 }
 
 // ----- the destination's options -----
@@ -915,14 +915,14 @@ void PropertiesDialogSaveTest::currentSettingsScriptReplacesAll()
 
 void PropertiesDialogSaveTest::nothingChanged()
 {
-    OpenDialog open;
+    OpenDialog open(std::make_unique<QPrinter>(QPrinter::ScreenResolution));
     QVERIFY(!open.isEnabled("applyButton"));
-    open.printer.setPageMargins(QMarginsF(10, 10, 10, 10), QPageLayout::Point);
+    open.printer->setPageMargins(QMarginsF(10, 10, 10, 10), QPageLayout::Point);
     open.dialog.saveValues();
     QVERIFY(!open.isEnabled("applyButton"));
     QCOMPARE(filesOf("Q"), QStringList());
     // The printer and the options are written nevertheless.
-    QCOMPARE(open.printer.pageLayout().orientation(), QPageLayout::Landscape);
+    QCOMPARE(open.printer->pageLayout().orientation(), QPageLayout::Landscape);
     QCOMPARE(storedOptions("Q").value("orientation-requested"), QByteArray("4"));
 }
 
@@ -997,8 +997,8 @@ void PropertiesDialogSaveTest::ok()
 
 void PropertiesDialogSaveTest::cancel()
 {
-    OpenDialog open;
-    const QPageLayout layout = open.printer.pageLayout();
+    OpenDialog open(std::make_unique<QPrinter>(QPrinter::ScreenResolution));
+    const QPageLayout layout = open.printer->pageLayout();
     open.slide("darknessSlider", 4);
     open.click("portraitRadioButton");
     open.click("presetNewButton");
@@ -1006,7 +1006,7 @@ void PropertiesDialogSaveTest::cancel()
     open.click("cancelButton");
     QVERIFY(!open.dialog.isVisible());
     QCOMPARE(open.dialog.result(), 0);
-    QCOMPARE(open.printer.pageLayout(), layout);
+    QCOMPARE(open.printer->pageLayout(), layout);
     QVERIFY(!QDir(cupsFolder()).exists());
     // Shown again, it has the settings as they are.
     open.dialog.show();

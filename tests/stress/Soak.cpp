@@ -74,7 +74,7 @@ QStringList filesBelow(const QString &folder)
 
 void openApplyAndClose(int round)
 {
-    OpenDialog open;
+    OpenDialog open(std::make_unique<QPrinter>(QPrinter::ScreenResolution));
     // A change in every round, always with texts of the same length.
     open.click("mirroredCheckBox");
     open.click("inverseCheckBox");

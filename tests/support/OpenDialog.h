@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QMap>
 #include <QPlainTextEdit>
+#include <QPrintEngine>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
@@ -31,6 +32,9 @@
 #include <QTranslator>
 
 #include <cups/cups.h>
+
+#include <memory>
+#include <thread>
 
 template<class Widget>
 Widget *childOf(const QDialog &dialog, const QString &name)
@@ -74,31 +78,50 @@ inline void selectQueue(CupsSupport &cups, const QString &queue)
 }
 
 /**
- * The properties dialog with its printer and its settings.
- *
- * Without arguments it is that of the default printer and is shown, as by propertiesDialog(). With the name of a queue,
- * it is that queue's and not shown yet.
+ * The printer object of a host, which names @p queue. Qt would send ten requests to make one that knows the queue's sizes
+ * and margins. Only tests of what a host receives need that.
  */
+inline std::unique_ptr<QPrinter> printerNamed(const QString &queue)
+{
+    std::unique_ptr<QPrinter> printer;
+    std::thread([&printer] {
+        cupsSetServer("/nonexistent"); // of this thread
+        printer = std::make_unique<QPrinter>(QPrinter::ScreenResolution);
+    }).join();
+    printer->printEngine()->setProperty(QPrintEngine::PPK_PrinterName, queue);
+    return printer;
+}
+
+/** The properties dialog with its printer and its settings. */
 struct OpenDialog
 {
-    QPrinter printer;
     CupsSupport cups;
+    const std::unique_ptr<QPrinter> printer; // the host's
     PrintPropertiesDialog dialog;
 
+    /** The dialog of the default printer, shown, as by propertiesDialog(). */
     OpenDialog()
-        : printer(QPrinter::ScreenResolution)
-        , dialog(nullptr, &printer, &cups)
+        : OpenDialog(std::unique_ptr<QPrinter>())
+    {
+    }
+
+    /** The same for a host with its own printer object. */
+    explicit OpenDialog(std::unique_ptr<QPrinter> hostPrinter)
+        : printer(hostPrinter ? std::move(hostPrinter) : printerNamed(cups.getCurrentQueueName()))
+        , dialog(nullptr, printer.get(), &cups)
     {
         dialog.show();
     }
 
-    /** @param options an option list for the working copy of the queue's settings, set before the dialog is made. */
+    /**
+     * The dialog of any queue, not shown yet.
+     *
+     * @param options an option list for the working copy of the queue's settings, set before the dialog is made.
+     */
     explicit OpenDialog(const QString &queue, const QStringList &options = {})
-        : printer(QPrinterInfo::printerInfo(queue), QPrinter::ScreenResolution)
-        , dialog(nullptr, &printer, settingsOf(queue, options))
+        : printer(printerNamed(queue))
+        , dialog(nullptr, printer.get(), settingsOf(queue, options))
     {
-        if (printer.printerName() != queue)
-            qFatal("no printer %s: %s", qPrintable(queue), CupsSupport::getCupsError());
     }
 
     template<class Widget = QWidget>
