@@ -19,10 +19,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <initializer_list>
+#include <utility>
 
 // The dialog on screens with more pixels and on small ones: a child process each, since Qt reads the factor and the size
-// of the screen at its start.
+// of the screen at its start. With SCALING_PICTURES set to a folder the dialogs are saved there, for people to look at.
 
 namespace {
 
@@ -127,6 +127,13 @@ void examineIcon(const QIcon &icon, double factor)
     }
 }
 
+void savePicture(QWidget &window, const QByteArray &name)
+{
+    const QString folder = qEnvironmentVariable("SCALING_PICTURES");
+    if (!folder.isEmpty())
+        window.grab().save(folder + '/' + name + ".png");
+}
+
 // Argument: the factor. Prints the faults.
 int examineDialog(int &argc, char **argv)
 {
@@ -153,9 +160,7 @@ int examineDialog(int &argc, char **argv)
         open.click(arrow.key());
         examinePreview(preview, factor, arrow.value());
     }
-    const QString folder = qEnvironmentVariable("SCALING_PICTURES");
-    if (!folder.isEmpty())
-        whole.save(folder + "/scaled-" + argv[1] + ".png");
+    savePicture(open.dialog, QByteArray("scaled-") + argv[1]);
     std::printf("examined\n");
     return 0;
 }
@@ -189,16 +194,20 @@ void examineSize(const QWidget &dialog)
 }
 
 // Those that have no pages that scroll.
-void examineOtherDialogs(QPrinter &printer, CupsSupport &cups)
+void examineOtherDialogs(QPrinter &printer, CupsSupport &cups, const QByteArray &screen)
 {
     PrintDialog print(nullptr, &printer, &cups);
     PrintDialog question(nullptr);
     ExtDialog offset(nullptr, &cups);
     PasswordDialog password(nullptr, "user", true);
-    for (QDialog *dialog : std::initializer_list<QDialog *>{&print, &question, &offset, &password}) {
+    for (const auto &[name, dialog] : {std::pair<const char *, QDialog *>{"print", &print},
+                                       {"question", &question},
+                                       {"offset", &offset},
+                                       {"password", &password}}) {
         dialog->show();
         QCoreApplication::processEvents();
         examineSize(*dialog);
+        savePicture(*dialog, screen + '-' + name);
     }
 }
 
@@ -212,15 +221,17 @@ int examineOnSmallScreen(int &argc, char **argv)
     QApplication::setFont(font);
     OpenDialog open;
     const QRect screen = open.dialog.screen()->availableGeometry();
-    std::printf("%dx%d\n", screen.width(), screen.height());
+    const QByteArray size = QByteArray::number(screen.width()) + 'x' + QByteArray::number(screen.height());
+    std::printf("%s\n", size.constData());
     examineSize(open.dialog);
     auto *tabs = open.widget<QTabWidget>("tabs");
     for (int i = 0; i < tabs->count(); ++i) {
         tabs->setCurrentIndex(i);
         QCoreApplication::processEvents();
         examinePage(tabs->currentWidget());
+        savePicture(open.dialog, size + "-tab-" + QByteArray::number(i));
     }
-    examineOtherDialogs(*open.printer, open.cups);
+    examineOtherDialogs(*open.printer, open.cups, size);
     return 0;
 }
 
