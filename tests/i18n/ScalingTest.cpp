@@ -223,15 +223,16 @@ int examineOnSmallScreen(int &argc, char **argv)
     const QRect screen = open.dialog.screen()->availableGeometry();
     const QByteArray size = QByteArray::number(screen.width()) + 'x' + QByteArray::number(screen.height());
     std::printf("%s\n", size.constData());
+    const QByteArray name = size + '-' + argv[1] + "pt";
     examineSize(open.dialog);
     auto *tabs = open.widget<QTabWidget>("tabs");
     for (int i = 0; i < tabs->count(); ++i) {
         tabs->setCurrentIndex(i);
         QCoreApplication::processEvents();
         examinePage(tabs->currentWidget());
-        savePicture(open.dialog, size + "-tab-" + QByteArray::number(i));
+        savePicture(open.dialog, name + "-tab-" + QByteArray::number(i));
     }
-    examineOtherDialogs(*open.printer, open.cups, size);
+    examineOtherDialogs(*open.printer, open.cups, name);
     return 0;
 }
 
