@@ -268,7 +268,7 @@ void fillDisk(const QString &path)
     close(fd);
 }
 
-const int kills = 300;
+const int kills = 100;
 
 } // namespace
 

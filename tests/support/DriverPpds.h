@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -36,12 +37,15 @@ public:
 
 private:
     QTemporaryDir folder{QStringLiteral("/tmp/pd-XXXXXX")};
+    QMap<QString, QString> lists; // what each driver offers: to list that takes a while
 
     static QString program(const QString &driver) { return "/usr/lib/cups/driver/" + driver; }
 
-    static QString uri(const QString &driver, const QString &model)
+    QString uri(const QString &driver, const QString &model)
     {
-        const QString list = QString::fromUtf8(PrivateScheduler::run(program(driver), {"list"}));
+        QString &list = lists[driver];
+        if (list.isEmpty())
+            list = QString::fromUtf8(PrivateScheduler::run(program(driver), {"list"}));
         const QRegularExpression pattern("^\"([^\"]*\\b" + QRegularExpression::escape(model) + "\\b[^\"]*)\"",
                                          QRegularExpression::MultilineOption);
         const QRegularExpressionMatch match = pattern.match(list);
