@@ -26,7 +26,7 @@ const int textsPerRound = queues * commandCount;
 const int longestCommands = 7000; // bytes of a line for all four
 const int tooLong = 9000;
 
-int wantedCount = 480;
+int wantedCount = 240;
 quint32 seed = 0;
 
 QString queueName(int number)
