@@ -160,7 +160,7 @@ int examineDialog(int &argc, char **argv)
         open.click(arrow.key());
         examinePreview(preview, factor, arrow.value());
     }
-    savePicture(open.dialog, QByteArray("scaled-") + argv[1]);
+    savePicture(open.dialog, QByteArray("scaled-").append(argv[1]));
     std::printf("examined\n");
     return 0;
 }
@@ -223,7 +223,7 @@ int examineOnSmallScreen(int &argc, char **argv)
     const QRect screen = open.dialog.screen()->availableGeometry();
     const QByteArray size = QByteArray::number(screen.width()) + 'x' + QByteArray::number(screen.height());
     std::printf("%s\n", size.constData());
-    const QByteArray name = size + '-' + argv[1] + "pt";
+    const QByteArray name = QByteArray(size + '-').append(argv[1]).append("pt");
     examineSize(open.dialog);
     auto *tabs = open.widget<QTabWidget>("tabs");
     for (int i = 0; i < tabs->count(); ++i) {
