@@ -6,6 +6,7 @@
 
 #include "cups/PrintJob.h"
 #include "cups/Scheduler.h"
+#include "Forked.h"
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
@@ -21,7 +22,6 @@
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace std::chrono_literals;
@@ -118,7 +118,7 @@ public:
     ~Process()
     {
         kill(id, SIGKILL);
-        waitpid(id, nullptr, 0);
+        waitForEnd(id);
     }
 
     Process(const Process &) = delete;

@@ -4,6 +4,7 @@
 #ifndef CUPSMEMBERS_H
 #define CUPSMEMBERS_H
 
+#include "Forked.h"
 #include "PrivateScheduler.h"
 
 #include <PropertiesDialog/CupsSupport.h>
@@ -247,8 +248,7 @@ inline Outcomes callEach(CupsSupport &cups, const std::function<void(CupsSupport
             QByteArray said;
             if (pipeEnd.open(copy.second, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
                 said = pipeEnd.readAll();
-            int status = 0;
-            waitpid(copy.first, &status, 0);
+            const int status = waitForEnd(copy.first);
             const bool crashed = !WIFEXITED(status) || WEXITSTATUS(status) != 0;
             outcomes[name] = {crashed ? "crashed" : QString::fromUtf8(said.mid(said.indexOf('|') + 1)),
                               said.left(said.indexOf('|')).toLongLong()};

@@ -4,6 +4,8 @@
 #ifndef FAULTYSCHEDULER_H
 #define FAULTYSCHEDULER_H
 
+#include "Forked.h"
+
 #include <QFile>
 #include <QMetaType>
 #include <QString>
@@ -17,7 +19,6 @@
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 /**
@@ -63,7 +64,7 @@ public:
     ~FaultyScheduler()
     {
         kill(server, SIGKILL);
-        waitpid(server, nullptr, 0);
+        waitForEnd(server);
     }
 
     FaultyScheduler(const FaultyScheduler &) = delete;

@@ -457,8 +457,7 @@ void OtherProgramsTest::processesAtOnce()
         _exit(0);
     }
     for (const pid_t copy : copies) {
-        int status = 0;
-        QCOMPARE(waitpid(copy, &status, 0), copy);
+        const int status = waitForEnd(copy);
         QCOMPARE(WIFEXITED(status) ? WEXITSTATUS(status) : -1, 0);
     }
     const Options options = storedOptions("LP1");

@@ -4,6 +4,7 @@
 // A user of a print server that wants a password is asked for it in one window, and never on a terminal.
 
 #include "FaultyScheduler.h"
+#include "Forked.h"
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "TestMain.h"
@@ -178,8 +179,7 @@ int inBackground(int &, char **argv)
         kill(background, SIGKILL);
         _exit(WIFEXITED(status) ? WEXITSTATUS(status) : 100);
     }
-    int status = 0;
-    waitpid(leader, &status, 0);
+    const int status = waitForEnd(leader);
     char said[100];
     const ssize_t length = read(terminal, said, sizeof said);
     std::printf("%s, asked %d\n", length > 0 ? "on the terminal" : "not on the terminal", WEXITSTATUS(status));

@@ -3,6 +3,8 @@
 
 #include "TestMain.h"
 
+#include "Forked.h"
+
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -10,7 +12,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -132,9 +133,7 @@ int runTestsInFreshHome(char **argv)
         startTests(argv, homePath, pipeEnds);
     close(pipeEnds[1]);
     const int warnings = copyOutput(pipeEnds[0]);
-    int status = 0;
-    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
-    }
+    const int status = waitForEnd(child);
     if (warnings > 0) {
         std::printf("FAIL!  : %d unexpected Qt warnings, see QWARN above\n", warnings);
         return EXIT_FAILURE;
