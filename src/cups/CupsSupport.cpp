@@ -14,6 +14,7 @@
 #include "cups/Scheduler.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
 
 #include <cups/cups.h>
@@ -311,17 +312,16 @@ int CupsSupport::setDests()
 
 namespace {
 
-// The state of one printer from an answer, by the names of a destination's options for it.
+// Of one printer, as a destination's options hold them.
 struct PrinterState
 {
-    QByteArray printer;
     QByteArray state;
     QByteArray reasons;
 };
+using PrinterStates = QHash<QByteArray, PrinterState>; // by queue
 
-std::vector<PrinterState> fetchPrinterStates()
+PrinterStates fetchPrinterStates()
 {
-    std::vector<PrinterState> states;
     const auto answer = std::make_shared<std::unique_ptr<ipp_t, decltype(&ippDelete)>>(nullptr, &ippDelete);
     const bool isAnswered = Scheduler::ask([answer](http_t *http) {
         static const char *const wanted[] = {"printer-name", "printer-state", "printer-state-reasons"};
@@ -331,26 +331,32 @@ std::vector<PrinterState> fetchPrinterStates()
         ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
         answer->reset(cupsDoRequest(http, request, "/"));
     });
+    PrinterStates states;
     if (!isAnswered)
         return states;
-    bool isNewPrinter = true;
+    QByteArray printer;
+    PrinterState current;
+    const auto addCurrent = [&] {
+        if (!printer.isEmpty())
+            states.insert(printer, current);
+        printer.clear();
+        current = {};
+    };
     for (ipp_attribute_t *a = ippFirstAttribute(answer->get()); a; a = ippNextAttribute(answer->get())) {
         if (ippGetGroupTag(a) != IPP_TAG_PRINTER) { // a separator without a name stands between two printers
-            isNewPrinter = true;
+            addCurrent();
             continue;
         }
-        if (isNewPrinter)
-            states.emplace_back();
-        isNewPrinter = false;
         const QByteArray name = ippGetName(a);
         if (name == "printer-name")
-            states.back().printer = ippGetString(a, 0, nullptr);
+            printer = ippGetString(a, 0, nullptr);
         else if (name == "printer-state")
-            states.back().state = QByteArray::number(ippGetInteger(a, 0));
+            current.state = QByteArray::number(ippGetInteger(a, 0));
         else if (name == "printer-state-reasons")
             for (int i = 0; i < ippGetCount(a); ++i)
-                states.back().reasons += (i ? "," : "") + QByteArray(ippGetString(a, i, nullptr));
+                current.reasons += (i ? "," : "") + QByteArray(ippGetString(a, i, nullptr));
     }
+    addCurrent();
     return states;
 }
 
@@ -358,17 +364,14 @@ std::vector<PrinterState> fetchPrinterStates()
 
 bool CupsSupport::updatePrinterStates()
 {
-    const std::vector<PrinterState> states = fetchPrinterStates();
-    for (const PrinterState &now : states) {
-        for (int i = 0; i < destCount; ++i) {
-            cups_dest_t &dest = dests[i];
-            if (now.printer != dest.name)
-                continue;
-            for (const auto &[name, value] :
-                 {std::pair("printer-state", now.state), std::pair("printer-state-reasons", now.reasons)})
-                if (!value.isEmpty())
-                    dest.num_options = cupsAddOption(name, value.constData(), dest.num_options, &dest.options);
-        }
+    const PrinterStates states = fetchPrinterStates();
+    for (int i = 0; i < destCount; ++i) {
+        cups_dest_t &dest = dests[i];
+        const PrinterState now = states.value(dest.name);
+        for (const auto &[name, value] :
+             {std::pair("printer-state", now.state), std::pair("printer-state-reasons", now.reasons)})
+            if (!value.isEmpty())
+                dest.num_options = cupsAddOption(name, value.constData(), dest.num_options, &dest.options);
     }
     return !states.empty();
 }

@@ -13,6 +13,7 @@
 #include "widgets/WheelGuard.h"
 
 #include <QEvent>
+#include <QHash>
 #include <QList>
 #include <QLocale>
 #include <QPageLayout>
@@ -444,11 +445,18 @@ void PrintDialog::Private::updateStatus()
 {
     if (!cups->updatePrinterStates())
         return;
+    QHash<QString, int> indexes;
+    for (int index = 0; index < cups->getDestCount(); ++index)
+        indexes.insert(cups->getQueueName(index), index);
+    bool isChanged = false;
     for (PrinterItem &item : printers) {
-        const int index = cups->getQueueIndex(item.queue);
-        if (index >= 0)
-            item.status = statusText(*cups, index);
+        const auto index = indexes.constFind(item.queue);
+        const QString now = index != indexes.constEnd() ? statusText(*cups, *index) : item.status;
+        isChanged = isChanged || now != item.status;
+        item.status = now;
     }
+    if (!isChanged)
+        return;
     if (ui.cboPrinterName->currentIndex() >= 0)
         showPrinterTexts(shownPrinter());
     makeRoom();
