@@ -153,30 +153,9 @@ void OptionsMemoryTest::lineReadsBack()
     OptionsSyntax::Entry entry;
     entry.name = "LP1";
     entry.instance = "wide";
-    for (const char *value : {"a",
-                              "",
-                              " ",
-                              "a b",
-                              "\\",
-                              "\\\\",
-                              "A\\\\rB\\\\r",
-                              "A\\rB\\n",
-                              "#",
-                              "a#b",
-                              "\\#",
-                              "#\\",
-                              "'",
-                              "\"",
-                              "\\\"",
-                              "\\'",
-                              "\t",
-                              "{a b}",
-                              "{",
-                              "a\\",
-                              "\\\\\\",
-                              "Gr\xf6\xdf"
-                              "e",
-                              "^XA^FD#1\\\\r"}) {
+    for (const char *value : {"a",  "",      " ",   "a b", "\\",     "\\\\",       "A\\\\rB\\\\r", "A\\rB\\n",
+                              "#",  "a#b",   "\\#", "#\\", "'",      "\"",         "\\\"",         "\\'",
+                              "\t", "{a b}", "{",   "a\\", "\\\\\\", "Gr\xf6\xdf", "^XA^FD#1\\\\r"}) {
         const OptionArray options = array({"JobEnd", value, "JobStart", value, "Zed", "1"});
         const QByteArray line = OptionsSyntax::compose(entry, options, reader);
         QVERIFY2(!line.isEmpty(), value);

@@ -62,7 +62,7 @@ int keepCommand(int &, char **)
         if (cups.setDests() != 0)
             return 1;
     }
-    if (std::system("lpoptions -p LP3 -o copies=2") != 0)
+    if (QProcess::execute("lpoptions", {"-p", "LP3", "-o", "copies=2"}) != 0)
         return 2;
     CupsSupport cups;
     selectQueue(cups, "LP1");
@@ -138,7 +138,7 @@ public:
 
     void change(QRandomGenerator &random, int value)
     {
-        const QString queue = queues.at(random.bounded(2));
+        const QString &queue = queues.at(random.bounded(2));
         const QByteArray option = random.bounded(2) == 0 ? "Darkness" : commandNames[random.bounded(4)];
         selectQueue(*cups, queue);
         const QString key = queue + ' ' + QString::fromLatin1(option);
@@ -179,7 +179,7 @@ private:
 
 void changeFromOutside(QRandomGenerator &random, int value, Settings &expected)
 {
-    const QString queue = queues.at(random.bounded(2));
+    const QString &queue = queues.at(random.bounded(2));
     if (random.bounded(3) == 0) {
         rewriteFile(random);
     } else if (random.bounded(3) == 0) {
@@ -333,7 +333,7 @@ void OtherProgramsTest::commandTexts()
 {
     QRandomGenerator random(seed);
     for (int count = 0; count < wantedCount; count += 4) {
-        const QString queue = queues.at(random.bounded(2));
+        const QString &queue = queues.at(random.bounded(2));
         QStringList texts;
         {
             CupsSupport cups;

@@ -935,7 +935,7 @@ void PresetsTest::newOnesOfTwo()
         Presets one("LP1");
         Presets other("LP1");
         const auto add = [](Presets &presets, const QString &file, const QString &darkness) {
-            Preset *preset = new Preset("LP1", file, {"Darkness", darkness}, "Name of " + darkness, QString(), -1);
+            auto *preset = new Preset("LP1", file, {"Darkness", darkness}, "Name of " + darkness, QString(), -1);
             preset->setNew();
             return presets.addPreset(preset);
         };
