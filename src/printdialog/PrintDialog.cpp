@@ -91,14 +91,18 @@ public:
     {
     }
 
-    void restore(QPrinter *printer) const
+    // Whether that was possible: Qt selects no printer that the scheduler does not confirm.
+    bool restore(QPrinter *printer) const
     {
         if (format == QPrinter::PdfFormat)
             printer->setOutputFormat(format);
         else
             printer->setPrinterName(name);
+        if (printer->printerName() != name)
+            return false;
         printer->setPageLayout(layout);
         PrinterProperties::setOptions(*printer, options);
+        return true;
     }
 
 private:
@@ -160,7 +164,7 @@ struct PrintDialog::Private
     void useDefault();
 
     bool turnToShownPrinter();
-    void turnBack();
+    bool turnBack();
     void stayHere();
 
     PrintDialog *const q;
@@ -311,8 +315,10 @@ void PrintDialog::on_yesButton_2_clicked()
 {
     // Without printers, there is nothing to change to.
     if (d->ui.cboPrinterName->currentIndex() < 0 || d->shownPrinter().queue == d->initialQueue) {
-        d->turnBack();
-        accept();
+        if (d->turnBack())
+            accept();
+        else
+            QDialog::reject();
         return;
     }
     const QString question =
@@ -494,10 +500,8 @@ void PrintDialog::Private::useDefault()
 bool PrintDialog::Private::turnToShownPrinter()
 {
     const QString queue = shownPrinter().queue;
-    if (queue.isEmpty() || queue == initialQueue) {
-        turnBack();
-        return true;
-    }
+    if (queue.isEmpty() || queue == initialQueue)
+        return turnBack();
     currentMoved = true;
     cups->setCurrentPrinter(cups->getQueueIndex(queue));
     if (printer->printerName() == queue)
@@ -511,20 +515,32 @@ bool PrintDialog::Private::turnToShownPrinter()
     }
     if (!printerBefore)
         printerBefore = before;
+    // The same happens if the scheduler has gone, or the queue. Without its plug-in for CUPS, Qt has no printers at all.
+    if (const QString selected = printer->printerName(); selected != queue && !selected.isEmpty()) {
+        turnBack();
+        return false;
+    }
     PrinterProperties::setOptions(*printer, QStringList()); // those of the queue before
     return true;
 }
 
-// Undoes the changes of "Use Default" to the CupsSupport, and of Properties to both.
-void PrintDialog::Private::turnBack()
+// Undoes the changes of "Use Default" to the CupsSupport, and of Properties to both. Returns false if the QPrinter could
+// not be turned back; the next call tries it again.
+bool PrintDialog::Private::turnBack()
 {
     // If the queue no longer exists, there is no printer: another one must not print what was meant for this one.
     if (currentMoved && cups->getDestCount() > 0)
         cups->setCurrentPrinter(cups->getQueueIndex(initialQueue));
-    if (printerBefore)
-        CupsSupport::callWithScheduler([this] { printerBefore->restore(printer); });
     currentMoved = false;
-    printerBefore.reset();
+    if (!printerBefore)
+        return true;
+    bool isRestored = false;
+    CupsSupport::callWithScheduler([this, &isRestored] { isRestored = printerBefore->restore(printer); });
+    if (isRestored)
+        printerBefore.reset();
+    else
+        printer->setOutputFormat(QPrinter::PdfFormat); // rather than print on the printer that the user left
+    return isRestored;
 }
 
 // Makes the current printer the one that turnBack() goes to.

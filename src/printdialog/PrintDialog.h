@@ -20,7 +20,8 @@ class QPrinter;
  * The full form lets the user choose the printer, see its status, type and location, switch to the default printer, set
  * the copies and ask for printing to a file. The short form asks one question and the copies. The dialog prints
  * nothing: when it is accepted, the CupsSupport and the QPrinter have the chosen queue, and the host prints. When it is
- * rejected, both are as before.
+ * rejected, both are as before. Qt selects a printer only if the scheduler confirms it: if the QPrinter cannot be turned
+ * back to the earlier printer, it is left writing PDF, and if it cannot be told the chosen one, the dialog is rejected.
  *
  * exec() returns 1 when accepted, 0 when rejected and -1 when the user asked for the properties of the printer that the
  * list shows; the CupsSupport and the QPrinter temporarily have that queue then. exec2() handles this.

@@ -226,29 +226,70 @@ int fallSilent(int &argc, char **argv)
 }
 const TestMain::ChildFunction fallSilentFunction("fall-silent", fallSilent);
 
-// Another printer is chosen in the print dialog after the scheduler has fallen silent: PROCESS
+// A host's printer, LP1, which the user can change in the print dialog.
+struct HostPrinter
+{
+    QPrinter printer{QPrinter::ScreenResolution};
+    CupsSupport cups;
+    PrintDialog dialog{nullptr, &printer, &cups};
+
+    HostPrinter() { dialog.show(); }
+    void chooseOther() { dialog.findChild<QComboBox *>("cboPrinterName")->setCurrentIndex(1); }
+    void press(const char *button) { click(&dialog, button); }
+    bool isOn(const QString &queue) const { return cups.getCurrentIndex() == 0 && printer.printerName() == queue; }
+};
+
+// Another printer is chosen after the scheduler has fallen silent or gone: PROCESS SIGNAL
 int changePrinter(int &argc, char **argv)
 {
     const QApplication app(argc, argv);
     const pid_t scheduler = QByteArray(argv[1]).toInt();
-    QPrinter printer(QPrinter::ScreenResolution);
-    CupsSupport cups;
-    PrintDialog dialog(nullptr, &printer, &cups);
-    dialog.show();
+    HostPrinter host;
     onEachDialog([](QWidget *box) { qobject_cast<QMessageBox *>(box)->button(QMessageBox::Yes)->click(); });
-    dialog.findChild<QComboBox *>("cboPrinterName")->setCurrentIndex(1);
+    host.chooseOther();
     QElapsedTimer timer;
     timer.start();
     Scheduler::setLimits(shortestLimits);
-    kill(scheduler, SIGSTOP);
-    click(&dialog, "yesButton_2");
+    kill(scheduler, QByteArray(argv[2]).toInt());
+    host.press("yesButton_2");
     // Not accepted: the QPrinter could not be told.
-    const bool unchanged = cups.getCurrentIndex() == 0 && printer.printerName() == "LP1";
-    const int exitCode = result(dialog.result() == 0 && unchanged, timer);
+    const int exitCode = result(host.dialog.result() == 0 && host.isOn("LP1"), timer);
     kill(scheduler, SIGCONT);
     return exitCode;
 }
 const TestMain::ChildFunction changePrinterFunction("change-printer", changePrinter);
+
+// The user saw the properties of the other printer, then the scheduler falls silent or goes, and the user presses
+// Cancel, or OK with the first printer: PROCESS SIGNAL BUTTON
+int leaveOtherPrinter(int &argc, char **argv)
+{
+    const QApplication app(argc, argv);
+    const pid_t scheduler = QByteArray(argv[1]).toInt();
+    const int signal = QByteArray(argv[2]).toInt();
+    HostPrinter host;
+    host.chooseOther();
+    host.press("propertiesButton_2");
+    if (host.printer.printerName() != "LP2")
+        return 2;
+    host.dialog.findChild<QComboBox *>("cboPrinterName")->setCurrentIndex(0);
+    QElapsedTimer timer;
+    timer.start();
+    Scheduler::setLimits(shortestLimits);
+    kill(scheduler, signal);
+    host.press(argv[3]);
+    // What the host prints now must not come out of LP2.
+    bool isGood = host.dialog.result() == 0 && host.isOn("");
+    const qint64 elapsed = timer.elapsed();
+    kill(scheduler, SIGCONT);
+    if (signal == SIGSTOP) {
+        isGood = isGood && QTest::qWaitFor([] { return !Scheduler::isLeftAlone(); }, int(longest));
+        Scheduler::setLimits({});
+        host.press(argv[3]);
+        isGood = isGood && host.isOn("LP1");
+    }
+    return result(isGood, elapsed);
+}
+const TestMain::ChildFunction leaveOtherPrinterFunction("leave-other-printer", leaveOtherPrinter);
 
 const QByteArray storedBefore =
     "Dest Gone Darkness=3\nDest LP1 Darkness=5 Back=30 CutMedia=2 JobEnd=end Overlap=9 Stop=7.000\n"
@@ -289,7 +330,10 @@ private slots:
     void member();
     void whileOpen_data();
     void whileOpen();
+    void printerIsChanged_data();
     void printerIsChanged();
+    void otherPrinterIsLeft_data();
+    void otherPrinterIsLeft();
     void answersAgain();
     void signalsOfTheHost();
 
@@ -300,6 +344,7 @@ private slots:
 
 private:
     void runsInTime(const char *function, const QStringList &arguments);
+    void startAgainAfter(int signal);
 
     static void addQueues(PrivateScheduler &to);
     void startFaults();
@@ -481,9 +526,44 @@ void SilentSchedulerTest::whileOpen()
         QCOMPARE(stored, storedBefore);
 }
 
+void SilentSchedulerTest::printerIsChanged_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("silent") << SIGSTOP;
+    QTest::newRow("gone") << SIGKILL;
+}
+
 void SilentSchedulerTest::printerIsChanged()
 {
-    runsInTime("change-printer", {QString::number(scheduler.process())});
+    QFETCH(int, signal);
+    runsInTime("change-printer", {QString::number(scheduler.process()), QString::number(signal)});
+    startAgainAfter(signal);
+}
+
+void SilentSchedulerTest::otherPrinterIsLeft_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("silent, Cancel") << SIGSTOP << "noButton_2";
+    QTest::newRow("silent, OK") << SIGSTOP << "yesButton_2";
+    QTest::newRow("gone, Cancel") << SIGKILL << "noButton_2";
+    QTest::newRow("gone, OK") << SIGKILL << "yesButton_2";
+}
+
+void SilentSchedulerTest::otherPrinterIsLeft()
+{
+    QFETCH(int, signal);
+    QFETCH(QString, button);
+    runsInTime("leave-other-printer", {QString::number(scheduler.process()), QString::number(signal), button});
+    startAgainAfter(signal);
+}
+
+void SilentSchedulerTest::startAgainAfter(int signal)
+{
+    if (signal != SIGKILL)
+        return;
+    killScheduler(scheduler); // which may still be ending
+    scheduler.start();
 }
 
 // It is asked again once it had time to recover.
