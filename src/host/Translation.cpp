@@ -9,7 +9,6 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLibraryInfo>
-#include <QLocale>
 #include <QStandardPaths>
 
 #include <dlfcn.h>
@@ -65,22 +64,19 @@ Translation::Translation(Extent extent)
     };
     if (std::none_of(candidates.begin(), candidates.end(), loadFrom))
         return;
-    if (extent == AllTexts)
-        loadTextsOfQt();
+    if (extent == AllTexts && loadTextsOfQt(translatorOfQt, QLocale(translator.language())))
+        QCoreApplication::installTranslator(&translatorOfQt); // in the language of our own texts
     QCoreApplication::installTranslator(&translator);
     turnAround();
 }
 
-// In the language of our own texts. Where Qt's are not kept apart by module, one catalogue has them all.
-void Translation::loadTextsOfQt()
+// Where they are not kept apart by module, one catalogue has them all.
+bool Translation::loadTextsOfQt(QTranslator &translator, const QLocale &locale)
 {
-    const QLocale locale(translator.language());
-    for (const char *catalogue : {"qtbase", "qt"}) {
-        if (translatorOfQt.load(locale, QLatin1String(catalogue), QStringLiteral("_"), folderOfQt())) {
-            QCoreApplication::installTranslator(&translatorOfQt);
-            return;
-        }
-    }
+    const auto isLoaded = [&](const char *catalogue) {
+        return translator.load(locale, QLatin1String(catalogue), QStringLiteral("_"), folderOfQt());
+    };
+    return isLoaded("qtbase") || isLoaded("qt");
 }
 
 // Right-to-left languages mirror the layout. Windows that the host already shows are not changed.

@@ -4,6 +4,7 @@
 #ifndef TRANSLATION_H
 #define TRANSLATION_H
 
+#include <QLocale>
 #include <QTranslator>
 
 /**
@@ -24,11 +25,13 @@ public:
     explicit Translation(Extent extent);
     ~Translation();
 
+    /** Loads Qt's own texts. Returns false if they are not installed. */
+    static bool loadTextsOfQt(QTranslator &translator, const QLocale &locale);
+
     Translation(const Translation &) = delete;
     Translation &operator=(const Translation &) = delete;
 
 private:
-    void loadTextsOfQt();
     void turnAround();
 
     QTranslator translator;

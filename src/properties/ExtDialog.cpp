@@ -9,6 +9,7 @@
 #include "widgets/FormRoom.h"
 #include "widgets/WheelGuard.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QStyle>
 
@@ -77,6 +78,8 @@ void ExtDialog::changeEvent(QEvent *event)
         d->ui.retranslateUi(this);
         for (int index = 0; index < d->ui.offset->count(); ++index)
             d->ui.offset->setItemText(index, tr(offsetTexts[static_cast<std::size_t>(index)]));
+        // Qt tells the buttons, whose texts are its own, after this dialog, which must make room for them.
+        QCoreApplication::sendEvent(d->ui.buttonBox, event);
         d->makeRoom(*this);
     } else if (FormRoom::isChangedBy(*event)) {
         d->makeRoom(*this);

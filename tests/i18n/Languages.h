@@ -4,6 +4,8 @@
 #ifndef LANGUAGES_H
 #define LANGUAGES_H
 
+#include "host/Translation.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QLocale>
@@ -29,7 +31,7 @@ inline QStringList languages()
     return names;
 }
 
-/** The texts in a language, as a host has them that installs a catalogue; "en" are those of the sources. */
+/** The texts in a language, as a host has them that installs the catalogues; "en" are those of the sources. */
 class InLanguage
 {
 public:
@@ -40,10 +42,14 @@ public:
         if (!translator.load(compiledCatalogue(language)))
             qFatal("cannot load the catalogue %s", qPrintable(language));
         QCoreApplication::installTranslator(&translator);
+        if (!Translation::loadTextsOfQt(translatorOfQt, QLocale(language)))
+            qFatal("Qt's own texts are not installed in %s", qPrintable(language));
+        QCoreApplication::installTranslator(&translatorOfQt);
         QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
     }
     ~InLanguage()
     {
+        QCoreApplication::removeTranslator(&translatorOfQt);
         QCoreApplication::removeTranslator(&translator);
         QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     }
@@ -53,6 +59,7 @@ public:
 
 private:
     QTranslator translator;
+    QTranslator translatorOfQt;
 };
 
 #endif

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "Languages.h"
 #include "OpenDialog.h"
 #include "Programs.h"
 #include "TestMain.h"
@@ -22,7 +23,8 @@
 #include <utility>
 
 // The dialog on screens with more pixels and on small ones: a child process each, since Qt reads the factor and the size
-// of the screen at its start. With SCALING_PICTURES set to a folder the dialogs are saved there, for people to look at.
+// of the screen at its start. With SCALING_PICTURES set to a folder the dialogs are saved there, for people to look at;
+// SCALING_LANGUAGE and SCALING_STYLE choose others than English and Fusion.
 
 namespace {
 
@@ -215,7 +217,8 @@ void examineOtherDialogs(QPrinter &printer, CupsSupport &cups, const QByteArray 
 int examineOnSmallScreen(int &argc, char **argv)
 {
     QApplication application(argc, argv);
-    QApplication::setStyle("Fusion");
+    const InLanguage language(qEnvironmentVariable("SCALING_LANGUAGE", "en"));
+    QApplication::setStyle(qEnvironmentVariable("SCALING_STYLE", "Fusion"));
     QFont font = QApplication::font();
     font.setPointSize(QByteArray(argv[1]).toInt());
     QApplication::setFont(font);

@@ -220,7 +220,8 @@ void TranslationsTest::marksOfTextsSurvive()
     QFETCH(QString, language);
     for (const Message &message : messages(language)) {
         const QString text = withoutMarks(message.translation);
-        const char *const source = qPrintable(message.source);
+        const QByteArray bytes = message.source.toLocal8Bit();
+        const char *const source = bytes.constData();
         QVERIFY2(text.count("%1") == message.source.count("%1"), source);
         QVERIFY2(text.count('%') == message.source.count('%'), source);
         // A blank before a question mark is a matter of the language.
