@@ -125,7 +125,7 @@ void PrintPropertiesDialog::setCurrentPreset(Preset *preset)
 
 void PrintPropertiesDialog::Private::apply(Preset &preset)
 {
-    // Other makes' drivers have no such command; their presets contain the page size as an option. And a script in
+    // The supported drivers of other makes have no such command; their presets contain the page size as an option. And a script in
     // place of a preset that has not been written belongs to another program.
     const bool hasCommand = !driver.isForeign() && !preset.isNew();
     const QString line = hasCommand ? DriverCommand::lineIn(preset.pathName()) : QString();
