@@ -11,6 +11,8 @@
 #include "widgets/MessageBox.h"
 
 #include <PropertiesDialog/CupsSupport.h>
+#include <PropertiesDialog/Preset.h>
+#include <PropertiesDialog/Presets.h>
 #include <PropertiesDialog/PrintPropertiesDialog.h>
 #include <PropertiesDialog/PropertiesDialog.h>
 
@@ -251,40 +253,52 @@ std::optional<int> checkQueue(const QString &queue)
     return lackOfNamed.isEmpty() ? std::nullopt : std::optional<int>(complain(lackOfNamed));
 }
 
-// Remembers why the settings could not be saved, because the dialog exists only during the library's call.
-class SaveWatcher : public QObject
+// With what CUPS says; nothing if only presets are affected.
+QString textOfUnsaved(const QString &error)
+{
+    return error.isEmpty() ? Program::tr("The presets could not be saved.")
+                           : Program::tr("The settings could not be saved: %1").arg(error);
+}
+
+// Remembers what happened in the dialog, because it exists only during the library's call.
+class DialogWatcher : public QObject
 {
 public:
-    SaveWatcher() { QCoreApplication::instance()->installEventFilter(this); }
+    DialogWatcher() { QCoreApplication::instance()->installEventFilter(this); }
 
+    bool wasShown = false;
     QString failure; // of the last saving; empty if it succeeded
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override
     {
         const auto *dialog = qobject_cast<PrintPropertiesDialog *>(object);
-        if (dialog && event->type() == QEvent::Hide)
-            failure = dialog->lastSaveSucceeded() ? QString() : textOf(dialog->lastSaveError());
+        if (dialog && event->type() == QEvent::Hide) {
+            wasShown = true;
+            failure = dialog->lastSaveSucceeded() ? QString() : textOfUnsaved(dialog->lastSaveError());
+        }
         return false;
-    }
-
-private:
-    static QString textOf(const QString &error)
-    {
-        return error.isEmpty() ? Program::tr("The presets could not be saved.")
-                               : Program::tr("The settings could not be saved: %1").arg(error);
     }
 };
 
-// Asks once whether to apply what CUPS proposes to resolve conflicting settings. Returns false if that could not be
-// saved.
-bool settleConflicts(const QString &queue)
+// Also in the script of the settings last applied, if there is one.
+bool savePresetOf(const QStringList &settings, const QString &queue, const CupsSupport &cups)
+{
+    Preset current(queue, Presets(queue).currentFileName(), QStringList(), QString(), QString(), -1);
+    if (!current.load())
+        return true;
+    current.setOptions(settings);
+    return current.save(cups.ppdDefaults());
+}
+
+// Asks once whether to apply what CUPS proposes to resolve conflicting settings. Returns why that could not be saved.
+QString settleConflicts(const QString &queue)
 {
     CupsSupport cups;
     cups.setCurrentPrinter(cups.getQueueIndex(queue));
     const QStringList proposal = cups.conflictResolution();
     if (proposal.isEmpty())
-        return true;
+        return QString();
     const QStringList texts = cups.conflicts();
     QStringList conflicts;
     for (int i = 0; i + 1 < texts.size(); i += 2)
@@ -297,9 +311,11 @@ bool settleConflicts(const QString &queue)
                              + Program::tr("Do you want to change them to the following?") + QLatin1String("\n")
                              + changes.join(QLatin1Char('\n'));
     if (showMessage(QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
-        return true;
+        return QString();
     cups.setOptions(proposal);
-    return cups.setDests() == 0;
+    if (cups.setDests() != 0)
+        return textOfUnsaved(QString::fromUtf8(CupsSupport::getCupsError()));
+    return savePresetOf(proposal, queue, cups) ? QString() : textOfUnsaved(QString());
 }
 
 int editProperties(const std::optional<QString> &named)
@@ -307,15 +323,15 @@ int editProperties(const std::optional<QString> &named)
     QString queue = named.value_or(QString());
     if (const std::optional<int> status = named ? checkQueue(queue) : chooseQueue(&queue))
         return *status;
-    const SaveWatcher watcher;
+    const DialogWatcher watcher;
     const int result = propertiesDialogFor(queue.toUtf8().constData());
-    if (!watcher.failure.isEmpty()) {
-        complain(watcher.failure);
-        return unsaved;
-    }
-    if (result == QDialog::Accepted && !settleConflicts(queue)) {
-        complain(
-            Program::tr("The settings could not be saved: %1").arg(QString::fromUtf8(CupsSupport::getCupsError())));
+    if (!watcher.wasShown) // because the queue or the scheduler has gone
+        return checkQueue(queue).value_or(impossible);
+    QString failure = watcher.failure;
+    if (failure.isEmpty() && result == QDialog::Accepted)
+        failure = settleConflicts(queue);
+    if (!failure.isEmpty()) {
+        complain(failure);
         return unsaved;
     }
     return result == QDialog::Accepted ? saved : cancelled;

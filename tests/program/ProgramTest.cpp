@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
-#include "DriverPpds.h"
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "Programs.h"
@@ -78,6 +77,7 @@ private slots:
     void opensTheDialog();
     void opensTheOnlyQueue();
     void printsTestLabelFromTheList();
+    void chosenPrinterIsGone();
     void defaultIsUnknown();
     void saysThatThereIsNoPrinter_data();
     void saysThatThereIsNoPrinter();
@@ -229,6 +229,16 @@ void ProgramTest::printsTestLabelFromTheList()
     QVERIFY(job.data.startsWith("%PDF"));
 }
 
+// Not as if the user had cancelled.
+void ProgramTest::chosenPrinterIsGone()
+{
+    scheduler.addQueue("Gone");
+    const QString remove = " exec --sync --args 3 lpadmin -x Gone";
+    const Result result = press({}, {{listTitle, "Up" + remove + " key Return"}});
+    QCOMPARE(result.exitStatus, 2);
+    QCOMPARE(result.errors, "label-printer-properties: there is no printer \"Gone\"; --list names those there are\n");
+}
+
 // The user's default may have been removed. The user is told, and not shown another printer unasked.
 void ProgramTest::defaultIsUnknown()
 {
@@ -333,30 +343,41 @@ void ProgramTest::asksAboutConflicts_data()
     QTest::addColumn<QString>("answerKey"); // none if no question is expected
     QTest::addColumn<bool>("isChanged");
     QTest::addColumn<int>("exitStatus");
-    QTest::newRow("taken") << "Return"
+    const QString change = changeMirrored + " Return";
+    QTest::newRow("taken") << change
                            << "Return" << true << 0;
-    QTest::newRow("not taken") << "Return"
+    QTest::newRow("not taken") << change
                                << "Escape" << false << 0;
     QTest::newRow("not asked after Cancel") << "Escape" << QString() << false << 1;
 }
 
-// Cutting at an interval needs another mode than this printer's usual one.
+// This printer cannot print that darkly at its usual speed.
 void ProgramTest::asksAboutConflicts()
 {
     QFETCH(QString, dialogKey);
     QFETCH(QString, answerKey);
-    DriverPpds ppds;
-    scheduler.addQueue("Cutter", ppds.ppd("intelbar"));
-    scheduler.setUserOptions("Cutter", {"inCutInterval=2"});
-    TitlesAndKeys keys{{dialogTitle("Cutter"), dialogKey}};
+    QFETCH(bool, isChanged);
+    scheduler.addQueue("Limited", scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
+                                                      {{"*DefaultFont: Courier",
+                                                        "*UIConstraints: *Darkness 19 *PrintSpeed 3\n"
+                                                        "*UIConstraints: *PrintSpeed 3 *Darkness 19\n"
+                                                        "*DefaultFont: Courier"}}));
+    scheduler.setUserOptions("Limited", {"Darkness=19"});
+    TitlesAndKeys keys{{dialogTitle("Limited"), dialogKey}};
     if (!answerKey.isNull())
         keys.append({listTitle, answerKey});
-    const Result result = press({"-p", "Cutter"}, keys);
-    const Options stored = storedOptions("Cutter");
-    scheduler.removeQueue("Cutter");
+    const Result result = press({"-p", "Limited"}, keys);
+    const Options stored = storedOptions("Limited");
+    const QByteArray script = fileContent(homePath(".cups/Limited/_current.sh"));
+    scheduler.removeQueue("Limited");
+    clearHome();
     QTEST(result.exitStatus, "exitStatus");
-    const bool isAsBefore = stored.value("inCutInterval") == "2" && !stored.contains("inPrintMode");
-    QTEST(!isAsBefore, "isChanged");
+    const bool isAsBefore = stored.value("Darkness") == "19" && stored.value("PrintSpeed", "3") == "3";
+    QCOMPARE(!isAsBefore, isChanged);
+    // Running the script sets the same.
+    for (const QByteArray keyword : {"Darkness", "PrintSpeed"})
+        QCOMPARE(script.contains("-o" + keyword + '=' + stored.value(keyword)),
+                 !script.isEmpty() && stored.contains(keyword));
 }
 
 void ProgramTest::menuEntryIsTranslated_data()
