@@ -99,6 +99,26 @@ void clickMark(const QAbstractButton *button)
     click(button, QPoint(8, button->height() / 2));
 }
 
+// As often as there can be fields before it.
+void tabTo(const QWidget *widget)
+{
+    for (int steps = 0; !widget->hasFocus() && steps < 40; ++steps) {
+        const QWidget *focused = QApplication::focusWidget();
+        press("Tab");
+        if (!QTest::qWaitFor([focused] { return QApplication::focusWidget() != focused; }))
+            return;
+    }
+}
+
+// Return presses the default button.
+void confirm(const QDialog &dialog, bool byPointer)
+{
+    if (byPointer)
+        click(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok));
+    else
+        press("Return");
+}
+
 } // namespace
 
 // If this fails, users of a Wayland desktop cannot work with some dialog by pointer or by keyboard.
@@ -113,10 +133,15 @@ private slots:
     void propertiesByKeyboard();
     void printDialogByPointer();
     void printDialogByKeyboard();
+    void shortPrintDialog_data();
     void shortPrintDialog();
+    void offsetDialog_data();
     void offsetDialog();
+    void passwordDialog_data();
     void passwordDialog();
+    void printerList_data();
     void printerList();
+    void messageBox_data();
     void messageBox();
 
 private:
@@ -167,11 +192,7 @@ void WaylandTest::propertiesByKeyboard()
 
     auto *darkness = t.widget<QSlider>("darknessSlider");
     const int before = darkness->value();
-    for (int steps = 0; !darkness->hasFocus() && steps < 40; ++steps) {
-        const QWidget *focused = QApplication::focusWidget();
-        press("Tab");
-        QTRY_VERIFY(QApplication::focusWidget() != focused);
-    }
+    tabTo(darkness);
     QVERIFY(darkness->hasFocus());
     press("Right");
     QTRY_COMPARE(darkness->value(), before + 1);
@@ -215,73 +236,130 @@ void WaylandTest::printDialogByKeyboard()
     QCOMPARE(dialog.result(), int(QDialog::Rejected));
 }
 
+// The smaller dialogs, each in both ways.
+void WaylandTest::shortPrintDialog_data()
+{
+    QTest::addColumn<bool>("byPointer");
+    QTest::newRow("pointer") << true;
+    QTest::newRow("keyboard") << false;
+}
+
+void WaylandTest::offsetDialog_data()
+{
+    shortPrintDialog_data();
+}
+
+void WaylandTest::passwordDialog_data()
+{
+    shortPrintDialog_data();
+}
+
+void WaylandTest::printerList_data()
+{
+    shortPrintDialog_data();
+}
+
+void WaylandTest::messageBox_data()
+{
+    shortPrintDialog_data();
+}
+
 void WaylandTest::shortPrintDialog()
 {
+    QFETCH(bool, byPointer);
     PrintDialog dialog(nullptr);
     dialog.open();
     QTRY_VERIFY(dialog.isActiveWindow());
-    click(dialog.findChild<QWidget *>("yesButton"));
+    if (byPointer)
+        click(dialog.findChild<QWidget *>("yesButton"));
+    else
+        press("Return");
     QTRY_VERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
 void WaylandTest::offsetDialog()
 {
+    QFETCH(bool, byPointer);
     CupsSupport cups;
     ExtDialog dialog(nullptr, &cups);
     dialog.open();
     QTRY_VERIFY(dialog.isActiveWindow());
 
     auto *list = dialog.findChild<QComboBox *>("offset");
-    list->setFocus();
     list->setCurrentIndex(0);
-    press("Down");
+    if (byPointer) {
+        click(list);
+        QTRY_VERIFY(list->view()->isVisible());
+        const QPoint entry = list->view()->visualRect(list->model()->index(1, 0)).center();
+        click(&dialog, dialog.mapFromGlobal(list->view()->viewport()->mapToGlobal(entry)));
+    } else {
+        tabTo(list);
+        press("Down");
+    }
     QTRY_COMPARE(list->currentIndex(), 1);
-    press("Return");
+    confirm(dialog, byPointer);
     QTRY_VERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
 void WaylandTest::passwordDialog()
 {
+    QFETCH(bool, byPointer);
     PasswordDialog dialog(nullptr, "user", false);
     dialog.open();
     QTRY_VERIFY(dialog.isActiveWindow());
 
     auto *password = dialog.findChild<QLineEdit *>("passwordEdit");
-    click(password);
+    if (byPointer) {
+        dialog.findChild<QLineEdit *>("userEdit")->setFocus();
+        click(password);
+    } else {
+        tabTo(password);
+    }
     QTRY_VERIFY(password->hasFocus());
     for (const char *key : {"a", "b", "c"})
         press(key);
     QTRY_COMPARE(dialog.password(), QString("abc"));
-    press("Return");
+    confirm(dialog, byPointer);
     QTRY_VERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
 void WaylandTest::printerList()
 {
+    QFETCH(bool, byPointer);
     const CupsSupport cups;
     PrinterList dialog(cups, "LP", QString());
     dialog.open();
     QTRY_VERIFY(dialog.isActiveWindow());
 
     auto *printers = dialog.findChild<QTreeWidget *>();
-    click(printers->viewport(), printers->visualItemRect(printers->topLevelItem(1)).center());
+    if (byPointer) {
+        click(printers->viewport(), printers->visualItemRect(printers->topLevelItem(1)).center());
+    } else {
+        tabTo(printers);
+        press("Down");
+    }
     QTRY_COMPARE(dialog.queue(), QString("LP2"));
-    click(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok));
+    confirm(dialog, byPointer);
     QTRY_VERIFY(!dialog.isVisible());
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
 void WaylandTest::messageBox()
 {
-    QTimer::singleShot(0, [] {
+    QFETCH(bool, byPointer);
+    QTimer::singleShot(0, [byPointer] {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         // So that a missed click fails the test and does not hold it up.
         QTimer::singleShot(10000, box, &QDialog::reject);
-        if (QTest::qWaitFor([box] { return box->isActiveWindow(); }))
+        if (!QTest::qWaitFor([box] { return box->isActiveWindow(); }))
+            return;
+        if (byPointer)
             click(box->button(QMessageBox::Yes));
+        else
+            press("Return");
     });
     QCOMPARE(MessageBox::show(QMessageBox::Question, "Title", "Question", QMessageBox::Yes | QMessageBox::No),
              QMessageBox::Yes);
