@@ -4,6 +4,7 @@
 #include "cups/Conflicts.h"
 
 #include "cups/CupsSupport.h"
+#include "cups/OptionArray.h"
 
 #include <cups/cups.h>
 #include <cups/ppd.h>
@@ -16,33 +17,21 @@
 
 namespace {
 
-// An array of libcups' options, freed with the object.
-class OptionArray
+OptionArray toArray(const QStringList &list)
 {
-public:
-    OptionArray() = default;
-    explicit OptionArray(const QStringList &list)
-    {
-        for (int i = 0; i + 1 < list.size(); i += 2)
-            count = cupsAddOption(list.at(i).toLatin1().constData(), list.at(i + 1).toLatin1().constData(), count,
-                                  &options);
-    }
-    ~OptionArray() { cupsFreeOptions(count, options); }
+    OptionArray array;
+    for (QStringList::size_type i = 0; i + 1 < list.size(); i += 2)
+        array.set(list.at(i).toLatin1().constData(), list.at(i + 1).toLatin1().constData());
+    return array;
+}
 
-    OptionArray(const OptionArray &) = delete;
-    OptionArray &operator=(const OptionArray &) = delete;
-
-    QStringList list() const
-    {
-        QStringList items;
-        for (int i = 0; i < count; ++i)
-            items << QString::fromLatin1(options[i].name) << QString::fromLatin1(options[i].value);
-        return items;
-    }
-
-    int count = 0;
-    cups_option_t *options = nullptr;
-};
+QStringList toList(const OptionArray &array)
+{
+    QStringList list;
+    for (const cups_option_t &option : array)
+        list << QString::fromLatin1(option.name) << QString::fromLatin1(option.value);
+    return list;
+}
 
 // Calls a function with each option of the PPD file and its marked choice.
 template<typename Function>
@@ -64,9 +53,8 @@ public:
         forEachMarked(ppd, [this](const ppd_option_t &option, const ppd_choice_t &choice) {
             before.emplace_back(option.keyword, choice.choice);
         });
-        const OptionArray options(list);
         ppdMarkDefaults(ppd);
-        cupsMarkOptions(ppd, options.count, options.options);
+        toArray(list).pass([this](int count, cups_option_t *options) { cupsMarkOptions(ppd, count, options); });
     }
     ~OtherMarks()
     {
@@ -121,9 +109,11 @@ std::vector<Conflicts::Pair> Conflicts::among(const CupsSupport &cups, const QSt
     });
     for (const auto &[option, choice] : inConflict) {
         OptionArray others;
-        others.count = cupsGetConflicts(ppd, option->keyword, choice->choice, &others.options);
+        others.pass([ppd, keyword = option->keyword, text = choice->choice](int &count, cups_option_t *&array) {
+            count = cupsGetConflicts(ppd, keyword, text, &array);
+        });
         for (const auto &[other, otherChoice] : inConflict)
-            if (other != option && cupsGetOption(other->keyword, others.count, others.options))
+            if (other != option && others.value(other->keyword))
                 addPair(pairs, {{QString::fromLatin1(option->keyword), QString::fromLatin1(other->keyword)},
                                 {textOf(*option, *choice), textOf(*other, *otherChoice)}});
     }
@@ -137,8 +127,10 @@ QStringList Conflicts::resolution(const CupsSupport &cups, const QStringList &op
     ppd_file_t *const ppd = cups.getPpdFile();
     const OtherMarks marks(ppd, options);
     OptionArray changes;
-    return cupsResolveConflicts(ppd, nullptr, nullptr, &changes.count, &changes.options) ? changes.list()
-                                                                                         : QStringList();
+    const bool isResolved = changes.pass([ppd](int &count, cups_option_t *&array) {
+        return cupsResolveConflicts(ppd, nullptr, nullptr, &count, &array) != 0;
+    });
+    return isResolved ? toList(changes) : QStringList();
 }
 
 QString Conflicts::text(const CupsSupport &cups, const QString &keyword, const QString &choice)

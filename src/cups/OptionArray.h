@@ -54,6 +54,13 @@ public:
     /** Adds the options of a line of the options file. */
     void parse(const char *text) { count = cupsParseOptions(text, count, &options); }
 
+    /** Passes the array to @p function, which calls a function of libcups with it: (int &count, cups_option_t *&options). */
+    template<typename Function>
+    auto pass(Function function)
+    {
+        return function(count, options);
+    }
+
     /** Null when there is no such option. */
     const char *value(const char *name) const { return cupsGetOption(name, count, options); }
     bool has(const char *name, const char *wanted) const

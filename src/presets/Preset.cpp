@@ -47,7 +47,7 @@ bool isSameValue(QString one, QString other)
 
 } // namespace
 
-struct PROPERTIESDIALOG_NO_EXPORT Preset::Private
+struct Preset::Private
 {
     struct Unparsed
     {

@@ -133,7 +133,7 @@ public:
     /** @} */
 
 private:
-    struct Private;
+    struct Q_DECL_HIDDEN Private;
 
     const std::unique_ptr<Private> d;
 };

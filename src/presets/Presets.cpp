@@ -28,7 +28,7 @@ QString withoutSuffix(QString entry)
 
 } // namespace
 
-struct PROPERTIESDIALOG_NO_EXPORT Presets::Private
+struct Presets::Private
 {
     Preset *firstRemaining() const;
     void drop(Preset *preset);

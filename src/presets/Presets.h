@@ -94,7 +94,7 @@ public:
     void clearPresets();
 
 private:
-    struct Private;
+    struct Q_DECL_HIDDEN Private;
 
     const std::unique_ptr<Private> d;
 };

@@ -344,10 +344,8 @@ void ProgramTest::asksAboutConflicts_data()
     QTest::addColumn<bool>("isChanged");
     QTest::addColumn<int>("exitStatus");
     const QString change = changeMirrored + " Return";
-    QTest::newRow("taken") << change
-                           << "Return" << true << 0;
-    QTest::newRow("not taken") << change
-                               << "Escape" << false << 0;
+    QTest::newRow("taken") << change << "Return" << true << 0;
+    QTest::newRow("not taken") << change << "Escape" << false << 0;
     QTest::newRow("not asked after Cancel") << "Escape" << QString() << false << 1;
 }
 
@@ -357,11 +355,11 @@ void ProgramTest::asksAboutConflicts()
     QFETCH(QString, dialogKey);
     QFETCH(QString, answerKey);
     QFETCH(bool, isChanged);
-    scheduler.addQueue("Limited", scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
-                                                      {{"*DefaultFont: Courier",
-                                                        "*UIConstraints: *Darkness 19 *PrintSpeed 3\n"
-                                                        "*UIConstraints: *PrintSpeed 3 *Darkness 19\n"
-                                                        "*DefaultFont: Courier"}}));
+    scheduler.addQueue("Limited",
+                       scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
+                                           {{"*DefaultFont: Courier", "*UIConstraints: *Darkness 19 *PrintSpeed 3\n"
+                                                                      "*UIConstraints: *PrintSpeed 3 *Darkness 19\n"
+                                                                      "*DefaultFont: Courier"}}));
     scheduler.setUserOptions("Limited", {"Darkness=19"});
     TitlesAndKeys keys{{dialogTitle("Limited"), dialogKey}};
     if (!answerKey.isNull())
