@@ -278,9 +278,9 @@ void DriverForm::markConflicts(const std::vector<Conflicts::Pair> &pairs)
 void DriverForm::mark(QWidget *widget, const QString &text)
 {
     const bool isMarked =
-        std::any_of(marked.begin(), marked.end(), [widget](const auto &known) { return known.first == widget; });
+        std::any_of(marked.begin(), marked.end(), [widget](const Marked &known) { return known.widget == widget; });
     if (!isMarked)
-        marked.emplace_back(widget, widget->toolTip());
+        marked.push_back({widget, widget->toolTip(), widget->accessibleDescription()});
     QPalette palette = widget->palette();
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
         for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
@@ -296,13 +296,13 @@ void DriverForm::mark(QWidget *widget, const QString &text)
 
 void DriverForm::clearMarks()
 {
-    for (const auto &[widget, toolTip] : std::exchange(marked, {})) {
+    for (const auto &[widget, toolTip, description] : std::exchange(marked, {})) {
         widget->setPalette(QPalette());
         if (auto *edit = qobject_cast<QLineEdit *>(widget))
             NumberField::setWarning(edit, QString());
         else
             widget->setToolTip(toolTip);
-        widget->setAccessibleDescription(QString());
+        widget->setAccessibleDescription(description);
     }
 }
 

@@ -75,7 +75,13 @@ private:
     Ui_PrintPropertiesDialog &ui;
     const DriverSettings &driver;
     QLabel *note = nullptr; // owned by the dialog
-    std::vector<std::pair<QWidget *, QString>> marked; // with the tool tips that they had before
+    struct Marked
+    {
+        QWidget *widget;
+        QString toolTip; // and the description, as they were before
+        QString description;
+    };
+    std::vector<Marked> marked;
 };
 
 #endif

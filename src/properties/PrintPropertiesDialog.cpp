@@ -656,6 +656,7 @@ void PrintPropertiesDialog::changeEvent(QEvent *event)
 // All texts except the items of the media type and cut lists, which deliberately keep the language of the opening.
 void PrintPropertiesDialog::Private::retranslate()
 {
+    form.markConflicts({}); // so that the texts behind the marks are translated, too
     // Numbers are not translated, and a stored one beyond the slider's range is shown unchanged.
     const QString speed = ui.speedValue->text();
     const QString darkness = ui.darknessValue->text();
@@ -665,4 +666,5 @@ void PrintPropertiesDialog::Private::retranslate()
     showOwnTexts();
     form.describeFields();
     describeForScreenReaders();
+    markConflicts();
 }

@@ -49,6 +49,7 @@ private slots:
     void queueGetsAnotherDriver();
 
     void conflictsOfAnotherMake();
+    void conflictsInAnotherLanguage();
     void conflictsOfOurOwn();
     void conflictResolution();
 
@@ -99,6 +100,8 @@ void DriversTest::initTestCase()
         "own", scheduler->editedPpd(PrivateScheduler::samplePpd("label-203"),
                                     {{"*DefaultFont: Courier", "*UIConstraints: *Darkness 19 *PrintSpeed 5\n"
                                                                "*UIConstraints: *PrintSpeed 5 *Darkness 19\n"
+                                                               "*UIConstraints: *Darkness 17 *OffsetH 0\n"
+                                                               "*UIConstraints: *OffsetH 0 *Darkness 17\n"
                                                                "*UIConstraints: *PageSize w288h432 *Resolution 203dpi\n"
                                                                "*DefaultFont: Courier"}}));
 }
@@ -678,6 +681,23 @@ void DriversTest::conflictsOfAnotherMake()
     QCOMPARE(open.cups.cupsOptions(), before); // nothing is stored by looking
 }
 
+void DriversTest::conflictsInAnotherLanguage()
+{
+    scheduler->setUserOptions("intelbar", {"inCutInterval=2"});
+    OpenDialog open{QString("intelbar")};
+    open.dialog.show();
+    const QString text = open.widget("cut")->toolTip();
+    {
+        const MarkingTranslator translator; // Qt itself posts the event
+        QCoreApplication::processEvents();
+        QCOMPARE(open.widget("cut")->toolTip(), "PrintPropertiesDialog: " + text);
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(open.widget("cut")->toolTip(), text);
+    open.list("cut")->setCurrentText("Cut After Page");
+    QCOMPARE(open.widget("cut")->toolTip(), QString());
+}
+
 void DriversTest::conflictsOfOurOwn()
 {
     OpenDialog open{QString("own"), {"PrintSpeed", "5", "JobStart", "^FD#1"}};
@@ -693,8 +713,13 @@ void DriversTest::conflictsOfOurOwn()
                 .contains(open.widget("darknessSlider")->toolTip()));
     QCOMPARE(open.widget("speedSlider")->toolTip(), open.widget("darknessSlider")->toolTip());
     QCOMPARE(open.widget("cut")->toolTip(), QString());
+    const QString unit = open.widget("horizontalEdit")->accessibleDescription();
+    open.slide("darknessSlider", 17);
+    QVERIFY(open.widget("horizontalEdit")->accessibleDescription().contains("Darkness: 17"));
     open.slide("darknessSlider", 18);
     QCOMPARE(open.widget("darknessSlider")->toolTip(), QString());
+    QCOMPARE(open.widget("horizontalEdit")->accessibleDescription(), unit);
+    QVERIFY(!unit.isEmpty());
     QCOMPARE(open.cups.cupsOptions(), before);
     open.slide("darknessSlider", 19);
     open.click("applyButton"); // the dialog saves what it is told
