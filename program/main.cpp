@@ -342,7 +342,7 @@ int editProperties(const std::optional<QString> &named)
 int main(int argc, char **argv)
 {
     CommandLine commandLine;
-    std::optional<QByteArray> platforms;
+    std::optional<WindowSystem::Platforms> platforms;
     {
         const QCoreApplication application(argc, argv);
         const Translation translation(Translation::AllTexts);
@@ -364,8 +364,9 @@ int main(int argc, char **argv)
             return complainWithoutWindow(commandLine.queue);
     }
 
-    WindowSystem::Arguments arguments(argv[0], *platforms); // those of the command line are not Qt's
+    WindowSystem::Arguments arguments(argv[0], platforms->names); // those of the command line are not Qt's
     const QApplication application(arguments.count(), arguments.values());
+    platforms.reset();
     const Translation translation(Translation::AllTexts);
     QApplication::setDesktopFileName(QLatin1String(programName));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/b/printer.png")));

@@ -18,25 +18,24 @@
 
 #include <algorithm>
 #include <cstring>
-#include <functional>
 #include <iterator>
 
 namespace {
 
+using Connection = std::shared_ptr<void>;
+
 // Connects as Qt's plug-in does first: this handles names of displays, networks and keys.
-bool xServerAnswers()
+bool xServerAnswers(Connection *connection)
 {
-    using Connection = void;
+    using XcbConnection = void;
     QLibrary xcb(QStringLiteral("xcb"), 1);
-    const auto connect = reinterpret_cast<Connection *(*)(const char *, int *)>(xcb.resolve("xcb_connect"));
-    const auto hasError = reinterpret_cast<int (*)(Connection *)>(xcb.resolve("xcb_connection_has_error"));
-    const auto disconnect = reinterpret_cast<void (*)(Connection *)>(xcb.resolve("xcb_disconnect"));
+    const auto connect = reinterpret_cast<XcbConnection *(*)(const char *, int *)>(xcb.resolve("xcb_connect"));
+    const auto hasError = reinterpret_cast<int (*)(XcbConnection *)>(xcb.resolve("xcb_connection_has_error"));
+    const auto disconnect = reinterpret_cast<void (*)(XcbConnection *)>(xcb.resolve("xcb_disconnect"));
     if (!connect || !hasError || !disconnect)
         return false; // the plug-in needs that library too
-    Connection *connection = connect(nullptr, nullptr);
-    const bool answers = hasError(connection) == 0;
-    disconnect(connection);
-    return answers;
+    connection->reset(connect(nullptr, nullptr), disconnect);
+    return hasError(connection->get()) == 0;
 }
 
 // Whether a server listens on a local socket.
@@ -55,7 +54,7 @@ bool isListening(const QByteArray &path)
 
 // As libwayland: an inherited connection comes first, and a name is one in the folder of the session unless it is a
 // path.
-bool compositorAnswers()
+bool compositorAnswers(Connection *)
 {
     if (qEnvironmentVariableIsSet("WAYLAND_SOCKET"))
         return fcntl(qEnvironmentVariableIntValue("WAYLAND_SOCKET"), F_GETFD) >= 0;
@@ -68,7 +67,7 @@ struct DisplayServer
 {
     const char *platform; // variants of it begin with this name: "wayland-egl"
     const char *variable; // set if there should be one
-    bool (*answers)();
+    bool (*answers)(Connection *); // may leave the connection open
 };
 constexpr DisplayServer displayServers[] = {
     {"xcb", "DISPLAY", xServerAnswers},
@@ -113,11 +112,11 @@ bool pluginLoads(const QByteArray &platform)
 }
 
 // For a platform as QT_QPA_PLATFORM names it, with its arguments: "xcb", "offscreen:configfile=screens.json".
-bool isUsable(const QByteArray &platformWithArguments)
+bool isUsable(const QByteArray &platformWithArguments, Connection *connection)
 {
     const QByteArray platform = platformWithArguments.split(':').constFirst().toLower();
     for (const DisplayServer &server : displayServers)
-        if (platform.startsWith(server.platform) && !server.answers())
+        if (platform.startsWith(server.platform) && !server.answers(connection))
             return false;
     return pluginLoads(platform);
 }
@@ -133,16 +132,18 @@ QByteArrayList platformsWithDisplay()
 
 } // namespace
 
-std::optional<QByteArray> WindowSystem::platforms()
+std::optional<WindowSystem::Platforms> WindowSystem::platforms()
 {
+    Connection connection;
     const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
     QByteArrayList platforms = chosen.isEmpty() ? platformsWithDisplay() : chosen.split(';');
-    platforms.erase(std::remove_if(platforms.begin(), platforms.end(), std::not_fn(isUsable)), platforms.end());
+    const auto isUseless = [&connection](const QByteArray &platform) { return !isUsable(platform, &connection); };
+    platforms.erase(std::remove_if(platforms.begin(), platforms.end(), isUseless), platforms.end());
     if (platforms.isEmpty())
         return std::nullopt;
     // With all of them, the desktop's settings decide. A single one must be named, because otherwise Qt 5 only tries X.
     const bool isAnyGood = chosen.isEmpty() && platforms.size() == int(std::size(displayServers));
-    return isAnyGood ? QByteArray() : platforms.join(';');
+    return Platforms{isAnyGood ? QByteArray() : platforms.join(';'), connection};
 }
 
 WindowSystem::Arguments::Arguments(const QByteArray &program, const QByteArray &platforms)

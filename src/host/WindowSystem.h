@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 
+#include <memory>
 #include <optional>
 
 /**
@@ -16,19 +17,29 @@
  */
 namespace WindowSystem {
 
+/** The platforms that a QApplication can be created with. Must exist until it has been created. */
+struct Platforms
+{
+    QByteArray names; ///< A value for Qt's option "-platform"; empty if Qt's own choice works.
+    /**
+     * To the X server. It resets itself when its last client leaves, and drops connections that are made meanwhile. On a
+     * desktop there are other clients, but not in a kiosk or a test.
+     */
+    std::shared_ptr<void> connection;
+};
+
 /**
- * The platforms that a QApplication can be created with: a value for Qt's option "-platform"; empty if Qt's own choice
- * works. Nothing if no window can be shown.
+ * Nothing if no window can be shown.
  *
  * Needs a QCoreApplication, which knows the folders of plug-ins.
  */
-std::optional<QByteArray> platforms();
+std::optional<Platforms> platforms();
 
 /** The arguments to make a QApplication with. Must outlive it. */
 class Arguments
 {
 public:
-    /** @param program the name of the program. @param platforms what platforms() found. */
+    /** @param program the name of the program. @param platforms the names that platforms() found. */
     Arguments(const QByteArray &program, const QByteArray &platforms);
 
     Arguments(const Arguments &) = delete;

@@ -51,7 +51,7 @@ int runInApplicationOfOurs(const char *queue)
 {
     const QByteArray name("PropertiesDialog");
     HostLocale locale; // changed by any application object
-    std::optional<QByteArray> platforms;
+    std::optional<WindowSystem::Platforms> platforms;
     {
         WindowSystem::Arguments arguments(name, {});
         const QCoreApplication withoutWindows(arguments.count(), arguments.values());
@@ -59,8 +59,9 @@ int runInApplicationOfOurs(const char *queue)
     }
     if (!platforms)
         return 0;
-    WindowSystem::Arguments arguments(name, *platforms);
+    WindowSystem::Arguments arguments(name, platforms->names);
     const QApplication application(arguments.count(), arguments.values());
+    platforms.reset();
     locale.restoreFormats();
     const Translation translation(Translation::AllTexts);
     return runDialog(queue);

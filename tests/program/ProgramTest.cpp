@@ -83,6 +83,7 @@ private slots:
     void saysThatThereIsNoPrinter();
     void saysThatThereIsNoDisplay_data();
     void saysThatThereIsNoDisplay();
+    void opensAsTheOnlyClient();
     void savesForTheNamedQueue();
     void saysWhyItCannotSave_data();
     void saysWhyItCannotSave();
@@ -288,6 +289,25 @@ void ProgramTest::saysThatThereIsNoDisplay()
         QCOMPARE(result.exitStatus, 2);
         QCOMPARE(result.errors, "label-printer-properties: no window can be shown" + reason + '\n');
     }
+}
+
+// This X server ends when its last client leaves it; others are out of reach for a moment then.
+void ProgramTest::opensAsTheOnlyClient()
+{
+    const QString script = "coproc server { exec Xvfb -terminate -displayfd 1 -nolisten tcp 2>/dev/null; }\n"
+                           "files() { ls /proc/$server_PID/fd | wc -l; }\n"
+                           "read -r display <&${server[0]} && export DISPLAY=:$display\n"
+                           "before=$(files)\n"
+                           "\"$@\" & program=$!\n"
+                           // Without a client of its own, the server would not survive the search.
+                           "until (($(files) > before)) || ! kill -0 $program; do sleep 0.01; done\n"
+                           "until xdotool search --onlyvisible --name \"$TITLE\" windowfocus --sync key Escape; do\n"
+                           "  kill -0 $program 2>/dev/null && sleep 0.05 || break\n"
+                           "done\n"
+                           "wait $program";
+    const Environment environment{{"QT_QPA_PLATFORM", "xcb"}, {"TITLE", dialogTitle("First")}};
+    const Result result = Programs::run({"bash", "-c", script, "-", PROGRAM, "-p", "First"}, environment);
+    QVERIFY2(result.exitStatus == 1, qPrintable(QString::number(result.exitStatus) + result.errors));
 }
 
 void ProgramTest::savesForTheNamedQueue()
