@@ -281,13 +281,16 @@ protected:
     }
 };
 
-// Also in the script of the settings last applied, if there is one.
-bool savePresetOf(const QStringList &settings, const QString &queue, const CupsSupport &cups)
+// In the script of the settings last applied, if there is one. From the script itself comes only the page size: values with
+// a blank cannot be read back.
+bool saveAsLastApplied(const CupsSupport &cups)
 {
+    const QString queue = cups.getCurrentQueueName();
     Preset current(queue, Presets(queue).currentFileName(), QStringList(), QString(), QString(), -1);
     if (!current.load())
         return true;
-    current.setOptions(settings);
+    current.clearOptions();
+    current.setOptions(cups.cupsOptions());
     return current.save(cups.ppdDefaults());
 }
 
@@ -315,7 +318,7 @@ QString settleConflicts(const QString &queue)
     cups.setOptions(proposal);
     if (cups.setDests() != 0)
         return textOfUnsaved(QString::fromUtf8(CupsSupport::getCupsError()));
-    return savePresetOf(proposal, queue, cups) ? QString() : textOfUnsaved(QString());
+    return saveAsLastApplied(cups) ? QString() : textOfUnsaved(QString());
 }
 
 int editProperties(const std::optional<QString> &named)

@@ -19,8 +19,8 @@ namespace {
 constexpr mode_t mode = 0666; // reduced by the umask
 
 // These file systems write the content of a file before a name that it takes from another file (ext4 with its journal,
-// without which nothing is certain after a power failure). On others, a power failure soon after the renaming could leave
-// an empty file.
+// without which nothing is certain after a power failure). On others, a power failure soon after the renaming could
+// leave an empty file.
 bool writesContentBeforeName(int fd)
 {
     struct statfs status = {};

@@ -54,7 +54,7 @@ public:
     /** Adds the options of a line of the options file. */
     void parse(const char *text) { count = cupsParseOptions(text, count, &options); }
 
-    /** Passes the array to @p function, which calls a function of libcups with it: (int &count, cups_option_t *&options). */
+    /** Calls @p function(int &count, cups_option_t *&options), which passes the array to a function of libcups. */
     template<typename Function>
     auto pass(Function function)
     {

@@ -22,8 +22,8 @@ struct Platforms
 {
     QByteArray names; ///< A value for Qt's option "-platform"; empty if Qt's own choice works.
     /**
-     * To the X server. It resets itself when its last client leaves, and drops connections that are made meanwhile. On a
-     * desktop there are other clients, but not in a kiosk or a test.
+     * To the X server, which resets itself when its last client leaves, and then drops connections that are being made.
+     * On a desktop there are other clients, but not in a kiosk or a test.
      */
     std::shared_ptr<void> connection;
 };

@@ -61,6 +61,13 @@ public:
     void leaveToPrinter(DriverSettings &changed, const LabelSettings &before, const LabelSettings &now) const;
 
 private:
+    struct Marked
+    {
+        QWidget *widget;
+        QString toolTip; // and the description, as they were before
+        QString description;
+    };
+
     void restrictList(QComboBox *list, const char *setting);
     void restrictEdits();
     void restrictSlider(QSlider *slider, const char *setting);
@@ -75,12 +82,6 @@ private:
     Ui_PrintPropertiesDialog &ui;
     const DriverSettings &driver;
     QLabel *note = nullptr; // owned by the dialog
-    struct Marked
-    {
-        QWidget *widget;
-        QString toolTip; // and the description, as they were before
-        QString description;
-    };
     std::vector<Marked> marked;
 };
 

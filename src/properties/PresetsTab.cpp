@@ -125,8 +125,8 @@ void PrintPropertiesDialog::setCurrentPreset(Preset *preset)
 
 void PrintPropertiesDialog::Private::apply(Preset &preset)
 {
-    // The supported drivers of other makes have no such command; their presets contain the page size as an option. And a script in
-    // place of a preset that has not been written belongs to another program.
+    // The supported drivers of other makes have no such command; their presets contain the page size as an option. And a
+    // script in place of a preset that has not been written belongs to another program.
     const bool hasCommand = !driver.isForeign() && !preset.isNew();
     const QString line = hasCommand ? DriverCommand::lineIn(preset.pathName()) : QString();
     if (!line.isEmpty()) {

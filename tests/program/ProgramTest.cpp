@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PropertiesDialog authors
 // SPDX-License-Identifier: MIT
 
+#include "DriverPpds.h"
 #include "OpenDialog.h"
 #include "PrivateScheduler.h"
 #include "Programs.h"
@@ -22,6 +23,7 @@ using TitlesAndKeys = QList<QPair<QString, QString>>;
 const QString listTitle = "Label Printer Properties";
 
 // Keys for the properties dialog, which opens with the focus on its tabs. Apply gives it back to them.
+const QString useUserPageSize = "Tab space";
 const QString changeMirrored = "Tab Tab Tab space";
 const QString applyIt = "shift+Tab shift+Tab shift+Tab shift+Tab space";
 const QString chooseNextPreset = "Tab Tab Tab Tab Tab Down";
@@ -359,28 +361,36 @@ void ProgramTest::saysWhyItCannotSave()
 
 void ProgramTest::asksAboutConflicts_data()
 {
+    QTest::addColumn<bool>("isOwn"); // otherwise another make's driver
     QTest::addColumn<QString>("dialogKey");
     QTest::addColumn<QString>("answerKey"); // none if no question is expected
-    QTest::addColumn<bool>("isChanged");
+    QTest::addColumn<bool>("isSettled");
     QTest::addColumn<int>("exitStatus");
-    const QString change = changeMirrored + " Return";
-    QTest::newRow("taken") << change << "Return" << true << 0;
-    QTest::newRow("not taken") << change << "Escape" << false << 0;
-    QTest::newRow("not asked after Cancel") << "Escape" << QString() << false << 1;
+    const QString change = useUserPageSize + " Return";
+    QTest::newRow("taken") << true << change << "Return" << true << 0;
+    QTest::newRow("not taken") << true << change << "Escape" << false << 0;
+    QTest::newRow("not asked after Cancel") << true << "Escape" << QString() << false << 1;
+    QTest::newRow("other make, taken") << false << "Return"
+                                       << "Return" << true << 0;
+    QTest::newRow("other make, not taken") << false << "Return"
+                                           << "Escape" << false << 0;
 }
 
-// This printer cannot print that darkly at its usual speed.
+// Our printer cannot print that darkly at its usual speed. The other one needs another mode than its usual one to cut at
+// an interval.
 void ProgramTest::asksAboutConflicts()
 {
+    QFETCH(bool, isOwn);
     QFETCH(QString, dialogKey);
     QFETCH(QString, answerKey);
-    QFETCH(bool, isChanged);
-    scheduler.addQueue("Limited",
-                       scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
-                                           {{"*DefaultFont: Courier", "*UIConstraints: *Darkness 19 *PrintSpeed 3\n"
-                                                                      "*UIConstraints: *PrintSpeed 3 *Darkness 19\n"
-                                                                      "*DefaultFont: Courier"}}));
-    scheduler.setUserOptions("Limited", {"Darkness=19"});
+    const DriverCommand command("exit 0\n");
+    DriverPpds ppds;
+    const QString ownPpd = scheduler.editedPpd(PrivateScheduler::samplePpd("label-203"),
+                                               {{"*DefaultFont: Courier", "*UIConstraints: *Darkness 19 *PrintSpeed 3\n"
+                                                                          "*UIConstraints: *PrintSpeed 3 *Darkness 19\n"
+                                                                          "*DefaultFont: Courier"}});
+    scheduler.addQueue("Limited", isOwn ? ownPpd : ppds.ppd("intelbar"));
+    scheduler.setUserOptions("Limited", {isOwn ? "Darkness=19 JobStart='a b'" : "inCutInterval=2"});
     TitlesAndKeys keys{{dialogTitle("Limited"), dialogKey}};
     if (!answerKey.isNull())
         keys.append({listTitle, answerKey});
@@ -390,12 +400,16 @@ void ProgramTest::asksAboutConflicts()
     scheduler.removeQueue("Limited");
     clearHome();
     QTEST(result.exitStatus, "exitStatus");
-    const bool isAsBefore = stored.value("Darkness") == "19" && stored.value("PrintSpeed", "3") == "3";
-    QCOMPARE(!isAsBefore, isChanged);
-    // Running the script sets the same.
+    const bool isAsBefore = isOwn ? stored.value("Darkness") == "19" && !stored.contains("PrintSpeed")
+                                  : stored.value("inCutInterval") == "2" && !stored.contains("inPrintMode");
+    QTEST(!isAsBefore, "isSettled");
+    // Running the script sets the same. It is only written if something was changed in the dialog.
+    QCOMPARE(script.isEmpty(), !dialogKey.startsWith(useUserPageSize));
     for (const QByteArray keyword : {"Darkness", "PrintSpeed"})
         QCOMPARE(script.contains("-o" + keyword + '=' + stored.value(keyword)),
                  !script.isEmpty() && stored.contains(keyword));
+    for (const char *kept : {"a b", "ppdhack 4.00 2.00 Limited\n"})
+        QCOMPARE(script.contains(kept), !script.isEmpty());
 }
 
 void ProgramTest::menuEntryIsTranslated_data()
